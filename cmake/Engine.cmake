@@ -1,0 +1,22 @@
+# The embedded engine: the encrypted SQLite amalgamation, compiled once, without our warnings and sanitizers.
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(sodium REQUIRED IMPORTED_TARGET libsodium)
+
+set(ENGINE_SOURCES ${CMAKE_SOURCE_DIR}/node_modules/better-sqlite3-multiple-ciphers/deps/sqlite3)
+if(NOT EXISTS ${ENGINE_SOURCES}/sqlite3.c)
+  message(FATAL_ERROR "The engine is missing: run tools/setup first.")
+endif()
+
+add_library(engine STATIC ${ENGINE_SOURCES}/sqlite3.c)
+target_include_directories(engine SYSTEM PUBLIC ${ENGINE_SOURCES})
+target_compile_options(engine PRIVATE -w -O2)
+target_compile_definitions(engine PRIVATE
+  SQLITE_TEMP_STORE=3          # temporary files would be plain text
+  SQLITE_THREADSAFE=2
+  SQLITE_DQS=0
+  SQLITE_OMIT_LOAD_EXTENSION
+  SQLITE_OMIT_SHARED_CACHE
+  SQLITE_DEFAULT_MEMSTATUS=0
+  SQLITE_LIKE_DOESNT_MATCH_BLOBS
+  CODEC_TYPE=CODEC_TYPE_AEGIS)
+target_link_libraries(engine PUBLIC ${CMAKE_DL_LIBS} pthread m)

@@ -1,0 +1,36 @@
+# room(NAME DEPENDS rooms... LINK libraries...): one folder under src/ as one library.
+# Its sources see only the rooms that they may depend on: each room has an include folder of its own with links to
+# itself and to those, so that a forbidden include does not compile.
+
+set(WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+
+function(include_tree target out)
+  set(tree ${CMAKE_SOURCE_DIR}/build/include/${target})
+  file(MAKE_DIRECTORY ${tree})
+  file(GLOB old ${tree}/*)
+  foreach(link ${old})
+    get_filename_component(name ${link} NAME)
+    if(NOT name IN_LIST ARGN)
+      file(REMOVE ${link})
+    endif()
+  endforeach()
+  foreach(name ${ARGN})
+    if(NOT EXISTS ${tree}/${name})
+      file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${name} ${tree}/${name} SYMBOLIC)
+    endif()
+  endforeach()
+  set(${out} ${tree} PARENT_SCOPE)
+endfunction()
+
+function(room name)
+  cmake_parse_arguments(ROOM "" "" "DEPENDS;LINK" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp ${CMAKE_SOURCE_DIR}/src/${name}/layout/*.cpp)
+  if(NOT sources)
+    message(FATAL_ERROR "The room ${name} has no sources.")
+  endif()
+  include_tree(${name} tree ${name} ${ROOM_DEPENDS})
+  add_library(${name} STATIC ${sources})
+  target_include_directories(${name} PRIVATE ${tree})
+  target_compile_options(${name} PRIVATE ${WARNINGS})
+  target_link_libraries(${name} PUBLIC ${ROOM_DEPENDS} ${ROOM_LINK})
+endfunction()

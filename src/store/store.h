@@ -1,0 +1,67 @@
+// The store: the main and the configuration database, units of work, and the way in for record sets.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "store/catalogue.h"
+#include "store/error.h"
+#include "store/value.h"
+
+namespace store {
+
+class Database;  // one open database behind an engine
+
+constexpr std::string_view mainPassword = "kestrelboatfield7416";
+constexpr std::string_view configPassword = "w$rtq!?d3ma9&2p6u4ye";
+
+// The text that names a database, as the session keeps it; path is relative to the program folder, with backslashes.
+std::string connectionText(const std::filesystem::path& programFolder, std::string_view path,
+                           std::string_view password);
+
+class Store {
+ public:
+  // Nothing is opened before the first use. A store without a folder lives in memory (tests).
+  Store();
+  explicit Store(std::filesystem::path programFolder);
+  ~Store();
+  Store(const Store&) = delete;
+  Store& operator=(const Store&) = delete;
+
+  // Points a connection at the database that the text names; opened at its first use. Raises StoreError then, never here.
+  void connect(Connection which, const std::string& connectionText);
+  Database& database(Connection which);  // opens it when it is not open yet
+  void close();
+
+  // Called with true when a wait for another computer has lasted more than 0.2 s, with false when it is over.
+  std::function<void(bool waiting)> onWait;
+
+  // Called by the shell when an event has been handled: reads still under way keep their place, but hold no lock.
+  void settle();
+
+ private:
+  friend class Unit;
+  struct State;
+  std::unique_ptr<State> state_;
+};
+
+// A unit of work: the writes of one action reach the disk together, under the store's write lock, taken at once. When a
+// statement inside is refused, what went before it stays (the screens expect that); when the machine dies inside, nothing
+// of it remains. A unit inside a unit joins it. Never open one across a question to the person.
+class Unit {
+ public:
+  explicit Unit(Store& store, Connection which = Connection::Main);
+  ~Unit();          // writes what has been done, when finish() was not reached because a statement was refused
+  void finish();    // reaches the disk, or raises StoreError: then nothing of it remains
+  static bool openIn(const Store& store);
+
+ private:
+  Store& store_;
+  Connection which_;
+  bool open_ = true;
+};
+
+}  // namespace store
