@@ -1,0 +1,69 @@
+// The Desk: all that a screen may touch, handed to its constructor. There are no globals.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "kit/session.h"
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "platform/printer.h"
+#include "store/store.h"
+
+namespace kit {
+
+class Screen;
+
+// The kinds of message box; the program has no others.
+enum class Box { Stop = 16, Warning = 48, Information = 64, Ask = 36, AskStop = 20, AskInfo = 68 };
+
+class Person {
+ public:
+  virtual ~Person() = default;
+  virtual void tell(Box box, const std::string& text, const std::string& title) = 0;
+  virtual bool ask(Box box, const std::string& text, const std::string& title) = 0;  // true: 是
+  // The file that the person picks; nothing when they leave the dialog. Filter as "caption|*.jpg;*.bmp".
+  virtual std::optional<std::string> chooseFile(const std::string& title, const std::string& filter) = 0;
+};
+
+class Navigator {
+ public:
+  virtual ~Navigator() = default;
+  // Modal: returns when the screen has been closed.
+  template <class S> void open(Desk& desk);
+  // Puts a screen on the desk and returns; the navigator keeps it until it is closed. The program ends with the last one.
+  template <class S> void stand(Desk& desk);
+
+ protected:
+  virtual void run(Screen& screen) = 0;
+  virtual void keep(std::unique_ptr<Screen> screen) = 0;
+};
+
+// Long work tells how far it is; what is shown is repainted during the run.
+class Progress {
+ public:
+  virtual ~Progress() = default;
+  virtual void show(const std::string& text, long long done = 0, long long total = 0) = 0;
+  virtual void hide() = 0;
+};
+
+struct Desk {
+  Session& session;
+  store::Store& store;
+  Person& person;
+  Navigator& navigator;
+  platform::Clock& clock;
+  platform::Printer& printer;
+  platform::Desktop& desktop;
+  Progress& progress;
+};
+
+template <class S> void Navigator::open(Desk& desk) {
+  S screen(desk);
+  run(screen);
+}
+
+template <class S> void Navigator::stand(Desk& desk) { keep(std::make_unique<S>(desk)); }
+
+}  // namespace kit

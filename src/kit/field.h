@@ -1,0 +1,57 @@
+// A field: one text that is shown, typed, or picked from a list.
+#pragma once
+
+#include <optional>
+
+#include "kit/member.h"
+
+namespace kit {
+
+// How a field takes its text. Pick and Choose drop a list down; Pick also takes typed text, Choose does not.
+enum class Entry { Text, Password, Memo, Pick, Choose, Date, Shown };
+
+class Field : public Member {
+ public:
+  Field(Screen& screen, std::string name, std::string label = "", Entry entry = Entry::Text);
+
+  const Entry entry;
+  const std::string& label() const { return label_; }
+  void setLabel(std::string label);
+
+  const std::string& text() const { return text_; }
+  std::string trimmed() const;
+  bool blank() const;
+  void set(std::string text);  // raises change as typing does
+  void clear() { set(""); }
+
+  const std::vector<std::string>& choices() const { return choices_; }
+  void setChoices(std::vector<std::string> choices);
+
+  std::optional<Colour> colour() const { return colour_; }  // of the text
+  void setColour(std::optional<Colour> colour);
+  bool rightAligned = false;  // amounts
+
+  void onChange(Handler handler) { change_.push_back(std::move(handler)); }
+  void onEnter(Handler handler) { enter_.push_back(std::move(handler)); }
+  void onPick(Handler handler) { pick_.push_back(std::move(handler)); }
+  void onDrop(Handler handler) { drop_.push_back(std::move(handler)); }  // before the list shows: fills the choices
+  void onClick(Handler handler) { click_.push_back(std::move(handler)); }
+  void onDoubleClick(Handler handler) { doubleClick_.push_back(std::move(handler)); }
+
+  // The person's side.
+  void type(const std::string& text);  // replaces what stands there; focuses first
+  void enter();                        // without a handler of its own, moves on to the next field or confirms
+  void drop();
+  void pick(const std::string& choice);  // drops the list, then takes the entry
+  void click();
+  void doubleClick();
+
+ private:
+  void replace(std::string text);
+  std::string label_, text_;
+  std::vector<std::string> choices_;
+  std::optional<Colour> colour_;
+  std::vector<Handler> change_, enter_, pick_, drop_, click_, doubleClick_;
+};
+
+}  // namespace kit

@@ -1,0 +1,108 @@
+// Lists: a table of columns says what is shown, a record set fills the rows.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "kit/member.h"
+#include "store/record_set.h"
+
+namespace kit {
+
+class Action;
+
+// Text as it stands; Money "0.00"; Padded money with the blanks that lists show; Date yyyy-m-d; LongDate yyyy年m月d日.
+enum class Format { Text, Money, Padded, Date, LongDate };
+
+std::string formatted(const store::Value& value, Format format);
+
+struct ListColumn {
+  std::string heading;
+  std::string column;  // of the record set; empty: the screen adds the cell itself
+  Format format = Format::Text;
+  int width = 10;      // in Chinese characters
+};
+
+// Cells in one block of memory, so that a million rows stay small and quick.
+class Cells {
+ public:
+  void clear();
+  void add(std::string_view cell);
+  std::size_t count() const { return ends_.size(); }
+  std::string_view at(std::size_t index) const;
+
+ private:
+  std::string bytes_;
+  std::vector<std::uint64_t> ends_;
+};
+
+class List : public Member {
+ public:
+  List(Screen& screen, std::string name, std::vector<ListColumn> columns, std::string label = "");
+
+  const std::vector<ListColumn>& columns() const { return columns_; }
+  void setColumns(std::vector<ListColumn> columns);  // empties the list
+  const std::string label;
+
+  void clear();
+  void addRow(const std::vector<std::string>& cells);
+  // Empties the list and fills it from the set, first to last, by the columns. visit sees each row as it is added.
+  void fill(store::RecordSet& set, const std::function<void(store::RecordSet&)>& visit = {});
+  long long count() const;
+  std::string_view cell(long long row, std::size_t column) const;
+
+  long long selected() const { return selected_; }  // -1: none
+  void setSelected(long long row);                  // raises select
+  std::string key() const;                          // first cell of the selected row, "" when none is selected
+
+  std::vector<Action*> menu;  // pop-up entries, in order; null is a rule between them
+
+  void onSelect(Handler handler) { select_.push_back(std::move(handler)); }
+  void onDoubleClick(Handler handler) { doubleClick_.push_back(std::move(handler)); }
+
+  // The person's side.
+  void select(long long row) { mustBeReachable(); setSelected(row); }
+  void doubleClick(long long row);  // Enter on a row is the same
+
+ private:
+  std::vector<ListColumn> columns_;
+  Cells cells_;
+  long long selected_ = -1;
+  std::vector<Handler> select_, doubleClick_;
+};
+
+// A list over an open record set whose current row an edit screen works on.
+class Grid : public List {
+ public:
+  Grid(Screen& screen, std::string name, store::Store& store, std::vector<ListColumn> columns, std::string label = "",
+       store::Connection connection = store::Connection::Main);
+  void open(const store::Sql& sql);  // shows the set; no row is current
+  void reload();                     // runs the statement again, keeping the selected place as far as it exists
+  store::RecordSet* current();       // the set at the selected row; null when none is selected
+  store::RecordSet& rows() { return set_; }
+
+ private:
+  store::RecordSet set_;
+};
+
+struct TreeNode {
+  std::string key, text;
+  std::vector<TreeNode> children;
+};
+
+class Tree : public Member {
+ public:
+  Tree(Screen& screen, std::string name);
+  const std::vector<TreeNode>& nodes() const { return nodes_; }
+  void set(std::vector<TreeNode> nodes);
+  const TreeNode* selected() const { return selected_; }
+  void onClick(Handler handler) { click_.push_back(std::move(handler)); }
+  void click(const std::string& key);  // the person's side
+
+ private:
+  std::vector<TreeNode> nodes_;
+  const TreeNode* selected_ = nullptr;
+  std::vector<Handler> click_;
+};
+
+}  // namespace kit

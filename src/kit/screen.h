@@ -1,0 +1,69 @@
+// A screen: one class with the screen's given name. Its public members are what a person can see, type into and press;
+// the constructor wires events, load() fills it, layout() says where things stand.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "kit/action.h"
+#include "kit/desk.h"
+#include "kit/field.h"
+#include "kit/layout.h"
+#include "kit/list.h"
+
+namespace kit {
+
+class Screen {
+ public:
+  Screen(Desk& desk, std::string name, std::string title);
+  virtual ~Screen() = default;
+  Screen(const Screen&) = delete;
+  Screen& operator=(const Screen&) = delete;
+
+  virtual void load() {}
+  virtual Layout layout() = 0;
+  // Asked when the person closes the window by its frame or by Escape without a cancel button. True: it may close.
+  virtual bool mayClose() { return true; }
+
+  const std::string name;  // the class's name
+  const std::string& title() const { return title_; }
+  void setTitle(std::string title);
+  void close();            // leaves the screen; what is under way in it goes on to its end
+  bool closed() const { return closed_; }
+  const std::vector<Member*>& members() const { return members_; }
+  std::optional<Colour> backdrop;  // colour of the whole window; the panel colour when not given
+
+  // The edge where events enter: faults of the store and the platform inside the outermost one are shown to the person
+  // in words, and the event ends there.
+  void run(const Handler& event);
+  void start() { run([this] { load(); }); }
+
+  // Enter in a field without a handler of its own: on to the next entry field, from the last one to the confirm action.
+  void moveOnFrom(const Member& member);
+
+  // The view's side.
+  std::function<void()> view;               // title or closed changed
+  std::function<void(Member&)> focusWanted;
+  Member* focused = nullptr;                // where the focus was last asked for or came to stand
+
+ protected:
+  Desk& desk;
+  store::RecordSet rows(const store::Sql& sql) { return store::RecordSet(desk.store, sql); }
+  // Messages in the kinds that the program knows.
+  void stop(const std::string& text, const std::string& title) { desk.person.tell(Box::Stop, text, title); }
+  void warn(const std::string& text, const std::string& title) { desk.person.tell(Box::Warning, text, title); }
+  void inform(const std::string& text, const std::string& title) { desk.person.tell(Box::Information, text, title); }
+  bool ask(const std::string& text, const std::string& title) { return desk.person.ask(Box::Ask, text, title); }
+  bool askStop(const std::string& text, const std::string& title) { return desk.person.ask(Box::AskStop, text, title); }
+  bool askInfo(const std::string& text, const std::string& title) { return desk.person.ask(Box::AskInfo, text, title); }
+  template <class S> void open() { desk.navigator.open<S>(desk); }
+
+ private:
+  friend class Member;
+  std::string title_;
+  bool closed_ = false;
+  int depth_ = 0;
+  std::vector<Member*> members_;
+};
+
+}  // namespace kit

@@ -1,0 +1,66 @@
+// The session: process-wide plain values that screens hand to one another, grouped by the screen that receives them.
+// Nothing of it outlives the program.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "base/money.h"
+#include "store/record_set.h"
+
+namespace kit {
+
+enum class Mode { Add = 1, Modify = 2, Delete = 3 };
+enum class Panel { None = 0, Students = 1, Payments = 2, Arrears = 3, FeeWindow = 4 };
+
+struct Session {
+  // Who works where; written by the login.
+  std::string SessionUser, SessionLevel, ComputerName, SessionStart, SchoolName;
+  std::string MainConnection, ConfigConnection;
+  std::array<bool, 100> Rights{};
+  int ScreenWidth = 0;
+
+  // The front-desk settings, copied from the configuration record.
+  bool print_receipt = false;          // dysz
+  bool open_fee_window = false;        // sfctsz
+  bool only_items = false;             // sfxmmcsz: only the items of the student's standard
+  bool due_rows_ticked = false;        // qfmr
+  bool auto_load_lists = false;        // jfjljz
+  bool arrears_in_remark = false;      // dybzok
+  int receipt_style = 1;               // fpys
+  std::string custom_form;             // todamc1
+  bool switch_layout = false;          // zdqh
+  std::string arrears_item;            // qfjz
+  int reminder_days = 0;               // qfts
+  bool shortfall_opens_arrears = false;  // qfcejz
+  bool standard_basis_class = false;   // bjsf1
+
+  // What an edit screen is opened for, and the record set whose current row it works on (null: none).
+  Mode EditMode = Mode::Add;
+  store::RecordSet* edited = nullptr;
+
+  // The console.
+  Panel ConsolePanel = Panel::None;
+  bool reload_student_list = false, reload_payment_list = false, reload_arrears_list = false;
+  store::Sql student_where, payment_where, arrears_where;
+  std::string student_selection, payment_selection, arrears_selection;
+  int arrears_list_mode = 1, payment_list_mode = 5;
+
+  // The student card and the fee window.
+  std::string current_xh, current_xq;
+  bool fee_normal_mode = true;
+
+  // The arrears entry, and what the fee window's lines held when it opened it.
+  bool arrears_entry_shown = false, from_fee_window = false;
+  struct FeeLine {
+    std::string item;
+    base::Money due, paid;
+  };
+  std::array<FeeLine, 10> fee_lines;
+
+  // Receipt printing.
+  std::string print_fpbh, print_xh, print_xm, print_bjmc, print_xq, print_jffs, print_jfrq;
+  std::array<std::string, 10> receipt_remarks, receipt_summaries;
+};
+
+}  // namespace kit

@@ -1,0 +1,40 @@
+// What is to be printed, as data: pages of texts and lines placed in millimetres from the page's top left corner.
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace platform {
+
+enum class Face { Song, Kai, Hei };  // 宋体, 楷体, 黑体
+
+struct Text {
+  double x = 0, y = 0;      // millimetres; the top left corner of the text's line
+  std::string text;
+  Face face = Face::Song;
+  double size = 10;         // points
+  double fit = 0;           // millimetres the text may take: it shrinks, then is cut with a mark; 0: no limit
+  bool wrap = false;        // within fit, over as many lines as it takes, instead of shrinking
+  friend bool operator==(const Text&, const Text&) = default;
+};
+
+struct Line {
+  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;  // millimetres
+  double width = 0.2;                     // millimetres
+  friend bool operator==(const Line&, const Line&) = default;
+};
+
+using Mark = std::variant<Text, Line>;
+
+struct Page {
+  std::vector<Mark> marks;
+};
+
+struct Drawing {
+  std::string title;                    // of the print job and of the file saved
+  double width = 210, height = 297;     // the paper, millimetres
+  std::vector<Page> pages;
+};
+
+}  // namespace platform
