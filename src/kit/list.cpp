@@ -1,0 +1,148 @@
+#include "kit/list.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "kit/screen.h"
+
+namespace kit {
+
+std::string formatted(const store::Value& value, Format format) {
+  if (value.empty()) return "";
+  switch (format) {
+    case Format::Text: return value.trimmed();
+    case Format::Money: return value.money().fixed2();
+    case Format::Padded: return base::paddedAmount(value.money());
+    case Format::Date:
+    case Format::LongDate: {
+      const auto date = value.date();
+      if (!date) return value.trimmed();
+      return format == Format::Date ? date->plain() : date->chinese();
+    }
+  }
+  return "";
+}
+
+void Cells::clear() {
+  bytes_.clear();
+  ends_.clear();
+}
+
+void Cells::add(std::string_view cell) {
+  bytes_.append(cell);
+  ends_.push_back(bytes_.size());
+}
+
+std::string_view Cells::at(std::size_t index) const {
+  const std::size_t from = index == 0 ? 0 : ends_[index - 1];
+  return std::string_view(bytes_).substr(from, ends_[index] - from);
+}
+
+List::List(Screen& screen, std::string own, std::vector<ListColumn> table, std::string words)
+    : Member(screen, MemberKind::List, std::move(own)), label(std::move(words)), columns_(std::move(table)) {}
+
+void List::setColumns(std::vector<ListColumn> columns) {
+  columns_ = std::move(columns);
+  clear();
+}
+
+void List::clear() {
+  cells_.clear();
+  selected_ = -1;
+  changed();
+}
+
+void List::addRow(const std::vector<std::string>& cells) {
+  if (cells.size() != columns_.size()) throw std::logic_error(name + " takes one cell a column");
+  for (const std::string& cell : cells) cells_.add(cell);
+  changed();
+}
+
+void List::fill(store::RecordSet& set, const std::function<void(store::RecordSet&)>& visit) {
+  cells_.clear();
+  selected_ = -1;
+  store::forEach(set, [&](store::RecordSet& row) {
+    for (const ListColumn& column : columns_)
+      cells_.add(column.column.empty() ? "" : formatted(row.get(column.column), column.format));
+    if (visit) visit(row);
+  });
+  changed();
+}
+
+long long List::count() const {
+  return columns_.empty() ? 0 : static_cast<long long>(cells_.count() / columns_.size());
+}
+
+std::string_view List::cell(long long row, std::size_t column) const {
+  return cells_.at(static_cast<std::size_t>(row) * columns_.size() + column);
+}
+
+void List::setSelected(long long row) {
+  if (row < -1 || row >= count()) throw std::logic_error(name + " has no such row");
+  if (selected_ == row) return;
+  selected_ = row;
+  changed();
+  raise(select_);
+}
+
+std::string List::key() const { return selected_ < 0 ? "" : std::string(cell(selected_, 0)); }
+
+void List::doubleClick(long long row) {
+  mustBeReachable();
+  screen_.run([&] {
+    setSelected(row);
+    raise(doubleClick_);
+  });
+}
+
+Grid::Grid(Screen& screen, std::string own, store::Store& store, std::vector<ListColumn> table, std::string words,
+           store::Connection connection)
+    : List(screen, std::move(own), std::move(table), std::move(words)), set_(store, connection) {}
+
+void Grid::open(const store::Sql& sql) {
+  set_.open(sql);
+  fill(set_);
+}
+
+void Grid::reload() {
+  const long long place = selected();
+  set_.refresh();
+  fill(set_);
+  if (place >= 0 && count() > 0) setSelected(std::min(place, count() - 1));
+}
+
+store::RecordSet* Grid::current() {
+  if (selected() < 0) return nullptr;
+  set_.first();
+  for (long long row = 0; row < selected() && !set_.atEnd(); ++row) set_.next();
+  return set_.atEnd() ? nullptr : &set_;
+}
+
+Tree::Tree(Screen& screen, std::string own) : Member(screen, MemberKind::Tree, std::move(own)) {}
+
+void Tree::set(std::vector<TreeNode> nodes) {
+  nodes_ = std::move(nodes);
+  selected_ = nullptr;
+  changed();
+}
+
+namespace {
+const TreeNode* findNode(const std::vector<TreeNode>& nodes, const std::string& key) {
+  for (const TreeNode& node : nodes) {
+    if (node.key == key) return &node;
+    if (const TreeNode* below = findNode(node.children, key)) return below;
+  }
+  return nullptr;
+}
+}  // namespace
+
+void Tree::click(const std::string& key) {
+  mustBeReachable();
+  const TreeNode* node = findNode(nodes_, key);
+  if (!node) throw std::logic_error(name + " has no node " + key);
+  selected_ = node;
+  changed();
+  raise(click_);
+}
+
+}  // namespace kit
