@@ -28,6 +28,9 @@ class Sql {
   Sql& operator+=(const Value& value);
   template <class T> friend Sql operator+(Sql left, const T& right) { left += right; return left; }
 
+  // "select * from " + a table of the catalogue, with an optional order: for code that is told its table as data.
+  static Sql table(std::string_view table, std::string_view order = "");
+
   bool empty() const { return text_.empty(); }
   const std::string& text() const { return text_; }  // the plain statement, for messages and tests
   // Byte ranges [from, to) of text() that came in as values.
