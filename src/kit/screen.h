@@ -56,6 +56,7 @@ class Screen {
   bool ask(const std::string& text, const std::string& title) { return desk.person.ask(Box::Ask, text, title); }
   bool askStop(const std::string& text, const std::string& title) { return desk.person.ask(Box::AskStop, text, title); }
   bool askInfo(const std::string& text, const std::string& title) { return desk.person.ask(Box::AskInfo, text, title); }
+  void notYet(const std::string& what) { inform("“" + what + "”尚未开放，将在后续版本中提供。", "信息提示"); }
   template <class S> void open() { desk.navigator.open<S>(desk); }
 
  private:

@@ -29,7 +29,12 @@ class Sql {
   template <class T> friend Sql operator+(Sql left, const T& right) { left += right; return left; }
 
   // "select * from " + a table of the catalogue, with an optional order: for code that is told its table as data.
-  static Sql table(std::string_view table, std::string_view order = "");
+  static Sql table(std::string_view table, std::string_view order = "") {
+    Sql sql("select * from ");
+    sql.text_ += table;
+    if (!order.empty()) sql.text_.append(" order by ").append(order);
+    return sql;
+  }
 
   bool empty() const { return text_.empty(); }
   const std::string& text() const { return text_; }  // the plain statement, for messages and tests
