@@ -1,0 +1,37 @@
+#include "kit/validation.h"
+
+#include "base/date.h"
+#include "base/text.h"
+
+namespace kit {
+
+std::function<bool()> blank(const Field& field) {
+  return [&field] { return field.blank(); };
+}
+std::function<bool()> longerThan(const Field& field, std::size_t characters) {
+  return [&field, characters] { return base::length(field.trimmed()) > characters; };
+}
+std::function<bool()> notNumeric(const Field& field) {
+  return [&field] { return !base::isNumeric(field.trimmed()); };
+}
+std::function<bool()> filledNotNumeric(const Field& field) {
+  return [&field] { return !field.blank() && !base::isNumeric(field.trimmed()); };
+}
+std::function<bool()> notDate(const Field& field) {
+  return [&field] { return !base::Date::parse(field.trimmed()); };
+}
+std::function<bool()> filledNotDate(const Field& field) {
+  return [&field] { return !field.blank() && !base::Date::parse(field.trimmed()); };
+}
+
+bool holds(Person& person, const std::vector<Rule>& rules) {
+  for (const Rule& rule : rules) {
+    if (!rule.fails()) continue;
+    person.tell(rule.box, rule.text, rule.title);
+    if (rule.field) rule.field->focus();
+    return false;
+  }
+  return true;
+}
+
+}  // namespace kit

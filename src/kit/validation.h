@@ -1,0 +1,31 @@
+// Validation as data: a table of tests walked in order. The first that fails shows its message, puts the focus in its
+// field and stops.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "kit/screen.h"
+
+namespace kit {
+
+struct Rule {
+  Field* field;                 // takes the focus on failure; null for none
+  std::function<bool()> fails;
+  std::string text, title;
+  Box box = Box::Stop;
+};
+
+// The tests that rules are made of; all look at the trimmed text.
+std::function<bool()> blank(const Field& field);
+std::function<bool()> longerThan(const Field& field, std::size_t characters);
+std::function<bool()> notNumeric(const Field& field);        // blank counts as not numeric
+std::function<bool()> filledNotNumeric(const Field& field);  // blank passes
+std::function<bool()> notDate(const Field& field);           // blank counts as no date
+std::function<bool()> filledNotDate(const Field& field);     // blank passes
+
+// True when every rule holds.
+bool holds(Person& person, const std::vector<Rule>& rules);
+
+}  // namespace kit
