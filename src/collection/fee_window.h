@@ -1,33 +1,11 @@
 // The fee window: an operator at the front desk takes one student's money here, on up to ten lines and one receipt.
 #pragma once
 
-#include <array>
 #include <utility>
 
-#include "kit/screen.h"
+#include "collection/fee_lines.h"
 
 namespace collection {
-
-constexpr int feeLineCount = 10;
-
-// One of the ten lines. It stands for a fee item of the student's standard or, in arrears mode, for an arrears row.
-struct FeeLine {
-  FeeLine(kit::Screen& screen, int index);
-
-  kit::Field place;  // 1 to 10; in arrears mode the planned date bjrq
-  kit::Field sfxm, due;
-  kit::Check tick;  // shown only when there is a due amount
-  kit::Field paid;
-  std::string lsh;  // of the arrears row
-
-  bool hasItem() const { return !sfxm.blank(); }
-  base::Money dueAmount() const { return base::Money::leading(due.text()); }
-  base::Money paidAmount() const { return base::Money::leading(paid.text()); }
-  void offer(base::Money amount);  // shows the due amount and the tick box
-  void clear();
-};
-
-using FeeLines = std::array<FeeLine, feeLineCount>;
 
 class Formzctsf4 : public kit::Screen {  // 收费窗口
  public:
@@ -48,7 +26,7 @@ class Formzctsf4 : public kit::Screen {  // 收费窗口
   kit::Field modeHeading{*this, "modeHeading", "", kit::Entry::Shown};
   kit::Check arrearsMode{*this, "arrearsMode", "加载欠费"};
   kit::Check allLines{*this, "allLines", "全部选择"};
-  FeeLines lines = makeLines(std::make_index_sequence<feeLineCount>());
+  FeeLines lines = makeLines(std::make_index_sequence<std::tuple_size_v<FeeLines>>());
   kit::Field totalDue{*this, "totalDue", "应交总额", kit::Entry::Shown};
   kit::Field totalPaid{*this, "totalPaid", "实交总额", kit::Entry::Shown};
 
