@@ -96,7 +96,7 @@ std::optional<base::Money> loadArrears(store::Store& store, const std::string& x
     const base::Money open = arrears.get("bjje").money() - arrears.get("sbjje").money();
     const auto planned = arrears.get("bjrq").date();
     line.lsh = arrears.get("lsh").trimmed();
-    line.place.set(planned ? planned->plain() : arrears.get("bjrq").trimmed());
+    line.place.set(arrears.get("bjrq").trimmed());
     line.sfxm.set(arrears.get("sfxm").trimmed());
     line.offer(open);
     total += open;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "collection/fee_lines.h"
+#include "collection/payment_ledger.h"
 
 namespace collection {
 
@@ -38,28 +39,32 @@ class Formzctsf4 : public kit::Screen {  // 收费窗口
   template <std::size_t... Index> FeeLines makeLines(std::index_sequence<Index...>) {
     return {FeeLine(*this, static_cast<int>(Index))...};
   }
-  void wireLine(FeeLine& line);
+  // Loading and modes.
   void switchMode();
   void showMode();
   void clearAll();
   void loadStudent();
   void loadLines();
-  void startInLines();
+  void focusFirst();
 
-  void paidChanged(FeeLine& line);
-  bool settleAmount(FeeLine& line);
+  // Ticks, amounts and totals.
+  void wireLine(FeeLine& line);
   void tickAll();
+  void untickAll();
+  void amountChanged(FeeLine& line);
+  bool settleAmount(FeeLine& line);
 
+  // Confirming, in fee_window_confirm.cpp.
   void confirmPayment();
   bool prepareShortfall();
   void enterArrears();
+  void handToArrearsEntry();
   void openArrearsEntry();
   bool valid();
   void save();
+  Receipt receipt() const;
   void writeArrearsRemarks();
   void print(const std::string& fpbh);
-
-  base::Money paidTotal_;
 };
 
 }  // namespace collection
