@@ -11,7 +11,8 @@ using store::Sql;
 std::string member(const char* column, int index) { return column + std::to_string(index); }
 
 // Rows beyond the tenth are dropped: the window has ten lines.
-template <class Show> bool fillLines(RecordSet& rows, FeeLines& lines, Show show) {
+template <class Show>
+bool fillLines(RecordSet& rows, FeeLines& lines, Show show) {
   if (rows.empty()) return false;
   rows.first();
   for (std::size_t index = 0; index < lines.size() && !rows.atEnd(); ++index, rows.next()) show(lines[index], index);
@@ -63,9 +64,8 @@ std::optional<base::Money> loadStandards(store::Store& store, const StandardBasi
 
 std::optional<base::Money> loadAllItems(store::Store& store, const StandardBasis& basis, FeeLines& lines) {
   RecordSet items(store, Sql("select * from sfxmb order by sfxmbh"));
-  const bool any = fillLines(items, lines, [&](FeeLine& line, std::size_t index) {
-    showItem(line, index, items.get("sfxmmc"));
-  });
+  const bool any =
+      fillLines(items, lines, [&](FeeLine& line, std::size_t index) { showItem(line, index, items.get("sfxmmc")); });
   if (!any || base::blank(basis.name)) return std::nullopt;
 
   RecordSet standards(store, basis.byClass ? Sql("select * from sfbzb where bjmc='") + basis.name + "'"
@@ -89,8 +89,8 @@ std::optional<base::Money> loadAllItems(store::Store& store, const StandardBasis
 
 std::optional<base::Money> loadArrears(store::Store& store, const std::string& xh, base::Date today, bool tickDue,
                                        FeeLines& lines) {
-  RecordSet arrears(store, Sql("select * from qfjl where xh='") + xh +
-                               "' and bjje>sbjje and clfs<>'减免' order by lsh");
+  RecordSet arrears(store,
+                    Sql("select * from qfjl where xh='") + xh + "' and bjje>sbjje and clfs<>'减免' order by lsh");
   base::Money total;
   const bool any = fillLines(arrears, lines, [&](FeeLine& line, std::size_t) {
     const base::Money open = arrears.get("bjje").money() - arrears.get("sbjje").money();

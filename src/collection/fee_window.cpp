@@ -51,13 +51,17 @@ void Formzctsf4::load() {
   focusFirst();
 }
 
-// The window opens where the money is: one key ticks all lines, the next confirms. The student's data stand before it in
-// the reading order and are seldom changed. A student without standards starts in the first amount that can be typed.
+// The window opens where the money is: one key ticks all lines, the next confirms. The student's data stand before it
+// in the reading order and are seldom changed. A student without standards starts in the first amount that can be
+// typed.
 void Formzctsf4::focusFirst() {
   const auto first = std::find_if(lines.begin(), lines.end(), [](const FeeLine& line) { return line.hasItem(); });
-  if (allLines.enabled()) allLines.focus();
-  else if (first != lines.end()) first->paid.focus();
-  else xh.focus();
+  if (allLines.enabled())
+    allLines.focus();
+  else if (first != lines.end())
+    first->paid.focus();
+  else
+    xh.focus();
 }
 
 void Formzctsf4::switchMode() {
@@ -82,7 +86,8 @@ void Formzctsf4::clearAll() {
 }
 
 void Formzctsf4::loadStudent() {
-  store::RecordSet student = rows(store::Sql("select * from xs where xh='") + base::trim(desk.session.current_xh) + "'");
+  store::RecordSet student =
+      rows(store::Sql("select * from xs where xh='") + base::trim(desk.session.current_xh) + "'");
   if (!student.empty()) {
     xh.set(student.get("xh").trimmed());
     xm.set(student.get("xm").trimmed());
@@ -108,8 +113,8 @@ void Formzctsf4::loadLines() {
   const kit::Session& session = desk.session;
   const bool byClass = session.standard_basis_class;
   const StandardBasis basis{byClass, (byClass ? bjmc : rxxs).trimmed()};
-  const auto total = !session.fee_normal_mode ? loadArrears(desk.store, base::trim(session.current_xh), desk.clock.today(),
-                                                            session.due_rows_ticked, lines)
+  const auto total = !session.fee_normal_mode ? loadArrears(desk.store, base::trim(session.current_xh),
+                                                            desk.clock.today(), session.due_rows_ticked, lines)
                      : session.only_items     ? loadStandards(desk.store, basis, lines)
                                               : loadAllItems(desk.store, basis, lines);
   if (total) totalDue.set(total->fixed2());

@@ -25,7 +25,8 @@ void Formzctsf4::confirmPayment() {
 bool Formzctsf4::prepareShortfall() {
   kit::Session& session = desk.session;
   const std::string item = base::trim(session.arrears_item);
-  const auto line = std::find_if(lines.begin(), lines.end(), [&](const FeeLine& one) { return one.sfxm.trimmed() == item; });
+  const auto line =
+      std::find_if(lines.begin(), lines.end(), [&](const FeeLine& one) { return one.sfxm.trimmed() == item; });
   if (line == lines.end()) return false;
   const base::Money due = line->dueAmount(), paid = line->paidAmount();
   if (paid >= due) return true;
@@ -59,7 +60,7 @@ void Formzctsf4::openArrearsEntry() { notYet("欠费录入"); }
 
 bool Formzctsf4::valid() {
   const auto nothingPaid = [this] { return base::Money::leading(totalPaid.text()).zero(); };
-  return kit::holds(desk.person, {
+  const std::vector<kit::Rule> rules = {
       {&xh, kit::longerThan(xh, 20), "学号不能超过20个字符 ！       ", "操作提示"},
       {&xh, kit::blank(xh), "学号不能为空 ！       ", "错误提示"},
       {&xm, kit::longerThan(xm, 20), "姓名不能超过20个字符 ！       ", "操作提示"},
@@ -71,13 +72,20 @@ bool Formzctsf4::valid() {
       {&jffs, kit::blank(jffs), "交费方式不能为空 ！       ", "错误提示"},
       {&jffs, kit::longerThan(jffs, 30), "交费方式不能超过30个字符 ！       ", "操作提示"},
       {&lines[0].paid, nothingPaid, "收费总额不能为零 ！     ", "操作提示", kit::Box::Warning},
-  });
+  };
+  return kit::holds(desk.person, rules);
 }
 
 Receipt Formzctsf4::receipt() const {
-  Receipt receipt{.xh = xh.trimmed(), .xm = xm.trimmed(), .bjmc = bjmc.trimmed(), .xq = xq.trimmed(),
-                  .xtbh = base::trim(xtbh), .rxxs = rxxs.trimmed(), .jffs = jffs.trimmed(),
-                  .skr = desk.session.SessionUser, .jfrq = base::Date::parse(jfrq.trimmed()).value(),
+  Receipt receipt{.xh = xh.trimmed(),
+                  .xm = xm.trimmed(),
+                  .bjmc = bjmc.trimmed(),
+                  .xq = xq.trimmed(),
+                  .xtbh = base::trim(xtbh),
+                  .rxxs = rxxs.trimmed(),
+                  .jffs = jffs.trimmed(),
+                  .skr = desk.session.SessionUser,
+                  .jfrq = base::Date::parse(jfrq.trimmed()).value(),
                   .settlesArrears = !desk.session.fee_normal_mode,
                   .lines = {}};
   // 0.00 counts as filled and gets its row.
@@ -94,10 +102,9 @@ void Formzctsf4::writeArrearsRemarks() {
     const auto planned = base::Date::parse(line.place.text());
     const std::string date = planned ? planned->chinese() : line.place.trimmed();
     const base::Money due = line.dueAmount(), paid = line.paidAmount();
-    desk.session.receipt_remarks[index] =
-        paid.zero()   ? "提示：" + date + "应补交" + due.fixed2() + "元！"
-        : paid == due ? "补交" + date + "欠费，此笔结清！"
-                      : "补交" + date + "欠费，还欠" + (due - paid).fixed2() + "元";
+    desk.session.receipt_remarks[index] = paid.zero()   ? "提示：" + date + "应补交" + due.fixed2() + "元！"
+                                          : paid == due ? "补交" + date + "欠费，此笔结清！"
+                                                        : "补交" + date + "欠费，还欠" + (due - paid).fixed2() + "元";
   }
 }
 

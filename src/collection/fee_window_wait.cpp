@@ -4,13 +4,9 @@
 
 namespace collection {
 
-Formzctsf6::Formzctsf6(kit::Desk& desk) : Screen(desk, "Formzctsf6", "收费窗口") {
-  timer.onTick([this] {
-    timer.stop();
-    close();
-    open<Formzctsf4>();
-  });
-  timer.start();
+void Formzctsf6::proceed() {
+  close();  // the fee window stands until the payment is done; the notice must not
+  open<Formzctsf4>();
 }
 
 }  // namespace collection

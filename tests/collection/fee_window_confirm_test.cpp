@@ -15,7 +15,7 @@ TEST(FeeWindowConfirm, WritesTheFilledLinesOnceAndClosesWithoutPrinting) {
   auto window = opened<Formzctsf4>(desk);
   window->lines[0].paid.type("2400.5");  // confirmed by a key, the field was never left
   window->lines[2].paid.type("0");
-  window->lines[7].paid.type("9");       // a line without an item
+  window->lines[7].paid.type("9");  // a line without an item
   window->jfrq.type("2026/08/31");
   window->xq.type(" 2026学年 ");
   desk.expectSaved(false);
@@ -87,7 +87,8 @@ TEST(FeeWindowConfirm, HandsTheReceiptToPrinting) {
     window->jfrq.type("2026-9-6");
     window->allLines.toggle();
     desk.expectSaved(true);
-    if (style != 3) desk.navigator.expect<Formzctsf8>([&](Formzctsf8&) { EXPECT_EQ(desk.session.print_fpbh, "10000001"); });
+    if (style != 3)
+      desk.navigator.expect<Formzctsf8>([&](Formzctsf8&) { EXPECT_EQ(desk.session.print_fpbh, "10000001"); });
     desk.navigator.expect<Formzctsf5>();
     window->confirm.press();
     const kit::Session& s = desk.session;
@@ -163,7 +164,10 @@ struct NoShortfallCase {
 
 TEST(FeeWindowConfirm, WithoutAShortfallItSavesOrDoesNothing) {
   const NoShortfallCase cases[] = {
-      {"学费", true, "2400", 1}, {"学费", true, "2500", 1}, {"学费", false, "2000", 1}, {"班费", true, "2000", 0},
+      {"学费", true, "2400", 1},
+      {"学费", true, "2500", 1},
+      {"学费", false, "2000", 1},
+      {"班费", true, "2000", 0},
   };
   for (const NoShortfallCase& one : cases) {
     FeeDesk desk;
@@ -189,7 +193,8 @@ TEST(FeeWindowConfirm, TheArrearsEntryOpensByHandForAnyNumber) {
   desk.person.expect(Box::Information, "“欠费录入”尚未开放，将在后续版本中提供。", "信息提示");
   window->arrearsEntry.press();
   EXPECT_EQ(desk.session.current_xh + desk.session.arrears_item, "20260002住宿费");
-  EXPECT_TRUE(desk.session.shortfall_opens_arrears && desk.session.from_fee_window && !desk.session.arrears_entry_shown);
+  EXPECT_TRUE(desk.session.shortfall_opens_arrears && desk.session.from_fee_window &&
+              !desk.session.arrears_entry_shown);
 }
 
 }  // namespace

@@ -17,7 +17,8 @@ TEST(FeeWindow, OpensOnTheStudentReadyToTick) {
   desk.threeStandards();
   desk.session.receipt_remarks[4] = "旧备注";
   auto window = opened<Formzctsf4>(desk);
-  EXPECT_EQ(window->xh.text() + window->xm.text() + window->rxrq.text() + window->rxxs.text() + window->bjmc.text() + window->xtbh,
+  EXPECT_EQ(window->xh.text() + window->xm.text() + window->rxrq.text() + window->rxxs.text() + window->bjmc.text() +
+                window->xtbh,
             "20260001王小明2026-9-1统招计算机1班0101001");
   EXPECT_EQ(window->jfrq.text() + window->jffs.text() + window->xq.text(), "2026-9-7现金2026学年下学期");
   EXPECT_EQ(desk.session.receipt_remarks[4], "");
@@ -147,7 +148,7 @@ TEST(FeeWindow, ArrearsModeShowsTheOpenRowsAndBack) {
   FeeDesk desk;
   desk.threeStandards();
   desk.session.due_rows_ticked = true;
-  desk.arrears("20260601003", "住宿费", {2026, 9, 15}, Money::yuan(300));             // eight days away
+  desk.arrears("20260601003", "住宿费", {2026, 9, 15}, Money::yuan(300));                          // eight days away
   desk.arrears("20260601001", "学费", {2026, 9, 14}, Money::yuan(500), Money::yuan(120), "不足");  // seven
   desk.arrears("20260601002", "书本费", {2026, 5, 1}, Money::yuan(60), {}, "减免");
   desk.arrears("20260601004", "书本费", {2026, 5, 1}, Money::yuan(60), Money::yuan(60), "结清");

@@ -36,14 +36,24 @@ TEST(PaymentLedger, NumbersFollowTheLastRow) {
 
 TEST(PaymentLedger, AReceiptIsARowALineUnderOneNumber) {
   support::TestDesk desk;
-  const Receipt receipt{.xh = "20260001", .xm = "王小明", .bjmc = "计算机1班", .xq = "2026学年下学期", .xtbh = "0101001",
-                        .rxxs = "统招", .jffs = "现金", .skr = "李芳", .jfrq = {2026, 8, 31}, .settlesArrears = false,
-                        .lines = {{"学费", Money::yuan(2400), ""}, {"书本费", Money::fen(35050), ""}, {"住宿费", {}, ""}}};
+  const Receipt receipt{
+      .xh = "20260001",
+      .xm = "王小明",
+      .bjmc = "计算机1班",
+      .xq = "2026学年下学期",
+      .xtbh = "0101001",
+      .rxxs = "统招",
+      .jffs = "现金",
+      .skr = "李芳",
+      .jfrq = {2026, 8, 31},
+      .settlesArrears = false,
+      .lines = {{"学费", Money::yuan(2400), ""}, {"书本费", Money::fen(35050), ""}, {"住宿费", {}, ""}}};
   EXPECT_EQ(saveReceipt(desk.store, receipt, morning), "10000001");
   const std::string head = "|20260001|王小明|计算机1班|2026学年下学期|0101001|2026-8-31|10000001|";
   const std::string tail = "|李芳||现金|统招|\n";
   EXPECT_EQ(desk.dump("jfjl", "lsh|xh|xm|bjmc|xq|xtbh|jfrq|fpbh|sfxm|skr|sftj|jffs|rxxs|bz", "lsh"),
-            "202609070001" + head + "学费" + tail + "202609070002" + head + "书本费" + tail + "202609070003" + head + "住宿费" + tail);
+            "202609070001" + head + "学费" + tail + "202609070002" + head + "书本费" + tail + "202609070003" + head +
+                "住宿费" + tail);
   EXPECT_EQ(desk.count("select * from jfjl where sftj=''"), 3);
   EXPECT_EQ(desk.value("select * from jfjl where lsh='202609070002'", "je"), "350.50");
   EXPECT_EQ(desk.value("select * from jfjl where lsh='202609070002'", "bsh"), morning.plain());
@@ -64,7 +74,8 @@ TEST(PaymentLedger, APaymentMovesTheArrearsOn) {
   };
   for (const SettleCase& one : cases) {
     support::TestDesk desk;
-    desk.add("qfjl", {{"lsh", "20260601001"}, {"bjje", Money::yuan(100)}, {"sbjje", one.already}, {"clfs", one.before}});
+    desk.add("qfjl",
+             {{"lsh", "20260601001"}, {"bjje", Money::yuan(100)}, {"sbjje", one.already}, {"clfs", one.before}});
     settleArrears(desk.store, "20260601001", one.paid, morning.date);
     store::RecordSet row(desk.store, "select * from qfjl");
     EXPECT_EQ(row.get("sbjje").money().fixed2(), one.sbjje);
@@ -86,9 +97,19 @@ TEST(PaymentLedger, TwoDesksNeverShareANumber) {
     store::Store own(office.programFolder());
     connect(own, office.programFolder());
     for (int i = 0; i < receipts; ++i)
-      saveReceipt(own, {.xh = "1", .xm = "", .bjmc = "", .xq = "", .xtbh = "", .rxxs = "", .jffs = "", .skr = skr,
-                        .jfrq = morning.date, .settlesArrears = false,
-                        .lines = {{"学费", Money::yuan(1), ""}, {"书本费", Money::yuan(2), ""}}}, morning);
+      saveReceipt(own,
+                  {.xh = "1",
+                   .xm = "",
+                   .bjmc = "",
+                   .xq = "",
+                   .xtbh = "",
+                   .rxxs = "",
+                   .jffs = "",
+                   .skr = skr,
+                   .jfrq = morning.date,
+                   .settlesArrears = false,
+                   .lines = {{"学费", Money::yuan(1), ""}, {"书本费", Money::yuan(2), ""}}},
+                  morning);
   };
   std::vector<pid_t> desks;
   for (const char* skr : {"一号", "二号"}) {
