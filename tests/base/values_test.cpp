@@ -8,17 +8,36 @@ namespace base {
 namespace {
 
 TEST(Words, AmountsAsReceiptsWriteThem) {
-  const struct { const char* amount; const char* words; } cases[] = {
-      {"0", "零分"}, {"0.05", "伍分"}, {"0.50", "伍角零分"}, {"12.30", "壹拾贰元叁角零分"}, {"10.00", "壹拾元零角零分"},
-      {"1005.00", "壹仟零伍元零角零分"}, {"100000", "壹拾元零角零分"}, {"120000", "壹拾贰万元零角零分"},
-      {"10000.50", "壹万元伍角零分"}, {"1000000000", "壹拾元零角零分"}, {"12.349", "壹拾贰元叁角肆分"}};
+  const struct {
+    const char* amount;
+    const char* words;
+  } cases[] = {{"0", "零分"},
+               {"0.05", "伍分"},
+               {"0.50", "伍角零分"},
+               {"12.30", "壹拾贰元叁角零分"},
+               {"10.00", "壹拾元零角零分"},
+               {"1005.00", "壹仟零伍元零角零分"},
+               {"100000", "壹拾元零角零分"},
+               {"120000", "壹拾贰万元零角零分"},
+               {"10000.50", "壹万元伍角零分"},
+               {"1000000000", "壹拾元零角零分"},
+               {"12.349", "壹拾贰元叁角肆分"}};
   for (const auto& c : cases) EXPECT_EQ(AmountInWords(*Money::parse(c.amount)), c.words) << c.amount;
 }
 
 TEST(Money, ReadsWritesAndRounds) {
-  const struct { const char* typed; const char* plain; const char* fixed; const char* padded; } cases[] = {
-      {"5", "5", "5.00", "       5.00"}, {"12.5", "12.5", "12.50", "    12.50"}, {"1234567", "1234567", "1234567.00", " 1234567.00"},
-      {"12345678", "12345678", "12345678.00", "12345678.00"}, {"-0.005", "-0.005", "-0.01", "  -0.01"}, {"0.004", "0.004", "0.00", "   0.00"}, {" 1.00005 ", "1.0001", "1.00", "  1.00"}};
+  const struct {
+    const char* typed;
+    const char* plain;
+    const char* fixed;
+    const char* padded;
+  } cases[] = {{"5", "5", "5.00", "       5.00"},
+               {"12.5", "12.5", "12.50", "    12.50"},
+               {"1234567", "1234567", "1234567.00", " 1234567.00"},
+               {"12345678", "12345678", "12345678.00", "12345678.00"},
+               {"-0.005", "-0.005", "-0.01", "  -0.01"},
+               {"0.004", "0.004", "0.00", "   0.00"},
+               {" 1.00005 ", "1.0001", "1.00", "  1.00"}};
   for (const auto& c : cases) {
     const auto money = Money::parse(c.typed);
     ASSERT_TRUE(money) << c.typed;
@@ -42,8 +61,12 @@ TEST(Text, CountsCharactersAndReadsNumbers) {
   EXPECT_EQ(trim(" \t王 \r\n"), "王");
   EXPECT_EQ(validUtf8("a\xFF\xC3(b"), "a\uFFFD\uFFFD(b");
   EXPECT_EQ(length("\xE4\xBD"), 2u);
-  const struct { const char* text; bool numeric; double leading; } cases[] = {
-      {"12", true, 12}, {" -3.5 ", true, -3.5}, {"", false, 0}, {".", false, 0}, {"12abc", false, 12}, {"1e5", false, 1}, {"１", false, 0}, {"0x1F", false, 0}};
+  const struct {
+    const char* text;
+    bool numeric;
+    double leading;
+  } cases[] = {{"12", true, 12},     {" -3.5 ", true, -3.5}, {"", false, 0},   {".", false, 0},
+               {"12abc", false, 12}, {"1e5", false, 1},      {"１", false, 0}, {"0x1F", false, 0}};
   for (const auto& c : cases) {
     EXPECT_EQ(isNumeric(c.text), c.numeric) << c.text;
     EXPECT_EQ(leadingNumber(c.text), c.leading) << c.text;
@@ -56,15 +79,21 @@ TEST(Text, CountsCharactersAndReadsNumbers) {
 }
 
 TEST(Date, TestsAndForms) {
-  const struct { const char* text; const char* iso; } good[] = {
-      {"2008-9-1", "2008-09-01"}, {"2008/09/01", "2008-09-01"}, {"2008.9.1", "2008-09-01"}, {"2008年9月1日", "2008-09-01"},
-      {" 2008-02-29 10:20:30", "2008-02-29"}};
+  const struct {
+    const char* text;
+    const char* iso;
+  } good[] = {{"2008-9-1", "2008-09-01"},
+              {"2008/09/01", "2008-09-01"},
+              {"2008.9.1", "2008-09-01"},
+              {"2008年9月1日", "2008-09-01"},
+              {" 2008-02-29 10:20:30", "2008-02-29"}};
   for (const auto& c : good) {
     const auto date = Date::parse(c.text);
     ASSERT_TRUE(date) << c.text;
     EXPECT_EQ(date->iso(), c.iso);
   }
-  for (const char* wrong : {"", "2008-2-30", "2007-02-29", "2008-13-1", "08-1-1x", "20080901", "2008-9", "2008-9/1", "2008-9-1 25:00", "abc"})
+  for (const char* wrong : {"", "2008-2-30", "2007-02-29", "2008-13-1", "08-1-1x", "20080901", "2008-9", "2008-9/1",
+                            "2008-9-1 25:00", "abc"})
     EXPECT_FALSE(Date::parse(wrong)) << wrong;
   const Date day{2026, 2, 28};
   EXPECT_EQ(day.plusDays(1).plain(), "2026-3-1");
