@@ -72,6 +72,15 @@ void Picture::doubleClick() {
   raise(doubleClick_);
 }
 
+Frame::Frame(Screen& screen, std::string own, std::string words)
+    : Member(screen, MemberKind::Frame, std::move(own)), title_(std::move(words)) {}
+
+void Frame::setTitle(std::string title) {
+  if (title_ == title) return;
+  title_ = std::move(title);
+  changed();
+}
+
 Timer::Timer(Screen& screen, std::string own, std::chrono::milliseconds every)
     : Member(screen, MemberKind::Timer, std::move(own)), interval(every) {}
 

@@ -75,6 +75,17 @@ class Picture : public Member {
   std::vector<Handler> click_, doubleClick_;
 };
 
+// A titled frame whose title changes or that comes and goes; a group of the layout stands in it.
+class Frame : public Member {
+ public:
+  Frame(Screen& screen, std::string name, std::string title);
+  const std::string& title() const { return title_; }
+  void setTitle(std::string title);
+
+ private:
+  std::string title_;
+};
+
 // A timer of a screen: ticks while it runs and the screen stands. Tests tick it by hand.
 class Timer : public Member {
  public:

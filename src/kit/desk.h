@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "kit/session.h"
 #include "platform/clock.h"
@@ -35,6 +36,11 @@ class Navigator {
   template <class S> void open(Desk& desk);
   // Puts a screen on the desk and returns; the navigator keeps it until it is closed. The program ends with the last one.
   template <class S> void stand(Desk& desk);
+  template <class S> void closeStanding() {
+    for (Screen* screen : standing())
+      if (auto* found = dynamic_cast<S*>(screen)) found->close();
+  }
+  virtual std::vector<Screen*> standing() = 0;  // what stands on the desk, oldest first
 
  protected:
   virtual void run(Screen& screen) = 0;

@@ -17,7 +17,7 @@ struct Node {
     Row,      // children side by side
     Column,   // children one below the other
     Form,     // children as label and entry, in `columns` pairs a row
-    Group,    // a titled frame round the children
+    Group,    // a titled frame round the children; with a member, the frame is that member
     Tabs,     // each child is a Group: its title is the tab's
     Lines,    // a grid with headings; each child is a Row of cells
     Buttons,  // the row of push buttons, on the right
@@ -45,6 +45,12 @@ using Nodes = std::vector<Node>;
 inline Node row(Nodes nodes) { return {Node::Kind::Row, "", std::move(nodes)}; }
 inline Node column(Nodes nodes) { return {Node::Kind::Column, "", std::move(nodes)}; }
 inline Node group(std::string title, Nodes nodes) { return {Node::Kind::Group, std::move(title), std::move(nodes)}; }
+// A group in a frame that the screen titles, shows and hides.
+inline Node group(Frame& frame, Nodes nodes) {
+  Node node(Node::Kind::Group, "", std::move(nodes));
+  node.member = &frame;
+  return node;
+}
 inline Node tabs(Nodes groups) { return {Node::Kind::Tabs, "", std::move(groups)}; }
 inline Node buttons(Nodes actions) { return {Node::Kind::Buttons, "", std::move(actions)}; }
 inline Node heading(std::string text) { return {Node::Kind::Heading, std::move(text)}; }

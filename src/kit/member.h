@@ -12,7 +12,7 @@ class Screen;
 
 using Handler = std::function<void()>;
 
-enum class MemberKind { Field, Check, Choice, Action, List, Tree, Picture, Timer };
+enum class MemberKind { Field, Check, Choice, Action, List, Tree, Picture, Timer, Frame };
 
 struct Colour {
   int red = 0, green = 0, blue = 0;

@@ -65,6 +65,13 @@ void ScriptedNavigator::keep(std::unique_ptr<kit::Screen> screen) {
   kept.back()->start();
 }
 
+std::vector<kit::Screen*> ScriptedNavigator::standing() {
+  std::vector<kit::Screen*> open;
+  for (const auto& screen : kept)
+    if (!screen->closed()) open.push_back(screen.get());
+  return open;
+}
+
 ScriptedNavigator::~ScriptedNavigator() {
   if (!script_.empty()) ADD_FAILURE() << script_.size() << " expected screens were not opened";
 }

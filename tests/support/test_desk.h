@@ -52,11 +52,12 @@ class ScriptedNavigator : public kit::Navigator {
     script_.push_back({typeid(S).name(), [play](kit::Screen& screen) { play(static_cast<S&>(screen)); }});
   }
   // The standing screens, newest last; null when there is none of that class.
-  template <class S> S* standing() {
+  template <class S> S* find() {
     for (auto one = kept.rbegin(); one != kept.rend(); ++one)
       if (auto* found = dynamic_cast<S*>(one->get()); found && !found->closed()) return found;
     return nullptr;
   }
+  std::vector<kit::Screen*> standing() override;
   std::vector<std::unique_ptr<kit::Screen>> kept;
 
  protected:

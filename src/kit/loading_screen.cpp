@@ -1,0 +1,16 @@
+#include "kit/loading_screen.h"
+
+namespace kit {
+
+LoadingScreen::LoadingScreen(Desk& all, std::string own) : Screen(all, std::move(own), "") {
+  text.set("正在加载相关设置，请稍等...");
+  timer.onTick([this] {
+    timer.stop();
+    proceed();
+    close();
+  });
+}
+
+Layout LoadingScreen::layout() { return {.root = column({text}), .width = 420, .height = 110, .frameless = true}; }
+
+}  // namespace kit

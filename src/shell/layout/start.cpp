@@ -1,0 +1,26 @@
+#include "shell/about.h"
+#include "shell/login.h"
+#include "shell/splash.h"
+
+namespace shell {
+
+using namespace kit;
+
+Layout Form1::layout() {
+  return {.root = column({stretch(), product, note("正在启动 ..."), stretch()}), .width = 560, .height = 320, .frameless = true};
+}
+
+// The panel stands at the lower right over the background picture; login_view places it.
+Layout Formcsh5::layout() {
+  return {.root = column({background, group(panel, {school, form({wide(yhxm, 12), wide(yhmm, 12)}), buttons({login, cancel})})}),
+          .confirm = &login,
+          .cancel = &cancel,
+          .frameless = true,
+          .maximised = true};
+}
+
+Layout Formcsh2::layout() {
+  return {.root = column({product, form({version, date}), buttons({cancel})}), .confirm = &cancel, .cancel = &cancel, .width = 420};
+}
+
+}  // namespace shell

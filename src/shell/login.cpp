@@ -1,0 +1,122 @@
+#include "shell/login.h"
+
+#include <filesystem>
+
+#include "base/text.h"
+#include "shell/loading.h"
+#include "shell/start.h"
+#include "upkeep/first_run.h"
+#include "upkeep/password.h"
+#include "upkeep/users.h"
+
+namespace shell {
+
+using store::Connection;
+using store::RecordSet;
+using store::Sql;
+
+Formcsh5::Formcsh5(kit::Desk& all) : Screen(all, "Formcsh5", "") {
+  yhxm.onDrop([this] { fillUsers(); });
+  yhxm.onChange([this] { storedPassword_.clear(), level_.clear(); });
+  yhxm.onPick([this] { chooseUser(); });
+  yhxm.onEnter([this] { chooseUser(); });
+  yhmm.onEnter([this] {
+    if (!yhmm.blank()) logIn();
+  });
+  login.onPress([this] { logIn(); });
+  cancel.onPress([this] { close(); });
+  background.onDoubleClick([this] { nextPicture(); });
+}
+
+void Formcsh5::load() {
+  noteScreenWidth(desk);
+  desk.session.ComputerName = base::left(desk.desktop.computerName(), 255);
+  connect(desk, {"\\mv_Database\\morvanegxgl.mdb", store::mainPassword},
+          {"\\配置文件\\morvanedjpz.mdb", store::configPassword});
+  desk.session.SchoolName = schoolName;
+  school.set(desk.session.SchoolName);
+  if (rows("select * from yhxx").empty()) open<upkeep::Formyhxx4>();
+  RecordSet settings(desk.store, "select * from morvanedjpzb where fn='kqd'", Connection::Config);
+  if (!settings.empty()) showPicture(static_cast<int>(settings.get("tupan").number()));
+  yhxm.focus();
+}
+
+void Formcsh5::showPicture(int number) {
+  if (number < 1 || number > 9) return;
+  const auto file = desk.desktop.programFolder() / "背景图" / ("morvane" + std::to_string(number) + ".jpg");
+  background.set(std::filesystem::exists(file) ? platform::readFile(file) : "");
+}
+
+void Formcsh5::nextPicture() {
+  RecordSet settings(desk.store, "select * from morvanedjpzb where fn='kqd'", Connection::Config);
+  if (settings.empty()) return;
+  const int number = static_cast<int>(settings.get("tupan").number());
+  if (number < 1 || number > 9) return;  // no step leads on from a number without a picture
+  const int next = number % 9 + 1;
+  settings.set("tupan", next);
+  settings.update();
+  showPicture(next);
+}
+
+void Formcsh5::fillUsers() {
+  RecordSet users = rows("select * from yhxx");
+  std::vector<std::string> names;
+  store::forEach(users, [&](RecordSet& user) { names.push_back(user.get("yhxm").trimmed()); });
+  yhxm.setChoices(names);
+}
+
+void Formcsh5::chooseUser() {
+  storedPassword_.clear();
+  level_.clear();
+  RecordSet user = rows(Sql("select * from yhxx where yhxm='") + yhxm.trimmed() + "'");
+  if (user.empty()) return;
+  storedPassword_ = user.get("yhmm").trimmed();
+  level_ = user.get("yhjb").trimmed();
+  yhmm.focus();
+}
+
+void Formcsh5::logIn() {
+  if (yhxm.blank()) return warn("  请选择用户名称 ！              ", "登录提示");
+  if (storedPassword_.empty()) {
+    // Somebody who was not chosen from the list has no business here.
+    stop("用户不合法，系统将关闭 ！       ", "");
+    return close();
+  }
+  if (!upkeep::passwordFits(storedPassword_, yhmm.text())) {
+    stop(" 密码不对，请重新输入 ！       ", "错误提示");
+    yhmm.clear();
+    return yhmm.focus();
+  }
+  desk.session.SessionUser = yhxm.trimmed();
+  desk.session.SessionLevel = level_;
+  panel.show(false);
+  desk.session.Rights = upkeep::rightsOf(desk.store, desk.session.SessionUser, level_);
+  writeLog();
+  desk.navigator.stand<Formcsh1>(desk);
+  storedPassword_.clear();
+  level_.clear();
+}
+
+void Formcsh5::writeLog() {
+  const std::string computer = base::trim(desk.session.ComputerName);
+  const base::DateTime now = desk.clock.now();
+  store::Unit unit(desk.store);
+  RecordSet log = rows(Sql("select * from czjl where jsjmc='") + computer + "'");
+  // The log knows a session by its computer alone: a second copy on this computer marks the first one's row, too.
+  store::forEach(log, [](RecordSet& row) {
+    if (!row.get("gjsj").empty()) return;
+    row.set("gjsj", "强行中断");
+    row.update();
+  });
+  log.addNew();
+  log.set("yhxm", desk.session.SessionUser);
+  log.set("jsjmc", computer);
+  log.set("kjsj", now);
+  log.set("gjsj", "");
+  log.set("bsh", now.plain());
+  log.update();
+  desk.session.SessionStart = log.get("kjsj").text();
+  unit.finish();
+}
+
+}  // namespace shell

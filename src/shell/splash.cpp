@@ -1,0 +1,30 @@
+#include "shell/splash.h"
+
+#include "shell/login.h"
+#include "shell/start.h"
+#include "upkeep/first_run.h"
+
+namespace shell {
+
+Form1::Form1(kit::Desk& all) : Screen(all, "Form1", "") {
+  product.set(productTitle);
+  timer.onTick([this] {
+    if (++ticks_ < 3) return;
+    desk.session.SchoolName = schoolName;
+    timer.stop();
+    desk.navigator.stand<Formcsh5>(desk);
+    close();
+  });
+}
+
+void Form1::load() {
+  noteScreenWidth(desk);
+  connect(desk, {"\\mvdata\\morvanegxgl.mdb", store::mainPassword}, {"\\mvdata\\morvanedjpz.mdb", store::mainPassword});
+  if (rows("select * from yhxx").empty()) {
+    desk.navigator.stand<upkeep::Formyhxx4>(desk);
+    return close();
+  }
+  timer.start();
+}
+
+}  // namespace shell
