@@ -37,11 +37,10 @@ void take(StudentCard& card, std::span<const CardColumn> columns, store::RecordS
 
 }  // namespace
 
-StudentCard readStudentCard(store::Store& store, const std::string& xh) {
-  StudentCard card;
+std::optional<StudentCard> readStudentCard(store::Store& store, const std::string& xh) {
   store::RecordSet student = loadStudent(store, xh);
-  if (student.empty()) return card;
-  card.found = true;
+  if (student.empty()) return std::nullopt;
+  StudentCard card;
   take(card, ofStudent, student);
   card.photo = fromBytes(student.get("xp").bytes());
   store::RecordSet room(store, store::Sql("select * from zsgl2 where xh='") + card.xh + "'");

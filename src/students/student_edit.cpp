@@ -1,6 +1,8 @@
 #include "students/student_edit.h"
 
+#include "base/text.h"
 #include "collection/fee_window.h"
+#include "students/identity_number.h"
 
 namespace students {
 
@@ -16,7 +18,10 @@ Formzctxs::Formzctxs(kit::Desk& all) : Screen(all, "Formzctxs", "学生学籍资
   });
   xb.setChoices({"男", "女"});
   xb.onDoubleClick([this] { xb.set(xb.trimmed() == "男" ? "女" : "男"); });
-  xb.onLeave([this] { settleSex(); });
+  xb.onChange([this] {
+    if (xb.trimmed() == "男" || xb.trimmed() == "女") sex_ = xb.trimmed();
+  });
+  xb.onLeave([this] { xb.set(sex_); });
   for (const PickList& list : pickLists()) wirePickList(list);
   bjmc.onLeave([this] { takeClass(); });
   csrq.onPick([this] { sfzhm.focus(); });
@@ -25,7 +30,10 @@ Formzctxs::Formzctxs(kit::Desk& all) : Screen(all, "Formzctxs", "学生学籍资
   xp.onClick([this] { pickPhoto(); });
   choosePhoto.onPress([this] { pickPhoto(); });
   xssf.onChange([this] { writeCheckBox(); });
-  confirm.onPress([this] { mode_ == Mode::Add ? add() : mode_ == Mode::Modify ? change() : remove(); });
+  confirm.onPress([this] {
+    xb.set(sex_);
+    mode_ == Mode::Add ? add() : mode_ == Mode::Modify ? change() : remove();
+  });
   cancel.onPress([this] { close(); });
 }
 
@@ -54,7 +62,7 @@ void Formzctxs::wirePickList(const PickList& list) {
     list.field->setChoices(std::move(choices));
   });
   list.field->onPick([this, list] {
-    if (list.field == &bjmc) takeClass();
+    if (list.field == &bjmc) takenClass_.clear(), takeClass();
     list.next->focus();
   });
 }
@@ -122,11 +130,6 @@ void Formzctxs::takeClass() {
   // Back in the class they came from, students keep their number: it changes only together with the class.
   const bool back = takenClass_ == former_.bjmc && !former_.xtbh.empty();
   xtbh = back ? former_.xtbh : found->xtbh;
-}
-
-void Formzctxs::settleSex() {
-  if (xb.trimmed() == "男" || xb.trimmed() == "女") sex_ = xb.trimmed();
-  xb.set(sex_);
 }
 
 void Formzctxs::takeIdentity() {

@@ -58,7 +58,6 @@ class Formzctxs : public kit::Screen {  // 学生学籍资料编辑
   void show(const Student& student, const std::string& photo);
   Student typed();
   void takeClass();
-  void settleSex();
   void takeIdentity();
   void pickPhoto();
 
@@ -73,7 +72,7 @@ class Formzctxs : public kit::Screen {  // 学生学籍资料编辑
   std::string formerXh_;   // the record that is worked on
   std::string proposal_;   // offered when the number has a wrong length
   std::string takenClass_; // the class that the major and the system number stand for
-  std::string sex_;        // the last valid one
+  std::string sex_;        // the last valid one: anything else is taken back
   Photo photo_;
 };
 

@@ -1,5 +1,7 @@
 #include "students/student_view.h"
 
+#include <utility>
+
 #include "students/student_records.h"
 
 namespace students {
@@ -29,16 +31,13 @@ void Formzctxsll::load() {
   bz.focus();
 }
 
-// Notes that cannot be saved keep the window open once, so that they can be copied or tried again.
 bool Formzctxsll::mayClose() {
-  bool saved = false;
-  run([&] {
+  try {
     saveNotes();
-    saved = true;
-  });
-  if (!saved && !refused_) {
-    refused_ = true;
-    return false;
+  } catch (const store::StoreError& error) {
+    stop(error.what(), "错误提示");
+    // The window stays open once, so that the notes can be copied or tried again.
+    if (!std::exchange(refused_, true)) return false;
   }
   desk.session.student_selection.clear();
   return true;
