@@ -1,4 +1,5 @@
-// What the setup's short edit screens share: opened to add a row, or to change or delete the row that the grid stands on.
+// What the setup's short edit screens share: opened to add a row, or to change or delete the row that the grid stands
+// on.
 #pragma once
 
 #include "kit/screen.h"

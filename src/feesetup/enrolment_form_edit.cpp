@@ -26,8 +26,8 @@ void Formszrxxs::add() {
   close();
 }
 
-// The standards and the payments of the form keep its old name; students of the new name have no standards until they are
-// set again.
+// The standards and the payments of the form keep its old name; students of the new name have no standards until they
+// are set again.
 void Formszrxxs::modify() {
   if (!ask("修改当前记录将同时修改所有学生的该入学形式名称，您确认继续吗 ？    ", "修改提示")) return;
   const std::string name = rxxs.trimmed();

@@ -25,8 +25,8 @@ std::vector<kit::Rule> Formszsfxm::rules() {
   return {{&sfxmbh, [this] { return base::length(sfxmbh.trimmed()) != 3; },
            "收费项目编号为3个字符,您让它默认就可以 ！　　", "错误提示"},
           {&sfxmmc, kit::longerThan(sfxmmc, 30), "收费项目名称不能大于30个字符 ！　　", "错误提示"},
-          {&sfxmmc, [this] { return sfxmbh.blank() || sfxmmc.blank(); },
-           "收费项目编号与收费项目名称均不能为空 ！　　", "错误提示"},
+          {&sfxmmc, [this] { return sfxmbh.blank() || sfxmmc.blank(); }, "收费项目编号与收费项目名称均不能为空 ！　　",
+           "错误提示"},
           {&sfxmbh, kit::notNumeric(sfxmbh), "请输入数字 ！     ", "错误提示"}};
 }
 
@@ -62,8 +62,8 @@ void Formszsfxm::write() {
   row().update();
 }
 
-// The standards by enrolment form and the setting qfjz keep the old name: they are set again by hand when they are meant
-// to follow.
+// The standards by enrolment form and the setting qfjz keep the old name: they are set again by hand when they are
+// meant to follow.
 void Formszsfxm::rename() {
   const std::string name = sfxmmc.trimmed();
   store::Unit unit(desk.store);
