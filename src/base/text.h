@@ -22,6 +22,8 @@ std::string join(const std::vector<std::string>& parts, std::string_view between
 bool isNumeric(std::string_view text);   // optional sign, digits, optional decimals, blanks around; "" is not numeric
 double leadingNumber(std::string_view text);  // the leading number counts, the rest is ignored, 0 when there is none
 std::string plainNumber(double value);   // shortest plain decimal text, no exponent: 10000002, 12.5
+// A count as captions and messages show it: a number that is not negative gets one blank in front.
+inline std::string caption(long long number) { return (number < 0 ? "" : " ") + std::to_string(number); }
 // The number of a running text number plus one, in plain digits: "0099" gives "100". Exact to 15 digits, rounded beyond
 // as a double is: the numbering rules ask for the step through a number.
 std::string nextNumber(std::string_view text, int step = 1);

@@ -44,6 +44,8 @@ class Store {
 
  private:
   friend class Unit;
+  friend class RecordSet;
+  std::shared_ptr<Database> shared(Connection which);
   struct State;
   std::unique_ptr<State> state_;
 };

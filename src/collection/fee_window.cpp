@@ -1,0 +1,170 @@
+#include "collection/fee_window.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "kit/validation.h"
+
+namespace collection {
+
+constexpr kit::Colour withinDue{0, 0, 255}, aboveDue{255, 0, 255};
+constexpr kit::Colour normalHeading{0, 96, 96}, arrearsHeading{192, 0, 0};
+
+Formzctsf4::Formzctsf4(kit::Desk& all) : Screen(all, "Formzctsf4", "收费窗口") {
+  xq.setTip("新学期收费，请在此修改");
+  confirm.enable(false);
+  arrearsEntry.enable(false);
+  allLines.enable(false);
+  totalDue.rightAligned = totalPaid.rightAligned = true;
+
+  for (FeeLine& line : lines) wireLine(line);
+  xh.onChange([this] { arrearsEntry.enable(!xh.blank()); });
+  jffs.onDrop([this] {
+    store::RecordSet methods = rows("select jffs from jfjl group by jffs");
+    std::vector<std::string> used;
+    store::forEach(methods, [&](store::RecordSet& method) { used.push_back(method.get("jffs").trimmed()); });
+    jffs.setChoices(std::move(used));
+  });
+  totalDue.onChange([this] {
+    allLines.set(false);
+    allLines.enable(!base::Money::leading(totalDue.text()).zero());
+  });
+  allLines.onChange([this] { allLines.on() ? tickAll() : untickAll(); });
+  arrearsMode.onChange([this] { switchMode(); });
+  confirm.onPress([this] { confirmPayment(); });
+  arrearsEntry.onPress([this] { enterArrears(); });
+  cancel.onPress([this] { close(); });
+}
+
+void Formzctsf4::load() {
+  kit::Session& session = desk.session;
+  session.arrears_entry_shown = false;
+  session.receipt_remarks.fill("");
+  session.receipt_summaries.fill("");
+  if (session.fee_normal_mode) {
+    loadStudent();
+    loadLines();
+  } else {
+    arrearsMode.set(true);
+  }
+  showMode();
+  focusFirst();
+}
+
+// The window opens where the money is: one key ticks all lines, the next confirms. The student's data stand before it
+// in the reading order and are seldom changed. A student without standards starts in the first amount that can be
+// typed.
+void Formzctsf4::focusFirst() {
+  const auto first = std::find_if(lines.begin(), lines.end(), [](const FeeLine& line) { return line.hasItem(); });
+  if (allLines.enabled())
+    allLines.focus();
+  else if (first != lines.end())
+    first->paid.focus();
+  else
+    xh.focus();
+}
+
+void Formzctsf4::switchMode() {
+  desk.session.fee_normal_mode = !arrearsMode.on();
+  clearAll();
+  loadStudent();
+  loadLines();
+  showMode();
+}
+
+void Formzctsf4::showMode() {
+  const bool normal = desk.session.fee_normal_mode;
+  arrearsMode.setCaption(normal ? "加载欠费" : "正常收费");
+  modeHeading.set(normal ? "正常收费（按收费标准）" : "补交欠费（按欠费记录）");
+  modeHeading.setColour(normal ? normalHeading : arrearsHeading);
+}
+
+void Formzctsf4::clearAll() {
+  for (FeeLine& line : lines) line.clear();
+  for (kit::Field* field : {&xh, &xm, &rxrq, &rxxs, &bjmc, &xq, &totalDue, &totalPaid}) field->clear();
+  xtbh.clear();
+}
+
+void Formzctsf4::loadStudent() {
+  store::RecordSet student =
+      rows(store::Sql("select * from xs where xh='") + base::trim(desk.session.current_xh) + "'");
+  if (!student.empty()) {
+    xh.set(student.get("xh").trimmed());
+    xm.set(student.get("xm").trimmed());
+    rxrq.set(student.get("rxrq").trimmed());
+    rxxs.set(student.get("rxxs").trimmed());
+    bjmc.set(student.get("bjmc").trimmed());
+    xtbh = student.get("xtbh").trimmed();
+  }
+  jfrq.set(desk.clock.today().plain());
+  jffs.set("现金");
+
+  // The term of the last receipt is offered, whoever paid it; the operator overwrites it once a term.
+  store::RecordSet ledger = rows("select * from jfjl order by fpbh");
+  if (ledger.empty()) {
+    xq.set(base::defaultTerm(desk.clock.today()));
+  } else {
+    ledger.last();
+    xq.set(ledger.get("xq").trimmed());
+  }
+}
+
+void Formzctsf4::loadLines() {
+  const kit::Session& session = desk.session;
+  const bool byClass = session.standard_basis_class;
+  const StandardBasis basis{byClass, (byClass ? bjmc : rxxs).trimmed()};
+  const auto total = !session.fee_normal_mode ? loadArrears(desk.store, base::trim(session.current_xh),
+                                                            desk.clock.today(), session.due_rows_ticked, lines)
+                     : session.only_items     ? loadStandards(desk.store, basis, lines)
+                                              : loadAllItems(desk.store, basis, lines);
+  if (total) totalDue.set(total->fixed2());
+}
+
+void Formzctsf4::wireLine(FeeLine& line) {
+  line.tick.onChange([&line] { line.paid.set(line.tick.on() ? line.due.text() : ""); });
+  line.paid.onChange([this, &line] { amountChanged(line); });
+  line.paid.onLeave([this, &line] { settleAmount(line); });
+}
+
+void Formzctsf4::tickAll() {
+  allLines.setCaption("全部移去");
+  // Filled before emptied: a moment with nothing paid would untick the box again.
+  for (FeeLine& line : lines) {
+    if (line.due.blank()) continue;
+    line.paid.set(line.dueAmount().fixed2());
+    line.tick.set(true);
+  }
+  for (FeeLine& line : lines)
+    if (line.due.blank()) line.paid.clear();
+}
+
+void Formzctsf4::untickAll() {
+  allLines.setCaption("全部选择");
+  for (FeeLine& line : lines) {
+    line.paid.clear();
+    line.tick.set(false);
+  }
+}
+
+void Formzctsf4::amountChanged(FeeLine& line) {
+  base::Money total;
+  for (const FeeLine& one : lines) total += one.paidAmount();
+  totalPaid.set(total.fixed2());
+  confirm.enable(!total.zero());
+  if (std::all_of(lines.begin(), lines.end(), [](const FeeLine& one) { return one.paid.blank(); })) allLines.set(false);
+  if (!line.paid.blank()) line.paid.setColour(line.paidAmount() > line.dueAmount() ? aboveDue : withinDue);
+}
+
+// True when the amount can stand.
+bool Formzctsf4::settleAmount(FeeLine& line) {
+  if (kit::filledNotNumeric(line.paid)()) {
+    stop("金额应该是数字，请输入数字 ！    ", "错误提示");
+    line.paid.clear();
+    line.paid.focus();
+    return false;
+  }
+  line.paid.set(line.hasItem() && !line.paid.blank() ? line.paidAmount().fixed2() : "");
+  return true;
+}
+
+}  // namespace collection

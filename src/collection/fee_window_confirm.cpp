@@ -1,0 +1,140 @@
+// From the confirm button to the last row and the receipt.
+#include <algorithm>
+
+#include "base/text.h"
+#include "collection/fee_window.h"
+#include "collection/receipt_notes.h"
+#include "collection/receipt_print.h"
+#include "kit/settings.h"
+#include "kit/validation.h"
+
+namespace collection {
+
+void Formzctsf4::confirmPayment() {
+  // A key can confirm while an amount is still being typed: it is settled as if the field had been left.
+  if (!std::all_of(lines.begin(), lines.end(), [this](FeeLine& line) { return settleAmount(line); })) return;
+  if (desk.session.fee_normal_mode) {
+    kit::loadArrearsSettings(desk);
+    if (desk.session.shortfall_opens_arrears && !prepareShortfall()) return;
+  }
+  save();
+}
+
+// What the item named by the settings lacks is entered as arrears before the payment is written. False: without a line
+// of that item the button does nothing, until the setting names an item of the window again.
+bool Formzctsf4::prepareShortfall() {
+  kit::Session& session = desk.session;
+  const std::string item = base::trim(session.arrears_item);
+  const auto line =
+      std::find_if(lines.begin(), lines.end(), [&](const FeeLine& one) { return one.sfxm.trimmed() == item; });
+  if (line == lines.end()) return false;
+  const base::Money due = line->dueAmount(), paid = line->paidAmount();
+  if (paid >= due) return true;
+  handToArrearsEntry();
+  session.receipt_remarks[0] =
+      session.arrears_in_remark ? "本期应交" + item + due.fixed2() + "元,欠费" + (due - paid).fixed2() + "元" : "";
+  if (!session.arrears_entry_shown) {
+    openArrearsEntry();
+    session.arrears_entry_shown = true;
+  }
+  return true;
+}
+
+void Formzctsf4::enterArrears() {
+  kit::loadArrearsSettings(desk);
+  desk.session.arrears_entry_shown = false;
+  handToArrearsEntry();
+  openArrearsEntry();
+}
+
+void Formzctsf4::handToArrearsEntry() {
+  kit::Session& session = desk.session;
+  session.from_fee_window = true;
+  session.current_xh = xh.trimmed();
+  session.current_xq = xq.trimmed();
+  for (std::size_t index = 0; index < lines.size(); ++index)
+    session.fee_lines[index] = {lines[index].sfxm.trimmed(), lines[index].dueAmount(), lines[index].paidAmount()};
+}
+
+void Formzctsf4::openArrearsEntry() { notYet("欠费录入"); }
+
+bool Formzctsf4::valid() {
+  const auto nothingPaid = [this] { return base::Money::leading(totalPaid.text()).zero(); };
+  const std::vector<kit::Rule> rules = {
+      {&xh, kit::longerThan(xh, 20), "学号不能超过20个字符 ！       ", "操作提示"},
+      {&xh, kit::blank(xh), "学号不能为空 ！       ", "错误提示"},
+      {&xm, kit::longerThan(xm, 20), "姓名不能超过20个字符 ！       ", "操作提示"},
+      {&xm, kit::blank(xm), "姓名不能为空 ！       ", "错误提示"},
+      {&xq, kit::longerThan(xq, 20), "学年学期不能超过20个字符 ！       ", "操作提示"},
+      {&xq, kit::blank(xq), "学年学期不能为空 ！       ", "错误提示"},
+      {&jfrq, kit::blank(jfrq), "交费日期不能为空 ！       ", "错误提示"},
+      {&jfrq, kit::notDate(jfrq), "日期格式不对,应该为 yyyy-m-d ！       ", "错误提示"},
+      {&jffs, kit::blank(jffs), "交费方式不能为空 ！       ", "错误提示"},
+      {&jffs, kit::longerThan(jffs, 30), "交费方式不能超过30个字符 ！       ", "操作提示"},
+      {&lines[0].paid, nothingPaid, "收费总额不能为零 ！     ", "操作提示", kit::Box::Warning},
+  };
+  return kit::holds(desk.person, rules);
+}
+
+Receipt Formzctsf4::receipt() const {
+  Receipt receipt{.xh = xh.trimmed(),
+                  .xm = xm.trimmed(),
+                  .bjmc = bjmc.trimmed(),
+                  .xq = xq.trimmed(),
+                  .xtbh = base::trim(xtbh),
+                  .rxxs = rxxs.trimmed(),
+                  .jffs = jffs.trimmed(),
+                  .skr = desk.session.SessionUser,
+                  .jfrq = base::Date::parse(jfrq.trimmed()).value(),
+                  .settlesArrears = !desk.session.fee_normal_mode,
+                  .lines = {}};
+  // 0.00 counts as filled and gets its row.
+  for (const FeeLine& line : lines)
+    if (!line.paid.blank()) receipt.lines.push_back({line.sfxm.trimmed(), line.paidAmount(), line.lsh});
+  return receipt;
+}
+
+void Formzctsf4::writeArrearsRemarks() {
+  if (!desk.session.arrears_in_remark) return;
+  for (std::size_t index = 0; index < lines.size(); ++index) {
+    const FeeLine& line = lines[index];
+    if (!line.hasItem()) continue;
+    const auto planned = base::Date::parse(line.place.text());
+    const std::string date = planned ? planned->chinese() : line.place.trimmed();
+    const base::Money due = line.dueAmount(), paid = line.paidAmount();
+    desk.session.receipt_remarks[index] = paid.zero()   ? "提示：" + date + "应补交" + due.fixed2() + "元！"
+                                          : paid == due ? "补交" + date + "欠费，此笔结清！"
+                                                        : "补交" + date + "欠费，还欠" + (due - paid).fixed2() + "元";
+  }
+}
+
+void Formzctsf4::save() {
+  if (!valid()) return;
+  if (!desk.session.fee_normal_mode) writeArrearsRemarks();
+  const std::string fpbh = saveReceipt(desk.store, receipt(), desk.clock.now());
+  // The money is in the ledger now: the window closes whatever the printer says, so that nobody confirms twice. Arrears
+  // mode lasts until the receipt is printed, which looks at it, and never survives a save.
+  const struct Leaving {
+    Formzctsf4& window;
+    ~Leaving() {
+      window.desk.session.fee_normal_mode = true;
+      window.close();
+    }
+  } leaving{*this};
+  if (askInfo("收费操作成功！打印收据吗？      ", "操作提示")) print(fpbh);
+}
+
+void Formzctsf4::print(const std::string& fpbh) {
+  kit::Session& session = desk.session;
+  session.print_fpbh = fpbh;
+  session.print_xh = xh.trimmed();
+  session.print_xm = xm.trimmed();
+  session.print_bjmc = bjmc.trimmed();
+  session.print_xq = xq.trimmed();
+  session.print_jffs = jffs.trimmed();
+  session.print_jfrq = base::Date::parse(jfrq.trimmed()).value().iso();
+  if (session.receipt_style != 3) open<Formzctsf8>();
+  open<Formzctsf5>();
+}
+
+}  // namespace collection

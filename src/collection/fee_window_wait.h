@@ -1,0 +1,16 @@
+// Stands while the fee window loads, so that the operator sees something at once.
+#pragma once
+
+#include "kit/loading_screen.h"
+
+namespace collection {
+
+class Formzctsf6 : public kit::LoadingScreen {  // 收费窗口的等待提示
+ public:
+  explicit Formzctsf6(kit::Desk& desk) : LoadingScreen(desk, "Formzctsf6") {}
+
+ private:
+  void proceed() override;
+};
+
+}  // namespace collection

@@ -1,0 +1,71 @@
+#include "collection/payment_ledger.h"
+
+#include "base/text.h"
+
+namespace collection {
+
+using store::RecordSet;
+using store::Sql;
+
+std::string nextRecordNumber(store::Store& store, base::Date today) {
+  RecordSet ledger(store, Sql("select * from jfjl order by lsh"));
+  if (!ledger.empty()) {
+    ledger.last();
+    const std::string last = ledger.get("lsh").trimmed();
+    if (base::left(last, 8) == today.digits()) return base::nextNumber(last);
+  }
+  return today.digits() + "0001";
+}
+
+std::string nextReceiptNumber(store::Store& store) {
+  RecordSet ledger(store, Sql("select * from jfjl order by fpbh"));
+  if (ledger.empty()) return "10000001";
+  ledger.last();
+  return base::nextNumber(ledger.get("fpbh").trimmed());
+}
+
+void settleArrears(store::Store& store, const std::string& lsh, base::Money paid, base::Date today) {
+  RecordSet row(store, Sql("select * from qfjl where lsh='") + lsh + "'");
+  if (row.empty()) return;
+  const base::Money due = row.get("bjje").money();
+  const base::Money settled = row.get("sbjje").money() + paid;
+  row.set("sbjrq", today.plain());
+  row.set("sbjje", settled);
+  // An overpaid row keeps the state it had.
+  if (due > settled) row.set("clfs", "不足");
+  if (due == settled) row.set("clfs", "结清");
+  row.update();
+}
+
+std::string saveReceipt(store::Store& store, const Receipt& receipt, base::DateTime now) {
+  store::Unit unit(store);
+  const std::string firstLsh = nextRecordNumber(store, now.date);
+  const std::string fpbh = nextReceiptNumber(store);
+  RecordSet ledger(store, Sql("select * from jfjl"));
+  int counter = 0;
+  for (const PaidLine& line : receipt.lines) {
+    ledger.addNew();
+    ledger.set("lsh", base::nextNumber(firstLsh, counter++));
+    ledger.set("xh", receipt.xh);
+    ledger.set("xm", receipt.xm);
+    ledger.set("bjmc", receipt.bjmc);
+    ledger.set("xq", receipt.xq);
+    ledger.set("xtbh", receipt.xtbh);
+    ledger.set("jfrq", receipt.jfrq.plain());
+    ledger.set("fpbh", fpbh);
+    ledger.set("sfxm", line.sfxm);
+    ledger.set("je", line.je.fixed2());
+    ledger.set("skr", receipt.skr);
+    ledger.set("bsh", now.plain());
+    ledger.set("sftj", "");
+    ledger.set("jffs", receipt.jffs);
+    ledger.set("rxxs", receipt.rxxs);
+    ledger.update();
+  }
+  if (receipt.settlesArrears)
+    for (const PaidLine& line : receipt.lines) settleArrears(store, line.arrearsLsh, line.je, now.date);
+  unit.finish();
+  return fpbh;
+}
+
+}  // namespace collection

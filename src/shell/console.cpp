@@ -1,0 +1,157 @@
+#include "shell/console.h"
+
+#include "base/text.h"
+#include "collection/fee_window.h"
+#include "feesetup/desk_settings.h"
+#include "feesetup/setup.h"
+#include "kit/settings.h"
+#include "shell/about.h"
+#include "shell/rights.h"
+#include "students/student_edit.h"
+#include "upkeep/password_change.h"
+#include "upkeep/user_list.h"
+#include "upkeep/user_rights.h"
+
+namespace shell {
+
+using store::RecordSet;
+using store::Sql;
+
+Formzct::Formzct(kit::Desk& all) : Screen(all, "Formzct", ""), ConsoleMenu(static_cast<kit::Screen&>(*this)) {
+  wireMenu();
+  wireToolbar();
+  wireFront();
+  wireOverviews();
+  timer2.onTick([this] { sharing.refresh(); });
+}
+
+void Formzct::load() {
+  settle(desk, {{cd11, {Income}},
+                {cd121, {Recommendation}},
+                {cd21, {SystemSettings}},
+                {cd14, {ClassTransfer}},
+                {cd31, {Users}},
+                {cd33, {GrantRights}},
+                {cd34, {Initialise}},
+                {class_strip, {Collect}}});
+  for (Overview* overview : {&students_overview, &payments_overview, &arrears_overview}) overview->settle(desk);
+  loadAllSettings();
+  ready.set("就绪");
+  user.set("当前用户：" + desk.session.SessionUser + " 级别：" + desk.session.SessionLevel);
+  third.set("今天是 " + desk.clock.today().chinese());
+  setTitle(desk.session.SchoolName + "综合管理系统 收费前台");
+  clearCard();
+  classes.fillTree();
+  sharing.refresh();
+  timer2.start();
+  card.xh.focus();
+}
+
+void Formzct::wireMenu() {
+  const auto opens = [this](kit::Action& entry, auto open) { entry.onPress(open); };
+  opens(cd13, [this] { leaveProgram(); });
+  opens(cd21, [this] { open<feesetup::Formsz>(); classes.fillTree(); });
+  opens(cd22, [this] { openOverview(students_overview); });
+  opens(cd23, [this] { openOverview(payments_overview); });
+  opens(cd24, [this] { openOverview(arrears_overview); });
+  opens(cd31, [this] { open<upkeep::Formyhxx>(); });
+  opens(cd32, [this] { open<upkeep::Formyhxx3>(); });
+  opens(cd33, [this] { open<upkeep::Formyhxx1>(); });
+  opens(cd43, [this] { open<Formcsh2>(); });
+  for (kit::Action* entry : {&cd11, &cd121, &cd77, &cd70, &cd75, &cd71, &cd72, &cd14, &cd73, &cd76, &cd74, &cd34, &cd41,
+                             &cd42, &cd44, &cd510, &cd63, &cd61, &cd62, &cd91, &cd92})
+    entry->onPress([this, entry] { notYet(entry->caption()); });
+}
+
+void Formzct::wireToolbar() {
+  k2.onPress([this] { openOverview(students_overview); });
+  k3.onPress([this] { openOverview(payments_overview); });
+  k4.onPress([this] { openOverview(arrears_overview); });
+  k10.onPress([this] { leaveProgram(); });
+  k1.onPress([this] {
+    if (!may(desk, Collect)) return;
+    open<feesetup::Formszqt>();
+    loadAllSettings();
+  });
+  k5.onPress([this] {
+    if (!may(desk, NewStudent)) return;
+    closeOverviews();
+    desk.session.EditMode = kit::Mode::Add;
+    open<students::Formzctxs>();
+    showStudent();
+  });
+  k20.onPress([this] {
+    if (!may(desk, Collect)) return refuse(desk);
+    refreshCard();
+    notYet(k20.caption());
+  });
+  k6.onPress([this] {
+    if (!may(desk, Collect)) return refuse(desk);
+    closeOverviews();
+    notYet(k6.caption());
+  });
+  k11.onPress([this] {
+    if (!may(desk, Collect)) return refuse(desk);
+    refreshCard();
+    if (rows(Sql("select * from zsgl2 where xh='") + card.xh.trimmed() + "'").count() > 0)
+      return inform("该生是住校生！若您要调整该生宿舍或床位请后台操作！      ", "信息提示");
+    if (desk.session.current_xh.empty()) return inform("前台无学生信息时不能进行此操作！   ", "操作提示");
+    notYet(k11.caption());
+  });
+  // One chain over the three panels, not tied to the one in front: to reach panel 3 a user needs the rights of 1 and 2,
+  // and one with the first right alone gets the action and then the refusal.
+  const auto chain = [this](kit::Action& button, std::array<int, 3> rights) {
+    button.onPress([this, &button, rights] {
+      for (int panel = 1; panel <= 3; ++panel) {
+        if (!may(desk, rights[static_cast<std::size_t>(panel - 1)])) return refuse(desk);
+        if (desk.session.ConsolePanel == static_cast<kit::Panel>(panel)) notYet(button.caption());
+      }
+    });
+  };
+  chain(k7, {StudentQuery, PaymentQuery, ArrearsQuery});
+  chain(k8, {StudentQuery, PaymentQuery, ArrearsQuery});
+  chain(k9, {StudentClear, PaymentClear, ArrearsClear});
+}
+
+void Formzct::loadAllSettings() {
+  if (!kit::loadSettings(desk)) return;
+  classes.opensFeeWindow.set(desk.session.open_fee_window);
+}
+
+void Formzct::leaveProgram() {
+  if (mayClose()) close();
+}
+
+bool Formzct::mayClose() {
+  bool leaving = false;
+  run([&] { leaving = sayGoodbye(); });
+  return leaving;
+}
+
+bool Formzct::sayGoodbye() {
+  if (!ask("您确认是要退出本系统吗？   \n选择“是”将关闭本窗口\n或者选择“否”撤消此操作！                     ", "确认退出"))
+    return false;
+  RecordSet session = rows(Sql("select * from czjl where kjsj='") + base::trim(desk.session.SessionStart) + "' and jsjmc='" +
+                           base::trim(desk.session.ComputerName) + "'");
+  if (!session.empty()) {
+    session.set("gjsj", desk.clock.now().plain());
+    session.update();
+  }
+  const auto folder = desk.desktop.programFolder();
+  const int width = static_cast<int>(base::leadingNumber(platform::readFile(folder / "Screen.txt")));
+  desk.session.ScreenWidth = width;
+  struct Mode {
+    int wide, high;
+  };
+  constexpr Mode modes[] = {{800, 600}, {960, 600}, {1152, 864}, {1280, 800}};
+  // Any other width, the wide screens of today among them, asks for 1024 by 768: the mode the office's old screens kept.
+  Mode mode{1024, 768};
+  for (const Mode& known : modes)
+    if (known.wide == width) mode = known;
+  if (width != 1024) desk.desktop.SetDisplayMode(mode.wide, mode.high, 32, 75);
+  if (ask("退出之前是否备份数据库？        ", "备份提示") && !desk.desktop.startProgram(folder / "备份数据库.exe"))
+    warn("备份程序未能启动，请联系管理员检查备份程序是否已安装。", "备份提示");
+  return true;
+}
+
+}  // namespace shell

@@ -1,0 +1,77 @@
+// The console: the one main screen. It opens after the login and stands until the program ends; every other screen is
+// reached from here.
+#pragma once
+
+#include "shell/console_front.h"
+#include "shell/console_menu.h"
+#include "shell/console_overview.h"
+
+namespace shell {
+
+class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
+ public:
+  explicit Formzct(kit::Desk& desk);
+  void load() override;
+  kit::Layout layout() override;
+  bool mayClose() override;  // asks, closes the session's row in the log, offers the backup
+
+  CardFrame card{*this};
+  PaymentsFrame payments{*this, desk};
+  ArrearsFrame arrears{*this, desk};
+  SharingFrame sharing{*this, desk};
+  ClassPanel classes{*this, desk};
+  kit::Action class_strip{*this, "class_strip", "专业及班级", "list-tree"};  // slides the panel of classes in and out
+
+  Overview students_overview{*this, studentsPlan};
+  Overview payments_overview{*this, paymentsPlan};
+  Overview arrears_overview{*this, arrearsPlan};
+
+  kit::Field notice{*this, "notice", "", kit::Entry::Shown};
+  kit::Field ready{*this, "ready", "", kit::Entry::Shown}, user{*this, "user", "", kit::Entry::Shown},
+      third{*this, "third", "", kit::Entry::Shown};
+
+  kit::Timer timer1{*this, "timer1", std::chrono::milliseconds(200)};    // opens an overview, once its notice is painted
+  kit::Timer timer2{*this, "timer2", std::chrono::milliseconds(30000)};  // refreshes the sharing status
+  kit::Timer timer4{*this, "timer4", std::chrono::milliseconds(100)};    // refills an overview after its query
+
+ private:
+  // console.cpp: wiring, load, exit.
+  void wireMenu();
+  void wireToolbar();
+  void wireFront();
+  void loadAllSettings();
+  void leaveProgram();
+  bool sayGoodbye();
+
+  // console_student.cpp: the student in hand.
+  void findByNumber();
+  void findByName();
+  void found(const std::string& xh, const std::string& notFoundText);
+  void titleFrames();
+  void clearCard();
+  void showStudent();
+  void redrawLists();
+  void refreshCard();
+  void openFeeWindow();
+  void openFeeWindowFor(kit::List& list, const char* table);
+  void pickFromClass();
+  void enablePaymentEntries(bool listed);
+  void enableArrearsEntries(bool listed);
+  void showPayments();
+  void showArrears();
+  void reprint();
+  void deletePayments(bool wholeReceipt);
+
+  // console_panels.cpp: the overviews.
+  void wireOverviews();
+  Overview* inFront();
+  void openOverview(Overview& overview);
+  void closeOverviews();
+  void fill(Overview& overview);
+  void openPanel();
+  void refillAfterQuery();
+  void editStudent(kit::Mode mode);
+  void stampKeyedRows(const char* table);
+};
+
+}  // namespace shell

@@ -1,0 +1,189 @@
+#include "shell/console_front.h"
+
+#include "base/text.h"
+
+namespace shell {
+
+using store::RecordSet;
+using store::Sql;
+using students::StudentCard;
+
+namespace {
+
+struct CardLine {
+  const char* name;
+  const char* label;
+  std::string StudentCard::*shows;
+};
+
+constexpr CardLine cardLines[] = {
+    {"xb", "性别", &StudentCard::xb},          {"csrq", "出生日期", &StudentCard::csrq},
+    {"sfzhm", "身份证号", &StudentCard::sfzhm}, {"zzmm", "政治面貌", &StudentCard::zzmm},
+    {"bjmc", "院校班级", &StudentCard::bjmc},   {"zymc", "所学专业", &StudentCard::zymc},
+    {"rxrq", "入学日期", &StudentCard::rxrq},   {"rxxs", "入学形式", &StudentCard::rxxs},
+    {"sfbz", "收费标准", &StudentCard::sfbz},   {"lxdh", "联系电话", &StudentCard::lxdh},
+    {"sjhm", "手机号码", &StudentCard::sjhm},   {"yzbm", "邮政编码", &StudentCard::yzbm},
+    {"jtzz", "家庭住址", &StudentCard::jtzz},   {"byxx", "原毕业校", &StudentCard::byxx},
+    {"yhkh", "信用卡号", &StudentCard::yhkh},   {"loumc", "楼名称", &StudentCard::loumc},
+    {"ssbh", "宿舍编号", &StudentCard::ssbh},   {"cwh", "床位号", &StudentCard::cwh},
+    {"rq", "入住日期", &StudentCard::rq},       {"status", "在校状态", &StudentCard::status},
+};
+
+const std::vector<kit::ListColumn> paymentColumns{
+    {"  记录标识号", "lsh", kit::Format::Text, 9},
+    {"  姓名", "xm", kit::Format::Text, 5},
+    {"        院校班级名称", "bjmc", kit::Format::Text, 12},
+    {"   交费所属学期", "xq", kit::Format::Text, 9},
+    {" 交费日期", "jfrq", kit::Format::Date, 7},
+    {" 收据编号", "fpbh", kit::Format::Text, 7},
+    {" 交费方式", "jffs", kit::Format::Text, 6},
+    {"交费项目名称", "sfxm", kit::Format::Text, 8},
+    {"   金额", "je", kit::Format::Padded, 7},
+    {"提交", "sftj", kit::Format::Text, 3},
+    {"收款人", "skr", kit::Format::Text, 5},
+};
+
+const std::vector<kit::ListColumn> arrearsColumns{
+    {"记录标识号", "lsh", kit::Format::Text, 9}, {"姓名", "xm", kit::Format::Text, 5},
+    {"收费项目", "sfxm", kit::Format::Text, 7},  {"学年学期", "xq", kit::Format::Text, 9},
+    {"拟补交日期", "bjrq", kit::Format::Date, 7}, {"欠费余额", "", kit::Format::Padded, 7},
+    {"当前状态", "clfs", kit::Format::Text, 5},
+};
+
+}  // namespace
+
+CardFrame::CardFrame(kit::Screen& screen)
+    : frame(screen, "card", "学籍资料："),
+      xh(screen, "xh", "学号"),
+      xm(screen, "xm", "姓名"),
+      photo(screen, "photo") {
+  for (const CardLine& line : cardLines) details.emplace_back(screen, line.name, line.label, kit::Entry::Shown);
+}
+
+void CardFrame::show(const StudentCard& card) {
+  xh.set(card.xh);
+  xm.set(card.xm);
+  for (std::size_t i = 0; i < details.size(); ++i) details[i].set(card.*cardLines[i].shows);
+  photo.set(card.photo);
+}
+
+void CardFrame::clear() { show({}); }
+
+kit::Nodes CardFrame::layout() {
+  kit::Nodes fields{xh, xm};
+  for (kit::Field& field : details) fields.push_back(field);
+  return {kit::row({kit::form(std::move(fields)), kit::column({photo, kit::stretch()})}), kit::stretch()};
+}
+
+PaymentsFrame::PaymentsFrame(kit::Screen& screen, kit::Desk& desk)
+    : frame(screen, "payments", "交费记录："),
+      list(screen, "payment_list", paymentColumns),
+      bar(screen, "payment_bar", "", kit::Entry::Shown),
+      desk_(desk) {
+  list.setTip("右键有操作");
+}
+
+void PaymentsFrame::showAll(const std::string& xh, const std::string& name) {
+  clear();
+  RecordSet payments(desk_.store, Sql("select * from jfjl where xh='") + xh + "' order by jfrq");
+  base::Money total;
+  std::string first, last;
+  list.fill(payments, [&](RecordSet& row) {
+    total += row.get("je").money();
+    last = kit::formatted(row.get("jfrq"), kit::Format::LongDate);
+    if (first.empty()) first = last;
+  });
+  if (list.count() == 0) return;
+  bar.set("学生：" + name + " 从" + first + "到" + last + "共有交费记录数：" + base::caption(list.count()) +
+          " 条，累计交费总额：" + total.fixed2() + " 元");
+}
+
+void PaymentsFrame::showNew(const std::string& xh) {
+  RecordSet payments(desk_.store, Sql("select * from jfjl where xh='") + xh + "' and sftj<>'*' order by jfrq");
+  if (payments.empty()) return desk_.person.tell(kit::Box::Information, "该生没有新的交费记录！    ", "信息提示");
+  base::Money total;
+  list.fill(payments, [&](RecordSet& row) { total += row.get("je").money(); });
+  bar.set("新交费记录：" + base::caption(list.count()) + " 条，累计金额：" + total.fixed2() + " 元");
+}
+
+void PaymentsFrame::clear() {
+  list.clear();
+  bar.clear();
+}
+
+ArrearsFrame::ArrearsFrame(kit::Screen& screen, kit::Desk& desk)
+    : frame(screen, "arrears", "欠费记录："),
+      list(screen, "arrears_list", arrearsColumns),
+      bar(screen, "arrears_bar", "", kit::Entry::Shown),
+      due(screen, "due", "今日到期", "calendar-clock"),
+      back(screen, "arrears_back", "返回", "undo-2"),
+      desk_(desk) {
+  list.setTip("双击查看交费统计信息");
+  due.setTip("单击查看全校到期应交欠费记录");
+  back.setTip("单击返回");
+}
+
+void ArrearsFrame::show(const std::string& xh) {
+  clear();
+  RecordSet owed(desk_.store, Sql("select * from qfjl where xh='") + xh + "' and bjje-sbjje>0 and clfs<>'减免' order by bjrq");
+  store::forEach(owed, [&](RecordSet& row) {
+    std::vector<std::string> cells;
+    for (const kit::ListColumn& column : arrearsColumns)
+      cells.push_back(column.column.empty() ? base::paddedAmount(row.get("bjje").money() - row.get("sbjje").money())
+                                            : kit::formatted(row.get(column.column), column.format));
+    list.addRow(cells);
+  });
+}
+
+void ArrearsFrame::clear() {
+  list.clear();
+  bar.clear();
+}
+
+SharingFrame::SharingFrame(kit::Screen& screen, kit::Desk& desk)
+    : frame(screen, "sharing", "系统共享状态："),
+      list(screen, "sharing_list",
+           {{"用户", "yhxm", kit::Format::Text, 5},
+            {"计算机", "jsjmc", kit::Format::Text, 7},
+            {"开始时间", "kjsj", kit::Format::Text, 9}}),
+      desk_(desk) {}
+
+void SharingFrame::refresh() {
+  RecordSet sessions(desk_.store, "select * from czjl where gjsj=''");
+  list.fill(sessions);
+}
+
+ClassPanel::ClassPanel(kit::Screen& screen, kit::Desk& desk)
+    : frame(screen, "classes", "专业及班级"),
+      tree(screen, "class_tree"),
+      students(screen, "class_students", {{"学号", "xh", kit::Format::Text, 9}, {"姓名", "xm", kit::Format::Text, 6}}),
+      opensFeeWindow(screen, "opens_fee_window", "加载学生信息的同时调用收费窗口"),
+      desk_(desk) {
+  frame.show(false);
+  tree.onClick([this] { listClass(); });
+}
+
+void ClassPanel::fillTree() {
+  RecordSet majors(desk_.store, "select * from zymcb order by zybh");
+  std::vector<kit::TreeNode> nodes;
+  int number = 0;
+  store::forEach(majors, [&](RecordSet& major) {
+    kit::TreeNode node{"k" + std::to_string(++number), major.get("zymc").trimmed(), {}};
+    RecordSet classes(desk_.store, Sql("select * from bjzl where zybh='") + major.get("zybh").trimmed() + "' order by bjdh");
+    store::forEach(classes, [&](RecordSet& one) {
+      node.children.push_back({node.key + "." + std::to_string(node.children.size() + 1), one.get("bjmc").trimmed(), {}});
+    });
+    nodes.push_back(std::move(node));
+  });
+  tree.set(std::move(nodes));
+  students.clear();
+}
+
+void ClassPanel::listClass() {
+  const kit::TreeNode* node = tree.selected();
+  if (!node || !node->children.empty()) return;
+  RecordSet list(desk_.store, Sql("select * from xs where bjmc='") + node->text + "' order by xh");
+  students.fill(list);
+}
+
+}  // namespace shell

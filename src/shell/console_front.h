@@ -1,0 +1,88 @@
+// The console's work area: the student in hand with payments and arrears, who else works on the databases, and the
+// panel of classes that slides in at the left.
+#pragma once
+
+#include <deque>
+
+#include "kit/screen.h"
+#include "students/student_card.h"
+
+namespace shell {
+
+// 学籍资料：the student card. The two search fields belong to it.
+class CardFrame {
+ public:
+  explicit CardFrame(kit::Screen& screen);
+  void show(const students::StudentCard& card);
+  void clear();
+  bool holdsStudent() const { return !xm.blank(); }
+  kit::Nodes layout();
+
+  kit::Frame frame;
+  kit::Field xh, xm;
+  kit::Picture photo;
+  std::deque<kit::Field> details;  // what the card shows, in the order of the card's table
+};
+
+// 交费记录：the payments of the student in hand.
+class PaymentsFrame {
+ public:
+  PaymentsFrame(kit::Screen& screen, kit::Desk& desk);
+  void showAll(const std::string& xh, const std::string& name);  // all payments, with the dates they span
+  void showNew(const std::string& xh);                           // those not submitted yet
+  void clear();
+
+  kit::Frame frame;
+  kit::List list;
+  kit::Field bar;
+
+ private:
+  kit::Desk& desk_;
+};
+
+// 欠费记录：what the student in hand still owes.
+class ArrearsFrame {
+ public:
+  ArrearsFrame(kit::Screen& screen, kit::Desk& desk);
+  void show(const std::string& xh);
+  void clear();
+
+  kit::Frame frame;
+  kit::List list;
+  kit::Field bar;
+  kit::Action due, back;
+
+ private:
+  kit::Desk& desk_;
+};
+
+// 系统共享状态：the open sessions on all computers.
+class SharingFrame {
+ public:
+  SharingFrame(kit::Screen& screen, kit::Desk& desk);
+  void refresh();
+
+  kit::Frame frame;
+  kit::List list;
+
+ private:
+  kit::Desk& desk_;
+};
+
+// Majors and classes as a tree, the students of the class chosen, and the setting that opens the fee window with them.
+class ClassPanel {
+ public:
+  ClassPanel(kit::Screen& screen, kit::Desk& desk);
+  void fillTree();
+
+  kit::Frame frame;
+  kit::Tree tree;
+  kit::List students;
+  kit::Check opensFeeWindow;
+
+ private:
+  void listClass();
+  kit::Desk& desk_;
+};
+
+}  // namespace shell

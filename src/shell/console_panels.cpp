@@ -1,0 +1,151 @@
+// The console's overviews: opening, filling, and what their buttons do.
+#include "base/text.h"
+#include "collection/fee_window.h"
+#include "shell/console.h"
+#include "shell/rights.h"
+#include "students/student_edit.h"
+#include "students/student_view.h"
+
+namespace shell {
+
+using store::RecordSet;
+using store::Sql;
+
+void Formzct::wireOverviews() {
+  timer1.onTick([this] { openPanel(); });
+  timer4.onTick([this] { refillAfterQuery(); });
+
+  struct Place {
+    Overview* overview;
+    std::string* selection;
+  };
+  auto& session = desk.session;
+  for (const Place& place : {Place{&students_overview, &session.student_selection},
+                             Place{&payments_overview, &session.payment_selection},
+                             Place{&arrears_overview, &session.arrears_selection}}) {
+    Overview& overview = *place.overview;
+    overview.list.onSelect([&overview, selection = place.selection] { *selection = overview.list.key(); });
+    overview.button("打开").onPress([this] { notYet("查询"); });
+    overview.button("返回").onPress([this] { closeOverviews(); });
+  }
+
+  students_overview.button("添加").onPress([this] { editStudent(kit::Mode::Add); });
+  students_overview.button("修改").onPress([this] { editStudent(kit::Mode::Modify); });
+  students_overview.button("删除").onPress([this] { editStudent(kit::Mode::Delete); });
+  students_overview.button("浏览").onPress([this] {
+    if (desk.session.student_selection.empty())
+      return inform("前台无记录或您没有选中要浏览的学生！     ", "信息提示");
+    open<students::Formzctxsll>();
+  });
+  payments_overview.list.setTip("双击选定记录修改");
+  for (const char* caption : {"修改", "删除"}) {
+    payments_overview.button(caption).onPress([this] { notYet("交费记录编辑"); });
+    arrears_overview.button(caption).onPress([this] { notYet("欠费记录编辑"); });
+  }
+  payments_overview.list.onDoubleClick([this] { notYet("交费记录编辑"); });
+  arrears_overview.list.onDoubleClick([this] { notYet("欠费记录编辑"); });
+  arrears_overview.list.menu = arrearsOverviewPopUp();
+  arrears_overview.button("导入").onPress([this] { notYet("应交费用导入"); });
+  arrears_overview.button("添加").onPress([this] {
+    RecordSet payments_made = rows("select * from jfjl order by fpbh");
+    if (payments_made.empty())
+      return stop("您至少要通过收费前台录入一笔收费记录，才能在此添加欠费记录！   ", "操作提示");
+    payments_made.last();
+    desk.session.current_xq = payments_made.get("xq").trimmed();
+    desk.session.current_xh.clear();
+    notYet("欠费录入");
+  });
+}
+
+Overview* Formzct::inFront() {
+  for (Overview* overview : {&students_overview, &payments_overview, &arrears_overview})
+    if (overview->frame.visible()) return overview;
+  return nullptr;
+}
+
+void Formzct::openOverview(Overview& overview) {
+  if (overview.frame.visible()) return;
+  classes.frame.show(false);
+  desk.session.ConsolePanel = overview.plan.panel;
+  notice.set("正在启动 ...");
+  desk.progress.show(notice.text());
+  timer1.start();
+}
+
+void Formzct::openPanel() {
+  timer1.stop();
+  if (desk.session.ConsolePanel == kit::Panel::FeeWindow) {
+    desk.session.fee_normal_mode = true;
+    open<collection::Formzctsf4>();
+    desk.session.ConsolePanel = kit::Panel::None;
+    return redrawLists();
+  }
+  for (Overview* overview : {&students_overview, &payments_overview, &arrears_overview}) {
+    if (overview->plan.panel != desk.session.ConsolePanel) {
+      overview->frame.show(false);
+      continue;
+    }
+    notice.set(overview->plan.notice);
+    desk.progress.show(notice.text());
+    overview->clear();
+    if (desk.session.auto_load_lists) fill(*overview);
+    overview->frame.show(true);
+  }
+  desk.progress.hide();
+  notice.clear();
+}
+
+void Formzct::fill(Overview& overview) {
+  if (&overview == &students_overview) fillStudents(overview, desk);
+  else if (&overview == &payments_overview) fillPayments(overview, desk);
+  else fillArrears(overview, desk);
+}
+
+void Formzct::refillAfterQuery() {
+  timer4.stop();
+  auto& session = desk.session;
+  struct Wanted {
+    bool& reload;
+    Overview& overview;
+  };
+  for (const Wanted& wanted : {Wanted{session.reload_student_list, students_overview},
+                               Wanted{session.reload_payment_list, payments_overview},
+                               Wanted{session.reload_arrears_list, arrears_overview}}) {
+    if (!wanted.reload || session.ConsolePanel != wanted.overview.plan.panel) continue;
+    wanted.reload = false;
+    fill(wanted.overview);
+  }
+  desk.progress.hide();
+}
+
+void Formzct::closeOverviews() {
+  if (Overview* open = inFront()) {
+    open->frame.show(false);
+    open->clear();
+    if (open == &students_overview) stampKeyedRows("xs");
+    if (open == &arrears_overview) stampKeyedRows("qfjl");
+  }
+  desk.session.ConsolePanel = kit::Panel::None;
+}
+
+void Formzct::stampKeyedRows(const char* table) {
+  // Rows keyed in the panel carry the computer's name until now, so that the list can show just them.
+  store::Unit unit(desk.store);
+  RecordSet keyed = rows(Sql::table(table) + " where bsh='" + base::trim(desk.session.ComputerName) + "'");
+  store::forEach(keyed, [this](RecordSet& row) {
+    row.set("bsh", desk.clock.now().plain());
+    row.update();
+  });
+  unit.finish();
+}
+
+void Formzct::editStudent(kit::Mode mode) {
+  if (mode != kit::Mode::Add && desk.session.student_selection.empty()) return;
+  desk.session.EditMode = mode;
+  open<students::Formzctxs>();
+  if (mode == kit::Mode::Add)
+    desk.session.student_where = Sql(" where bsh='") + base::trim(desk.session.ComputerName) + "'";
+  fill(students_overview);
+}
+
+}  // namespace shell

@@ -1,0 +1,212 @@
+// The console's student in hand: finding one, the card, the payments, the arrears, and what is done from those lists.
+#include "base/text.h"
+#include "collection/fee_window.h"
+#include "collection/receipt_print.h"
+#include "shell/console.h"
+#include "shell/rights.h"
+#include "students/student_card.h"
+
+namespace shell {
+
+using store::RecordSet;
+using store::Sql;
+
+void Formzct::wireFront() {
+  card.xh.onEnter([this] { findByNumber(); });
+  card.xm.onEnter([this] { findByName(); });
+  card.xm.onChange([this] { titleFrames(); });
+  for (kit::Field* field : {&card.xh, &card.xm}) field->onClick([this] { clearCard(); });
+
+  payments.list.menu = paymentsPopUp();
+  arrears.list.menu = arrearsPopUp();
+  cd59.onPress([this] { refreshCard(); });
+  cd54.onPress([this] { desk.session.payment_list_mode = 3; showPayments(); });
+  cd55.onPress([this] { desk.session.payment_list_mode = 4; payments.showNew(desk.session.current_xh); });
+  cd56.onPress([this] { reprint(); });
+  cd571.onPress([this] { deletePayments(false); });
+  cd572.onPress([this] { deletePayments(true); });
+  cd50.onPress([this] { openFeeWindowFor(payments.list, "jfjl"); });
+  cd66.onPress([this] { openFeeWindowFor(arrears.list, "qfjl"); });
+  cd64.onPress([this] { showArrears(); });
+  arrears.back.onPress([this] { showArrears(); });
+  arrears.due.onPress([this] { notYet(cd63.caption()); });
+  arrears.list.onDoubleClick([this] { notYet("交费信息统计"); });
+
+  class_strip.onPress([this] {
+    if (inFront()) return;
+    desk.session.ConsolePanel = kit::Panel::None;
+    classes.frame.show(!classes.frame.visible());
+  });
+  classes.students.onDoubleClick([this] { pickFromClass(); });
+  classes.opensFeeWindow.onChange([this] {
+    desk.session.open_fee_window = classes.opensFeeWindow.on();
+    RecordSet settings(desk.store, "select * from morvanedjpzb where fn='kqd'", store::Connection::Config);
+    if (settings.empty()) return;
+    settings.set("sfctsz", classes.opensFeeWindow.on() ? 1 : 0);
+    settings.update();
+  });
+}
+
+void Formzct::findByNumber() {
+  if (!may(desk, Collect)) return;
+  const std::string number = card.xh.trimmed();
+  if (number.empty()) {
+    clearCard();
+    return stop("学号不能为空，请输入正确的学号！    ", "操作错误");
+  }
+  if (!base::isNumeric(number)) {
+    clearCard();
+    stop("学号应该是数字，请重新输入！    ", "错误提示");
+    return card.xh.focus();
+  }
+  found(number, "找不到相关记录，请检查学号输入是否正确！    ");
+}
+
+void Formzct::findByName() {
+  if (!may(desk, Collect)) return;
+  const std::string name = card.xm.trimmed();
+  if (name.empty()) return stop("姓名不能为空 ！    ", "操作错误");
+  RecordSet namesakes = rows(Sql("select * from xs where xm='") + name + "'");
+  const long long count = namesakes.count();
+  if (count != 1) {
+    clearCard();
+    return count == 0 ? inform("该生相关记录不存在，请检查姓名输入是否正确！   ", "信息提示")
+                      : inform("学生姓名不唯一，请您用学号调用该生的相关记录！    ", "操作提示");
+  }
+  found(namesakes.get("xh").trimmed(), "找不到相关记录，请检查姓名输入是否正确！    ");
+}
+
+void Formzct::found(const std::string& xh, const std::string& notFoundText) {
+  desk.session.current_xh = xh;
+  showStudent();
+  classes.frame.show(false);
+  if (!desk.session.open_fee_window) return;
+  if (!card.holdsStudent()) return inform(notFoundText, "信息提示");
+  openFeeWindow();
+}
+
+void Formzct::titleFrames() {
+  const std::string name = card.xm.trimmed();
+  card.frame.setTitle(name.empty() ? "学籍资料信息" : name + "同学学籍资料信息");
+  payments.frame.setTitle(name.empty() ? "学生交费记录" : name + "同学交费记录");
+  arrears.frame.setTitle(name.empty() ? "学生欠费记录" : name + "同学欠费记录");
+}
+
+void Formzct::clearCard() {
+  card.clear();
+  payments.clear();
+  arrears.clear();
+  enablePaymentEntries(true);
+  enableArrearsEntries(true);
+}
+
+void Formzct::enablePaymentEntries(bool listed) {
+  const bool collects = may(desk, Collect);
+  cd59.enable(collects);
+  for (kit::Action* entry : {&cd50, &cd54, &cd55, &cd56, &cd510}) entry->enable(collects);
+  for (kit::Action* entry : {&cd571, &cd572}) entry->enable(collects && (!listed || may(desk, DeleteUnsubmitted)));
+}
+
+void Formzct::enableArrearsEntries(bool listed) {
+  const bool collects = may(desk, Collect);
+  cd64.enable(collects);
+  for (kit::Action* entry : {&cd63, &cd66}) entry->enable(listed && collects);
+  for (kit::Action* entry : {&cd61, &cd62}) entry->enable(listed && collects && may(desk, WaiveArrears));
+}
+
+void Formzct::showStudent() {
+  const auto student = students::readStudentCard(desk.store, desk.session.current_xh);
+  if (!student) return clearCard();
+  card.show(*student);
+  redrawLists();
+}
+
+void Formzct::redrawLists() {
+  showPayments();
+  showArrears();
+}
+
+void Formzct::showPayments() {
+  payments.showAll(base::trim(desk.session.current_xh), card.xm.trimmed());
+  enablePaymentEntries(true);
+}
+
+void Formzct::showArrears() {
+  if (!card.holdsStudent()) return arrears.clear();
+  arrears.show(base::trim(desk.session.current_xh));
+  enableArrearsEntries(arrears.list.count() > 0);
+}
+
+void Formzct::refreshCard() {
+  const std::string xh = desk.session.current_xh;
+  clearCard();
+  if (!xh.empty()) showStudent();
+}
+
+void Formzct::openFeeWindow() {
+  desk.session.fee_normal_mode = true;
+  open<collection::Formzctsf4>();
+  redrawLists();
+}
+
+void Formzct::openFeeWindowFor(kit::List& list, const char* table) {
+  if (list.count() == 0) return inform("只有当表中有记录时，才能调用收费窗口！    ", "操作提示");
+  if (list.selected() < 0) return;
+  RecordSet row = rows(store::Sql::table(table) + " where lsh='" + list.key() + "'");
+  if (row.empty()) return;
+  desk.session.current_xh = row.get("xh").trimmed();
+  desk.session.fee_normal_mode = true;
+  open<collection::Formzctsf4>();
+  showStudent();
+}
+
+void Formzct::pickFromClass() {
+  if (!may(desk, Collect)) return warn("您不能进行收费操作 ！      ", "信息提示");
+  desk.session.current_xh = classes.students.key();
+  showStudent();
+  classes.frame.show(false);
+  if (!desk.session.open_fee_window) return;
+  desk.session.ConsolePanel = kit::Panel::FeeWindow;
+  timer1.start();
+}
+
+void Formzct::reprint() {
+  if (payments.list.selected() < 0) return;
+  RecordSet row = rows(Sql("select * from jfjl where lsh='") + payments.list.key() + "'");
+  if (row.empty()) return;
+  const std::string receipt = row.get("fpbh").trimmed();
+  const long long count = rows(Sql("select * from jfjl where fpbh='") + receipt + "'").count();
+  if (!ask("您要重新打印的这组记录共有" + base::caption(count) + "条，确认继续吗？    ", "打印提示")) return;
+  desk.session.print_fpbh = receipt;
+  desk.session.print_xh = row.get("xh").trimmed();
+  desk.session.print_xm = row.get("xm").trimmed();
+  desk.session.print_bjmc = row.get("bjmc").trimmed();
+  desk.session.print_xq = row.get("xq").trimmed();
+  open<collection::Formzctsf5>();
+}
+
+void Formzct::deletePayments(bool wholeReceipt) {
+  if (payments.list.selected() < 0) return;
+  RecordSet chosen = rows(Sql("select * from jfjl where lsh='") + payments.list.key() + "'");
+  if (chosen.empty()) return;
+  if (chosen.get("sftj").trimmed() == "*")
+    return inform(wholeReceipt ? "这是一组已提交记录，前台不能删除它！    " : "这是一条已提交记录，前台不能删除它！    ", "信息提示");
+  const std::string taker = chosen.get("skr").trimmed();
+  if (taker != desk.session.SessionUser)
+    return inform("这是操作员" + taker + "经办的收费记录，您在前台不能删除它！   ", "信息提示");
+  if (!askStop("您确认是要删除选定记录吗？      ", "警告")) return;
+  RecordSet going = wholeReceipt ? rows(Sql("select * from jfjl where fpbh='") + chosen.get("fpbh").trimmed() + "'")
+                                 : rows(Sql("select * from jfjl where lsh='") + payments.list.key() + "'");
+  store::Unit unit(desk.store);
+  store::forEach(going, [](RecordSet& row) { row.remove(); });
+  unit.finish();
+  inform("选定记录已删除！       ", "信息提示");
+  if (desk.session.payment_list_mode == 4) {
+    payments.clear();
+    payments.showNew(desk.session.current_xh);
+  } else {
+    showPayments();
+  }
+}
+
+}  // namespace shell

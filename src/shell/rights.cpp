@@ -1,0 +1,16 @@
+#include "shell/rights.h"
+
+#include <algorithm>
+
+namespace shell {
+
+void settle(const kit::Desk& desk, const std::vector<Gate>& gates) {
+  for (const Gate& gate : gates)
+    gate.action.enable(std::any_of(gate.anyOf.begin(), gate.anyOf.end(), [&](int right) { return may(desk, right); }));
+}
+
+void refuse(kit::Desk& desk) {
+  desk.person.tell(kit::Box::Information, "请您先请示授权再进行此操作！      ", "权限越界");
+}
+
+}  // namespace shell

@@ -1,0 +1,136 @@
+#include "store/cursor.h"
+
+#include "store/error.h"
+#include "store/typing.h"
+
+namespace store {
+
+Cursor::Cursor(std::shared_ptr<Database> database, Query query)
+    : database_(std::move(database)), query_(std::move(query)), generation_(database_->generation()) {
+  database_->enlist(*this);
+}
+
+Cursor::~Cursor() { database_->dismiss(*this); }
+
+Database& Cursor::database() {
+  if (generation_ == database_->generation()) return *database_;
+  throw StoreError(Fault::Other, "已经换用另一个数据库，请重新打开本窗口！");
+}
+
+void Cursor::rewind() {
+  stream_.giveBack();
+  row_.reset();
+  rest_.clear();
+  groups_.clear();
+  place_ = Place::Before;
+}
+
+void Cursor::start(const std::string& sql, bool single) {
+  rewind();
+  stream_ = Loan(database(), sql, query_.values);
+  single_ = single;
+  step();
+}
+
+void Cursor::step() {
+  if (single_ && place_ == Place::Row) {
+    place_ = Place::End;
+  } else {
+    place_ = Place::End;  // also when the step fails
+    if (stream_->step()) place_ = Place::Row;
+  }
+  if (place_ == Place::Row) {
+    rowNo_ = stream_->integer(0);
+  } else {
+    stream_.giveBack();
+  }
+}
+
+void Cursor::last() { start(query_.last, true); }
+
+bool Cursor::atRow() {
+  if (place_ == Place::Before) start(query_.walk, false);
+  return place_ == Place::Row;
+}
+
+void Cursor::next() {
+  if (!atRow()) return;
+  if (stream_) return step();
+  row_.reset();
+  if (!groups_.empty()) {
+    row_ = std::move(groups_.front());
+    groups_.pop_front();
+    return;
+  }
+  while (!rest_.empty()) {
+    rowNo_ = rest_.front();
+    rest_.pop_front();
+    row_ = fetch(rowNo_);
+    if (row_) return;
+  }
+  place_ = Place::End;
+}
+
+std::int64_t Cursor::rowNo() {
+  if (atRow()) return rowNo_;
+  throw StoreError(Fault::RowGone, "当前没有可以操作的记录！");
+}
+
+Value Cursor::value(std::size_t column) {
+  if (stream_) return read(*stream_, static_cast<int>(column) + 1, query_.columns[column]->type);
+  rowNo();
+  if (stream_) return value(column);
+  if (!row_) row_ = fetch(rowNo_);
+  if (!row_) throw StoreError(Fault::RowGone, "这条记录已被删除，请刷新后再试！");
+  return (*row_)[column];
+}
+
+void Cursor::standOn(std::int64_t rowNo) {
+  rewind();
+  rowNo_ = rowNo;
+  place_ = Place::Row;
+}
+
+bool Cursor::empty() {
+  if (place_ == Place::Before) return !atRow();
+  if (stream_) return false;
+  return !Loan(database(), query_.any, query_.values)->step();
+}
+
+long long Cursor::count() {
+  Loan statement(database(), query_.count, query_.values);
+  return statement->step() ? statement->integer(0) : 0;
+}
+
+void Cursor::pin() {
+  if (!stream_) return;
+  if (query_.grouped) row_ = rowOf(*stream_);
+  while (!single_ && stream_->step()) {
+    if (query_.grouped) {
+      groups_.push_back(rowOf(*stream_));
+    } else {
+      rest_.push_back(stream_->integer(0));
+    }
+  }
+  stream_.giveBack();
+}
+
+void Cursor::forget() {
+  if (!query_.grouped) row_.reset();
+}
+
+Cursor::Row Cursor::rowOf(const Statement& statement) const {
+  Row row;
+  row.reserve(query_.columns.size());
+  for (std::size_t i = 0; i < query_.columns.size(); ++i) {
+    row.push_back(read(statement, static_cast<int>(i) + 1, query_.columns[i]->type));
+  }
+  return row;
+}
+
+std::optional<Cursor::Row> Cursor::fetch(std::int64_t rowNo) {
+  const Loan statement(database(), rowStatement(query_, database_->engine().phrases()), {rowNo});
+  return statement->step() ? std::optional(rowOf(*statement)) : std::nullopt;
+}
+
+}  // namespace store

@@ -1,0 +1,60 @@
+// A place in the rows of a query. It streams from one open statement as long as nobody writes; then it keeps the numbers
+// of the rows that remain and reads each afresh, so that a walk that writes or deletes keeps its own rows.
+#pragma once
+
+#include <deque>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "store/database.h"
+#include "store/query.h"
+
+namespace store {
+
+class Cursor {
+ public:
+  Cursor(std::shared_ptr<Database> database, Query query);
+  ~Cursor();
+  Cursor(const Cursor&) = delete;
+  Cursor& operator=(const Cursor&) = delete;
+
+  const Query& query() const { return query_; }
+  const Table& table() const { return *query_.table; }
+  Database& database();
+
+  void rewind();  // before the first row, to be read when it is asked for
+  void last();
+  void next();
+  bool atRow();
+  std::int64_t rowNo();           // of the current row; raises Fault::RowGone when there is none
+  Value value(std::size_t column);
+  void standOn(std::int64_t rowNo);  // a row that has just been written; nothing comes behind it
+  bool empty();
+  long long count();
+
+  void pin();     // needs no open statement from here on
+  void forget();  // what it read of its current row may be old
+
+ private:
+  enum class Place { Before, Row, End };
+  using Row = std::vector<Value>;
+
+  void start(const std::string& sql, bool single);
+  void step();
+  std::optional<Row> fetch(std::int64_t rowNo);
+  Row rowOf(const Statement& statement) const;
+
+  std::shared_ptr<Database> database_;
+  Query query_;
+  int generation_;
+  Place place_ = Place::Before;
+  Loan stream_;
+  bool single_ = false;  // the stream holds one row, and nothing comes behind it
+  std::int64_t rowNo_ = 0;
+  std::optional<Row> row_;         // the current row of a pinned walk, once read
+  std::deque<std::int64_t> rest_;  // the rows behind it
+  std::deque<Row> groups_;         // the same of a grouped walk, whose rows have no numbers
+};
+
+}  // namespace store

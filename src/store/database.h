@@ -1,0 +1,80 @@
+// One database behind an engine: its prepared statements, its units of work, the cursors that read from it.
+#pragma once
+
+#include <functional>
+#include <list>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "store/catalogue.h"
+#include "store/engine.h"
+
+namespace store {
+
+class Cursor;
+class Database;
+
+// A prepared statement on loan; handed back, it is kept for the next one of the same text.
+class Loan {
+ public:
+  Loan() = default;
+  Loan(Database& database, std::string sql, const std::vector<Cell>& values);
+  ~Loan() { giveBack(); }
+  Loan(Loan&& other) noexcept;
+  Loan& operator=(Loan&& other) noexcept;
+  explicit operator bool() const { return statement_ != nullptr; }
+  Statement* operator->() const { return statement_.get(); }
+  Statement& operator*() const { return *statement_; }
+  void giveBack();
+
+ private:
+  Database* database_ = nullptr;
+  std::string sql_;
+  std::unique_ptr<Statement> statement_;
+};
+
+class Database {
+ public:
+  using Opener = std::function<std::unique_ptr<Engine>()>;
+
+  explicit Database(Opener opener) : opener_(std::move(opener)) {}
+  ~Database();
+  Database(const Database&) = delete;
+  Database& operator=(const Database&) = delete;
+
+  Engine& engine();  // opens the database when it is not open
+  void close();      // cursors keep their place and open it again
+  void replace(Opener opener);  // another database from now on: cursors of the old one have lost theirs
+  int generation() const { return generation_; }
+
+  void settle();  // no read is under way any longer
+  // One insert, update or delete; returns the number of rows. Every cursor on the table is safe from it.
+  long long write(const Table& table, const std::string& sql, const std::vector<Cell>& values);
+
+  void beginUnit();
+  void finishUnit();            // the outermost one commits, or raises StoreError and nothing of it remains
+  void abandonUnit() noexcept;  // the same without a word, when an error is on its way already
+  bool inUnit() const { return depth_ > 0; }
+
+  void enlist(Cursor& cursor) { cursors_.push_back(&cursor); }
+  void dismiss(Cursor& cursor);
+
+ private:
+  friend class Loan;
+  std::unique_ptr<Statement> take(const std::string& sql);
+  void keep(std::string sql, std::unique_ptr<Statement> statement);
+  void commit();
+  void failIfLost() const;
+
+  Opener opener_;
+  std::unique_ptr<Engine> engine_;
+  std::list<std::pair<std::string, std::unique_ptr<Statement>>> idle_;  // the latest first
+  std::unordered_multimap<std::string_view, decltype(idle_)::iterator> byText_;
+  std::vector<Cursor*> cursors_;
+  int depth_ = 0;
+  int generation_ = 0;
+};
+
+}  // namespace store

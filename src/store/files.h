@@ -1,0 +1,25 @@
+// Where the two databases lie, and how a new office gets them.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "store/catalogue.h"
+
+namespace store {
+
+std::string_view livePath(Connection which);  // relative to the program folder, with backslashes
+std::string_view password(Connection which);
+
+struct Location {
+  std::filesystem::path path;
+  std::string password;
+};
+Location locate(const std::string& connectionText);  // what a connection text names
+
+// Creates both databases when the program folder has neither of their folders, and completes a creation that was
+// interrupted. A folder or a file that is missing beside the other is left missing: it is lost, not new.
+void createWhenNew(const std::filesystem::path& programFolder);
+
+}  // namespace store

@@ -1,0 +1,104 @@
+#include "store/query.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "store/condition.h"
+#include "store/error.h"
+
+namespace store {
+namespace {
+
+const Table& tableOf(const std::string& name, Connection connection) {
+  const Table* table = findTable(name);
+  if (table && table->connection == connection) return *table;
+  throw StoreError(Fault::NoSuchColumn, "数据库中没有“" + base::left(name, 40) + "”这个数据表！");
+}
+
+bool contains(const std::vector<const Column*>& columns, const Column* column) {
+  return std::ranges::find(columns, column) != columns.end();
+}
+
+std::string orderText(const std::vector<std::pair<const Column*, bool>>& order, bool reversed, bool grouped,
+                      const Phrases& phrases) {
+  std::string result = " order by ";
+  for (const auto& [column, descending] : order) {
+    result += phrases.key(quoted(column->name), column->type) + (descending != reversed ? " desc, " : ", ");
+  }
+  if (grouped) return result.substr(0, result.size() - 2);
+  return result + "row_no" + (reversed ? " desc" : "");
+}
+
+}  // namespace
+
+std::string quoted(std::string_view name) { return "\"" + std::string(name) + "\""; }
+
+Query plan(const dialect::Select& select, Connection connection, const Phrases& phrases) {
+  Query query;
+  const Table& table = tableOf(select.table, connection);
+  query.table = &table;
+  for (const std::string& name : select.columns) query.columns.push_back(&columnOf(table, name));
+  if (select.columns.empty()) {
+    for (const Column& column : table.columns) query.columns.push_back(&column);
+  }
+
+  std::vector<const Column*> group;
+  for (const std::string& name : select.group) group.push_back(&columnOf(table, name));
+  query.grouped = !group.empty();
+  std::vector<std::pair<const Column*, bool>> order;
+  for (const dialect::Order& by : select.order) order.emplace_back(&columnOf(table, by.column), by.descending);
+  if (query.grouped) {
+    const bool fits = std::ranges::all_of(query.columns, [&](auto* column) { return contains(group, column); }) &&
+                      std::ranges::all_of(order, [&](auto& by) { return contains(group, by.first); });
+    if (!fits) throw StoreError(Fault::Statement, "分组的语句只能取出和排列分组的各栏！");
+    for (const Column* column : group) order.emplace_back(column, false);
+  }
+
+  std::string source = " from " + quoted(table.name);
+  if (select.where) source += " where " + condition(*select.where, table, phrases, query.values);
+  std::string grouping;
+  for (const Column* column : group) {
+    grouping += (grouping.empty() ? " group by " : ", ") + phrases.key(quoted(column->name), column->type);
+  }
+  std::string columns = query.grouped ? "0" : "row_no";
+  for (const Column* column : query.columns) {
+    columns += ", " + (query.grouped ? "min(" + quoted(column->name) + ")" : quoted(column->name));
+  }
+  const std::string rows = "select " + columns + source + grouping;
+  query.walk = rows + orderText(order, false, query.grouped, phrases);
+  query.last = rows + orderText(order, true, query.grouped, phrases) + " limit 1";
+  query.count = query.grouped ? "select count(*) from (select 1" + source + grouping + ") as groups"
+                              : "select count(*)" + source;
+  query.any = "select 1" + source + " limit 1";
+  return query;
+}
+
+std::string rowStatement(const Query& query, const Phrases& phrases) {
+  std::string columns = "row_no";
+  for (const Column* column : query.columns) columns += ", " + quoted(column->name);
+  return "select " + columns + " from " + quoted(query.table->name) + " where row_no = " + phrases.place(0);
+}
+
+std::string insertStatement(const Table& table, const std::vector<const Column*>& columns, const Phrases& phrases) {
+  if (columns.empty()) return "insert into " + quoted(table.name) + " default values";
+  std::string names, places;
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    names += (i ? ", " : "") + quoted(columns[i]->name);
+    places += (i ? ", " : "") + phrases.place(i);
+  }
+  return "insert into " + quoted(table.name) + " (" + names + ") values (" + places + ")";
+}
+
+std::string updateStatement(const Table& table, const std::vector<const Column*>& columns, const Phrases& phrases) {
+  std::string sets;
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    sets += (i ? ", " : "") + quoted(columns[i]->name) + " = " + phrases.place(i);
+  }
+  return "update " + quoted(table.name) + " set " + sets + " where row_no = " + phrases.place(columns.size());
+}
+
+std::string removeStatement(const Table& table, const Phrases& phrases) {
+  return "delete from " + quoted(table.name) + " where row_no = " + phrases.place(0);
+}
+
+}  // namespace store

@@ -1,0 +1,177 @@
+#include "store/record_set.h"
+
+#include <optional>
+
+#include "base/text.h"
+#include "store/condition.h"
+#include "store/cursor.h"
+#include "store/typing.h"
+
+namespace store {
+
+struct RecordSet::State {
+  enum class Editing { Nothing, NewRow, Removed };
+  struct Change {
+    std::size_t column;
+    Value value;
+  };
+
+  State(Store& of, Connection to) : store(&of), connection(to) {}
+
+  Store* store;
+  Connection connection;
+  Sql sql;
+  std::optional<Cursor> cursor;
+  Editing editing = Editing::Nothing;
+  std::vector<Change> changes;  // of the current or the new row, not written yet
+  // Screens read the columns of each row in the same order: the nth name asked for in a row is a good guess.
+  std::vector<std::size_t> guesses;
+  std::size_t asked = 0;
+
+  Cursor& rows() {
+    if (cursor) return *cursor;
+    throw StoreError(Fault::RowGone, "还没有打开数据表！");
+  }
+
+  void leaveRow() {
+    editing = Editing::Nothing;
+    changes.clear();
+    asked = 0;
+  }
+
+  std::size_t column(std::string_view name) {
+    const auto& columns = rows().query().columns;
+    const std::size_t turn = asked++;
+    if (turn < guesses.size() && columns[guesses[turn]]->name == name) return guesses[turn];
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+      if (!base::sameText(columns[i]->name, name)) continue;
+      if (turn < columns.size()) guesses.resize(std::max(guesses.size(), turn + 1), i), guesses[turn] = i;
+      return i;
+    }
+    columnOf(rows().table(), std::string(name));
+    throw StoreError(Fault::NoSuchColumn, "打开的记录中没有“" + base::left(name, 40) + "”这一栏！");
+  }
+
+  void mustBeWritable() {
+    if (rows().query().grouped) throw StoreError(Fault::Statement, "分组得到的记录不能修改！");
+  }
+
+  void write() {
+    Cursor& at = rows();
+    const Table& table = at.table();
+    const Phrases& phrases = at.database().engine().phrases();
+    std::vector<const Column*> columns;
+    std::vector<Cell> values;
+    for (const Change& change : changes) {
+      columns.push_back(at.query().columns[change.column]);
+      values.push_back(cell(change.value));
+    }
+    if (editing == Editing::NewRow) {
+      at.database().write(table, insertStatement(table, columns, phrases), values);
+      at.standOn(at.database().engine().lastRowNo());
+    } else if (!changes.empty()) {
+      values.emplace_back(at.rowNo());
+      if (at.database().write(table, updateStatement(table, columns, phrases), values) == 0) {
+        throw StoreError(Fault::RowGone, "这条记录已被删除，请刷新后再试！");
+      }
+    }
+  }
+};
+
+RecordSet::RecordSet(Store& store, Connection connection)
+    : state_(std::make_unique<State>(store, connection)) {}
+RecordSet::RecordSet(Store& store, const Sql& sql, Connection connection) : RecordSet(store, connection) { open(sql); }
+RecordSet::~RecordSet() = default;
+RecordSet::RecordSet(RecordSet&&) noexcept = default;
+RecordSet& RecordSet::operator=(RecordSet&&) noexcept = default;
+
+void RecordSet::bind(Connection connection) { state_->connection = connection; }
+
+void RecordSet::open(const Sql& sql) {
+  state_->leaveRow();
+  state_->guesses.clear();
+  state_->cursor.reset();
+  const std::shared_ptr<Database> database = state_->store->shared(state_->connection);
+  Query query = plan(dialect::parse(sql), state_->connection, database->engine().phrases());
+  state_->cursor.emplace(database, std::move(query));
+  state_->sql = sql;
+}
+
+void RecordSet::refresh() { open(Sql(state_->sql)); }
+
+long long RecordSet::count() { return state_->rows().count(); }
+bool RecordSet::empty() { return state_->rows().empty(); }
+
+void RecordSet::first() {
+  state_->leaveRow();
+  state_->rows().rewind();
+}
+
+void RecordSet::last() {
+  state_->leaveRow();
+  state_->rows().last();
+}
+
+void RecordSet::next() {
+  state_->leaveRow();
+  state_->rows().next();
+}
+
+bool RecordSet::atEnd() { return state_->editing != State::Editing::NewRow && !state_->rows().atRow(); }
+bool RecordSet::atStart() { return atEnd() && empty(); }
+
+Value RecordSet::get(std::string_view column) {
+  const std::size_t index = state_->column(column);
+  for (const State::Change& change : state_->changes) {
+    if (change.column == index) return change.value;
+  }
+  if (state_->editing == State::Editing::NewRow) return {};
+  return state_->rows().value(index);
+}
+
+void RecordSet::set(std::string_view column, Value value) {
+  state_->mustBeWritable();
+  const std::size_t index = state_->column(column);
+  if (state_->editing == State::Editing::Removed) throw StoreError(Fault::RowGone, "这条记录已被删除！");
+  if (state_->editing == State::Editing::Nothing) state_->rows().rowNo();
+  Value fitting = typed(value, *state_->rows().query().columns[index]);
+  for (State::Change& change : state_->changes) {
+    if (change.column == index) {
+      change.value = std::move(fitting);
+      return;
+    }
+  }
+  state_->changes.push_back({index, std::move(fitting)});
+}
+
+void RecordSet::addNew() {
+  state_->mustBeWritable();
+  state_->leaveRow();
+  state_->editing = State::Editing::NewRow;
+}
+
+void RecordSet::update() {
+  state_->mustBeWritable();
+  if (state_->editing == State::Editing::Removed) return;
+  state_->write();
+  state_->leaveRow();
+}
+
+void RecordSet::remove() {
+  state_->mustBeWritable();
+  Cursor& rows = state_->rows();
+  if (state_->editing == State::Editing::NewRow) return state_->leaveRow();
+  if (state_->editing == State::Editing::Removed) return;
+  const Table& table = rows.table();
+  rows.database().write(table, removeStatement(table, rows.database().engine().phrases()), {rows.rowNo()});
+  state_->leaveRow();
+  state_->editing = State::Editing::Removed;
+}
+
+std::vector<std::string> RecordSet::fields() {
+  std::vector<std::string> result;
+  for (const Column* column : state_->rows().query().columns) result.emplace_back(column->name);
+  return result;
+}
+
+}  // namespace store

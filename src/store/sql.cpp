@@ -1,0 +1,24 @@
+#include "store/sql.h"
+
+namespace store {
+
+Sql& Sql::operator+=(const Sql& other) {
+  const std::size_t offset = text_.size();
+  const std::size_t ranges = other.values_.size();  // other may be this statement itself
+  values_.reserve(values_.size() + ranges);
+  for (std::size_t i = 0; i < ranges; ++i) {
+    values_.emplace_back(other.values_[i].first + offset, other.values_[i].second + offset);
+  }
+  text_ += other.text_;
+  return *this;
+}
+
+Sql& Sql::operator+=(const std::string& value) {
+  values_.emplace_back(text_.size(), text_.size() + value.size());
+  text_ += value;
+  return *this;
+}
+
+Sql& Sql::operator+=(const Value& value) { return *this += value.text(); }
+
+}  // namespace store

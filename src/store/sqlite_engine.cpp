@@ -1,0 +1,226 @@
+#include "store/sqlite_engine.h"
+
+#include <sqlite3.h>
+
+#include <cerrno>
+#include <cstring>
+
+#include "base/text.h"
+#include "store/error.h"
+#include "store/query.h"
+#include "store/sqlite_phrases.h"
+#include "store/waiting.h"
+
+#if SQLITE_VERSION_NUMBER < 3051003
+#error "SQLite 3.51.3 or later is needed: earlier ones can lose data when several computers write"
+#endif
+
+namespace store {
+namespace {
+
+constexpr int cacheKilobytes = 65536;  // the engine's own 2 MB make bulk work crawl
+
+Fault faultOf(int code, int systemError) {
+  const bool full = systemError == ENOSPC || systemError == EDQUOT || systemError == EFBIG;
+  switch (code & 0xff) {
+    case SQLITE_ERROR:
+    case SQLITE_MISMATCH:
+    case SQLITE_RANGE:
+    case SQLITE_TOOBIG: return Fault::Statement;
+    case SQLITE_NOTADB: return Fault::WrongPassword;
+    case SQLITE_CORRUPT: return Fault::Damaged;
+    case SQLITE_READONLY:
+    case SQLITE_PERM:
+    case SQLITE_CANTOPEN: return Fault::ReadOnly;
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED: return Fault::Busy;
+    case SQLITE_FULL: return Fault::DiskFull;
+    case SQLITE_IOERR: return full ? Fault::DiskFull : Fault::Other;
+    default: return Fault::Other;
+  }
+}
+
+std::string wordsFor(Fault fault, const std::string& file) {
+  switch (fault) {
+    case Fault::Statement: return "语句不合规定，不能执行！";
+    case Fault::WrongPassword:
+      return "数据库“" + file + "”打不开：密码不对，或文件的开头已经损坏。请用备份恢复该文件后再试！";
+    case Fault::Missing: return "找不到数据库文件“" + file + "”。请检查共享文件夹是否连通，或用备份恢复该文件！";
+    case Fault::Damaged: return "数据库“" + file + "”已经损坏。请停止使用，并用最近的备份恢复该文件！";
+    case Fault::ReadOnly: return "数据库“" + file + "”或它所在的文件夹不能写入。请检查写入权限后再试！";
+    case Fault::Busy: return "数据库“" + file + "”正被其他计算机占用，等待之后仍不能使用。请稍候再试！";
+    case Fault::DiskFull: return "磁盘空间已满，内容没有保存。请清理磁盘“" + file + "”后再试！";
+    default: return "读写数据库“" + file + "”时出错。请检查网络和磁盘后再试！";
+  }
+}
+
+// What all statements of a connection share.
+struct Link {
+  Link(const SqliteFile& file, std::function<void(bool)> onWait)
+      : name(file.path.empty() ? "内存" : file.path.filename().string()),
+        sign(file.path),
+        wait(file.patience, std::move(onWait), sign) {}
+  ~Link() { sqlite3_close_v2(connection); }
+  Link(const Link&) = delete;
+  Link& operator=(const Link&) = delete;
+
+  [[noreturn]] void fail(int code) const {
+    const Fault fault = faultOf(code, connection ? sqlite3_system_errno(connection) : 0);
+    std::string message = wordsFor(fault, name);
+    if (fault == Fault::Statement || fault == Fault::Other) message += std::string("（") + sqlite3_errstr(code) + "）";
+    throw StoreError(fault, message);
+  }
+  // Ends the wait that the call may have had in it.
+  int settled(int code) {
+    wait.over();
+    return code;
+  }
+  void check(int code) {
+    if (settled(code) != SQLITE_OK) fail(code);
+  }
+
+  std::string name;
+  WaitingSign sign;
+  Wait wait;
+  sqlite3* connection = nullptr;
+};
+
+int whenBusy(void* wait, int round) noexcept {
+  try {
+    return static_cast<Wait*>(wait)->again(round);
+  } catch (...) {  // the notice failed: the wait goes no further
+    return 0;
+  }
+}
+
+class SqliteStatement final : public Statement {
+ public:
+  SqliteStatement(Link& link, const std::string& sql) : link_(link) {
+    link_.check(sqlite3_prepare_v3(link.connection, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT,
+                                   &statement_, nullptr));
+  }
+  ~SqliteStatement() override { sqlite3_finalize(statement_); }
+  SqliteStatement(const SqliteStatement&) = delete;
+  SqliteStatement& operator=(const SqliteStatement&) = delete;
+
+  void bind(std::size_t index, const Cell& cell) override {
+    const int place = static_cast<int>(index) + 1;
+    int code = SQLITE_OK;
+    if (const auto* text = std::get_if<std::string>(&cell)) {
+      code = sqlite3_bind_text64(statement_, place, text->data(), text->size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+    } else if (const auto* integer = std::get_if<std::int64_t>(&cell)) {
+      code = sqlite3_bind_int64(statement_, place, *integer);
+    } else if (const auto* real = std::get_if<double>(&cell)) {
+      code = sqlite3_bind_double(statement_, place, *real);
+    } else if (const auto* bytes = std::get_if<Bytes>(&cell)) {
+      code = bytes->empty() ? sqlite3_bind_zeroblob(statement_, place, 0)
+                            : sqlite3_bind_blob64(statement_, place, bytes->data(), bytes->size(), SQLITE_TRANSIENT);
+    } else {
+      code = sqlite3_bind_null(statement_, place);
+    }
+    link_.check(code);
+  }
+
+  bool step() override {
+    const int code = sqlite3_step(statement_);
+    if (code == SQLITE_ROW) return link_.wait.over(), true;
+    link_.wait.over();
+    if (code == SQLITE_DONE) return false;
+    const Failure failure(*this);
+    link_.fail(code);
+  }
+  void reset() override { sqlite3_reset(statement_); }
+
+  bool isNull(int column) const override { return sqlite3_column_type(statement_, column) == SQLITE_NULL; }
+  std::int64_t integer(int column) const override { return sqlite3_column_int64(statement_, column); }
+  double real(int column) const override { return sqlite3_column_double(statement_, column); }
+  std::string_view text(int column) const override {
+    const void* data = sqlite3_column_type(statement_, column) == SQLITE_BLOB
+                           ? sqlite3_column_blob(statement_, column)
+                           : sqlite3_column_text(statement_, column);
+    const int size = sqlite3_column_bytes(statement_, column);
+    return data ? std::string_view(static_cast<const char*>(data), static_cast<std::size_t>(size)) : std::string_view();
+  }
+
+ private:
+  struct Failure {  // a failed statement lets go of its locks, after its error has been read
+    explicit Failure(SqliteStatement& failed) : statement(failed) {}
+    ~Failure() { statement.reset(); }
+    SqliteStatement& statement;
+  };
+
+  Link& link_;
+  sqlite3_stmt* statement_ = nullptr;
+};
+
+class SqliteEngine final : public Engine {
+ public:
+  SqliteEngine(const SqliteFile& file, std::function<void(bool)> onWait) : link_(file, std::move(onWait)) {
+    if (!file.create && !file.path.empty() && !std::filesystem::exists(file.path)) {
+      throw StoreError(Fault::Missing, wordsFor(Fault::Missing, file.path.string()));
+    }
+    const std::string name = file.path.empty() ? ":memory:" : file.path.string();
+    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE | (file.create ? SQLITE_OPEN_CREATE : 0);
+    link_.check(sqlite3_open_v2(name.c_str(), &link_.connection, flags, nullptr));
+    if (!file.password.empty()) setKey(file.password);
+    sqlite3_busy_handler(link_.connection, whenBusy, &link_.wait);
+    addSqliteFunctions(link_.connection);
+    readSchema();
+    execute("pragma cache_size=-" + std::to_string(cacheKilobytes));
+    execute("pragma synchronous=full");
+    if (!file.path.empty()) execute("pragma journal_mode=delete");
+  }
+
+  Link& link() { return link_; }
+  const Phrases& phrases() const override { return sqlitePhrases(); }
+  std::unique_ptr<Statement> prepare(const std::string& sql) override {
+    return std::make_unique<SqliteStatement>(link_, sql);
+  }
+  void execute(const std::string& sql) override {
+    link_.check(sqlite3_exec(link_.connection, sql.c_str(), nullptr, nullptr, nullptr));
+  }
+  void begin() override { execute("begin immediate"); }
+  void commit() override { execute("commit"); }
+  void rollback() noexcept override {
+    if (inTransaction()) sqlite3_exec(link_.connection, "rollback", nullptr, nullptr, nullptr);
+  }
+  bool inTransaction() const override { return sqlite3_get_autocommit(link_.connection) == 0; }
+  void committed() override { link_.sign.giveWay(); }
+  long long changes() const override { return sqlite3_changes64(link_.connection); }
+  long long lastRowNo() const override { return sqlite3_last_insert_rowid(link_.connection); }
+  int version() override {
+    SqliteStatement statement(link_, "pragma user_version");
+    return statement.step() ? static_cast<int>(statement.integer(0)) : 0;
+  }
+  void setVersion(int version) override { execute("pragma user_version=" + std::to_string(version)); }
+  std::vector<std::string> columnsOf(std::string_view table) override {
+    std::vector<std::string> result;
+    SqliteStatement statement(link_, "select name from pragma_table_info(?1)");
+    statement.bind(0, std::string(table));
+    while (statement.step()) result.emplace_back(statement.text(0));
+    return result;
+  }
+
+ private:
+  void setKey(const std::string& password) {
+    sqlite3mc_config(link_.connection, "cipher", sqlite3mc_cipher_index("aegis"));
+    link_.check(sqlite3_key(link_.connection, password.data(), static_cast<int>(password.size())));
+  }
+  // A wrong key shows at the first read only.
+  void readSchema() {
+    SqliteStatement statement(link_, "select count(*) from sqlite_master");
+    statement.step();
+  }
+
+  Link link_;
+};
+
+}  // namespace
+
+std::unique_ptr<Engine> openSqlite(const SqliteFile& file, std::function<void(bool)> onWait) {
+  return std::make_unique<SqliteEngine>(file, std::move(onWait));
+}
+
+sqlite3* handleOf(Engine& engine) { return static_cast<SqliteEngine&>(engine).link().connection; }
+
+}  // namespace store

@@ -1,0 +1,88 @@
+#include "upkeep/user_rights.h"
+
+namespace upkeep {
+
+using store::RecordSet;
+using store::Sql;
+
+const std::vector<RightGroup>& rightGroups() {
+  static const std::vector<RightGroup> groups{
+      {"系统设置", {{0, "允许进行全部操作"}}},  // opens the system settings alone, whatever its caption says
+      {"权限设置", {{29, "允许为其他用户授权"}}},
+      {"系统用户管理", {{1, "允许添加修改及删除用户"}}},
+      {"系统初始化", {{2, "允许其初始化系统（清空系统中的所有数据）"}}},
+      {"学籍资料", {{4, "添加"}, {5, "修改"}, {6, "删除"}, {7, "清空"}, {8, "查询、导出及打印"}}},
+      {"交费记录", {{9, "修改"}, {10, "删除"}, {11, "清空"}, {12, "查询、导出及打印"}}},
+      {"欠费记录", {{13, "添加"}, {14, "修改"}, {15, "删除"}, {16, "清空"}, {17, "导入"}, {18, "查询、导出及打印"}}},
+      {"成绩管理", {{19, "添加"}, {20, "修改"}, {21, "删除"}, {22, "清空"}, {23, "查询、导出及打印"}}},
+      {"毕业生管理",
+       {{24, "导入"}, {25, "修改"}, {26, "删除"}, {27, "清空"}, {28, "查询、导出及打印"}, {70, "打印毕业生就业推荐书"}}},
+      {"教师档案资料", {{32, "添加"}, {33, "修改"}, {3, "删除"}, {35, "清空"}, {38, "查询、导出及打印"}}},
+      {"休学复课管理", {{39, "休学"}, {40, "复课"}, {41, "删除"}, {42, "清空"}, {43, "查询、导出及打印"}}},
+      {"资产设备管理", {{45, "设置"}, {46, "添加"}, {47, "修改"}, {48, "删除"}, {49, "清空"}, {50, "查询、导出及打印"}}},
+      {"学生住宿管理", {{51, "设置"}, {52, "添加"}, {53, "修改"}, {54, "删除"}, {55, "清空"}, {56, "查询、导出及打印"}}},
+      {"教师工资编辑", {{57, "设置"}, {58, "添加"}, {59, "修改"}, {60, "删除"}, {61, "清空"}, {62, "查询、导出及打印"}}},
+      {"图书馆管理",
+       {{63, "设置"}, {64, "添加"}, {65, "修改"}, {66, "删除"}, {67, "清空"}, {68, "前台操作"}, {69, "查询、导出及打印"}}},
+      {"学生调班转班", {{71, "学生调班转班事务处理"}}},
+      {"收费前台",
+       {{30, "新生添加"}, {37, "减免学生欠费"}, {31, "收费并安排住宿"}, {36, "查看所有前台全部未提交记录"},
+        {34, "删除未提交记录"}, {44, "查看全校经营损益情况"}}}};
+  return groups;
+}
+
+Formyhxx1::Formyhxx1(kit::Desk& all) : Screen(all, "Formyhxx1", "用户权限设置") {
+  for (const RightGroup& group : rightGroups())
+    for (const RightCaption& right : group.rights) {
+      boxes.emplace_back(*this, "right" + std::to_string(right.number), right.caption);
+      byNumber_[static_cast<std::size_t>(right.number)] = &boxes.back();
+    }
+  yhxm.onDrop([this] {
+    RecordSet users = rows("select * from yhxx where yhjb<>'超级管理员'");
+    std::vector<std::string> names;
+    store::forEach(users, [&](RecordSet& user) { names.push_back(user.get("yhxm").trimmed()); });
+    yhxm.setChoices(names);
+  });
+  yhxm.onChange([this] { enableAll(!yhxm.text().empty()); });
+  yhxm.onPick([this] { showRights(); });
+  yhxm.onEnter([this] { showRights(); });
+  save.onPress([this] { saveRights(); });
+  back.onPress([this] { close(); });
+}
+
+void Formyhxx1::load() { enableAll(false); }
+
+void Formyhxx1::enableAll(bool on) {
+  for (kit::Check& box : boxes) box.enable(on);
+  save.enable(on);
+}
+
+void Formyhxx1::showRights() {
+  RecordSet rights = rows(Sql("select * from yhxx1 where yhxm='") + yhxm.trimmed() + "' order by bh");
+  if (rights.empty()) return;
+  enableAll(true);
+  store::forEach(rights, [this](RecordSet& row) {
+    const int number = static_cast<int>(row.get("bh").number()) - 1000;
+    if (number >= 0 && number <= lastRight && box(number)) box(number)->set(row.get("fn").yes());
+  });
+}
+
+void Formyhxx1::saveRights() {
+  RecordSet rights = rows(Sql("select * from yhxx1 where yhxm='") + yhxm.trimmed() + "' order by bh");
+  if (!rights.empty()) {
+    store::Unit unit(desk.store);
+    store::forEach(rights, [this](RecordSet& row) {
+      const int number = static_cast<int>(row.get("bh").number()) - 1000;
+      if (number < 0 || number > lastRight || !box(number)) return;
+      row.set("fn", box(number)->on());
+      row.update();
+    });
+    unit.finish();
+    inform("授权设置成功 ！      ", "信息提示");
+  }
+  for (kit::Check& box : boxes) box.set(false);
+  yhxm.clear();
+  enableAll(false);
+}
+
+}  // namespace upkeep
