@@ -42,7 +42,7 @@ void Formszsfbz2::save() {
 
 void Formszsfbz2::saveAmount() {
   const auto amount = [this] { return base::Money::leading(after.text()); };
-  if (!kit::holds(desk.person, {{&after, kit::notNumeric(after), "收费金额应为数字！   ", "错误提示"},
+  if (!kit::holds(desk.person, {{&after, kit::notAmount(after), "收费金额应为数字！   ", "错误提示"},
                                 {&after, [&] { return amount().zero(); },
                                  "收费额为零时，您完全可以删除该条记录，使用时再设置！   ", "操作提示"}}))
     return;

@@ -74,7 +74,7 @@ bool Formszsfbz::valid() {
         "学年学期、收费项目及收费金额不能为空 ！　　", "错误提示"},
        {&selection, [this] { return scope.chosen() != allClasses && selection.blank(); }, "请选择一个专业或班级 ！　　",
         "错误提示"},
-       {&je, kit::notNumeric(je), "收费金额应该是数字 ！     ", "错误提示"}});
+       {&je, kit::notAmount(je), "收费金额应该是数字 ！     ", "错误提示"}});
 }
 
 // The screen stays open, so that several items can be set in a row.

@@ -69,7 +69,7 @@ std::vector<kit::Rule> Formszsfbz3::rules() {
                               "学年学期及入学形式均不能为空 ！　　", "错误提示"},
                              {&lines.front().je, noAmount, "收费标准至少您需要设置一个以上 ！　　", "错误提示"}};
   for (StandardLine& line : lines) {
-    all.push_back({&line.je, kit::filledNotNumeric(line.je), "收费标准应该是数字 ！     ", "错误提示"});
+    all.push_back({&line.je, kit::filledNotAmount(line.je), "收费标准应该是数字 ！     ", "错误提示"});
     all.push_back({&line.sfxmmc, [&line] { return !line.je.blank() && line.sfxmmc.blank(); },
                    "第" + line.place.text() + "项没有定义收费项目！      ", "错误提示"});
   }
