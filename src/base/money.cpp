@@ -1,106 +1,95 @@
 #include "base/money.h"
 
-#include <limits>
+#include <algorithm>
+#include <array>
 
+#include "base/number_text.h"
 #include "base/text.h"
 
 namespace base {
 namespace {
 
-constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max() / 2;
+constexpr std::size_t places = 4;
+constexpr std::int64_t unitsPerYuan = 10000;
 
-struct Scan {
+// The amount of a number text; nothing beyond the largest amount. Half a unit is rounded away from zero.
+std::optional<Money> amountOf(const NumberText& number) {
+  std::string decimals = number.decimals;
+  const bool roundUp = decimals.size() > places && decimals[places] >= '5';
+  decimals.resize(places, '0');
+  const std::string digits = number.whole + decimals;
   std::int64_t units = 0;
-  bool digits = false, whole = true;  // whole: nothing but the number, within bounds
-};
+  for (const char digit : digits) {
+    units = units * 10 + (digit - '0');
+    if (units > Money::largest().units()) return std::nullopt;
+  }
+  if (roundUp) ++units;
+  if (units > Money::largest().units()) return std::nullopt;
+  return Money::ofUnits(number.negative ? -units : units);
+}
 
-// Reads the leading number of a text without blanks in front; digits beyond the fourth decimal round half away from zero.
-Scan scan(std::string_view text) {
-  Scan result;
-  std::size_t at = 0;
-  const bool negative = !text.empty() && text[0] == '-';
-  if (!text.empty() && (text[0] == '-' || text[0] == '+')) ++at;
-  int decimals = -1;
-  bool up = false;
-  for (; at < text.size(); ++at) {
-    const char c = text[at];
-    if (c == '.' && decimals < 0) {
-      decimals = 0;
-      continue;
-    }
-    if (c < '0' || c > '9') break;
-    result.digits = true;
-    if (decimals >= 4) {
-      up = up || (decimals == 4 && c >= '5');
-    } else if (result.units > (most - 9) / 10) {
-      result.units = most;
-      result.whole = false;
-      continue;
-    } else {
-      result.units = result.units * 10 + (c - '0');
-    }
-    if (decimals >= 0) ++decimals;
-  }
-  for (int i = decimals < 0 ? 0 : decimals; i < 4; ++i) {
-    if (result.units > most / 10) {
-      result.units = most;
-      result.whole = false;
-      break;
-    }
-    result.units *= 10;
-  }
-  if (up) ++result.units;
-  if (negative) result.units = -result.units;
-  result.whole = result.whole && result.digits && at == text.size();
-  return result;
+std::uint64_t magnitude(std::int64_t value) {
+  return value < 0 ? 0 - static_cast<std::uint64_t>(value) : static_cast<std::uint64_t>(value);
+}
+
+std::string padded(std::uint64_t value, std::size_t width) {
+  std::string digits = std::to_string(value);
+  return std::string(width - std::min(width, digits.size()), '0') + digits;
 }
 
 }  // namespace
 
 std::optional<Money> Money::parse(std::string_view text) {
-  const Scan number = scan(trim(text));
-  if (!number.whole) return std::nullopt;
-  return Money(number.units);
+  const NumberText number = readNumber(text);
+  if (!number.found() || !blank(number.rest)) return std::nullopt;
+  return amountOf(number);
 }
 
-Money Money::leading(std::string_view text) { return Money(scan(trim(text)).units); }
+Money Money::leading(std::string_view text) {
+  const NumberText number = readNumber(text);
+  if (!number.found()) return {};
+  return amountOf(number).value_or(number.negative ? -largest() : largest());
+}
 
 std::string Money::plain() const {
-  const std::int64_t size = units_ < 0 ? -units_ : units_;
-  std::string text = std::to_string(size / 10000);
-  if (const std::int64_t rest = size % 10000; rest != 0) {
-    std::string decimals = std::to_string(10000 + rest).substr(1);
-    while (decimals.back() == '0') decimals.pop_back();
-    text += "." + decimals;
-  }
-  return (units_ < 0 ? "-" : "") + text;
+  const std::uint64_t value = magnitude(units_);
+  std::string decimals = padded(value % unitsPerYuan, places);
+  decimals.erase(decimals.find_last_not_of('0') + 1);
+  return (units_ < 0 ? "-" : "") + std::to_string(value / unitsPerYuan) + (decimals.empty() ? "" : "." + decimals);
 }
 
 std::string Money::fixed2() const {
-  const std::int64_t fen = ((units_ < 0 ? -units_ : units_) + 50) / 100;
-  return (units_ < 0 && fen != 0 ? "-" : "") + std::to_string(fen / 100) + "." + std::to_string(100 + fen % 100).substr(1);
+  const std::uint64_t cents = (magnitude(units_) + 50) / 100;
+  return (units_ < 0 && cents > 0 ? "-" : "") + std::to_string(cents / 100) + "." + padded(cents % 100, 2);
 }
 
 std::string paddedAmount(Money amount) {
-  const std::size_t size = amount.plain().size();
-  return std::string(size < 8 ? 8 - size : 0, ' ') + amount.fixed2();
+  constexpr std::size_t widest = 8;
+  return std::string(widest - std::min(widest, amount.plain().size()), ' ') + amount.fixed2();
 }
 
 std::string AmountInWords(Money amount) {
-  static const std::vector<std::string> digits = characters("零壹贰叁肆伍陆柒捌玖");
-  static const std::vector<std::string> units = characters("分角元拾佰仟万拾佰仟亿拾佰仟万");
-  const std::string fen = std::to_string(amount.units() / 100);
-  std::string words;
-  for (std::size_t place = 0; place < fen.size(); ++place) {
-    const std::size_t at = fen.size() - 1 - place;
-    const char c = fen[at];
-    const std::string unit = place < units.size() ? units[place] : "";
-    if (c != '0') words = digits[c == '-' ? 0 : static_cast<std::size_t>(c - '0')] + unit + words;
-    else if (place < 2) words = digits[0] + unit + words;
-    else if (place == 2) words = unit + words;
-    else if (fen[at + 1] != '0') words = digits[0] + words;
+  static constexpr std::array<std::string_view, 10> digits{"零", "壹", "贰", "叁", "肆", "伍", "陆", "柒", "捌", "玖"};
+  static constexpr std::array<std::string_view, 15> units{"分", "角", "元", "拾", "佰", "仟", "万", "拾",
+                                                          "佰", "仟", "亿", "拾", "佰", "仟", "万"};
+  const std::string text = std::to_string(amount.units() / 100);  // cuts to fen
+  std::string result;
+  for (std::size_t place = 0; place < text.size(); ++place) {
+    const char c = text[text.size() - 1 - place];
+    const std::string_view unit = place < units.size() ? units[place] : "";
+    std::string piece;
+    if (c != '0') {
+      piece.append(digits[c == '-' ? 0 : static_cast<std::size_t>(c - '0')]).append(unit);
+    } else if (place < 2) {
+      piece.append(digits[0]).append(unit);  // jiao and fen are always spelled out
+    } else if (place == 2) {
+      piece = unit;
+    } else if (text[text.size() - place] != '0') {
+      piece = digits[0];
+    }
+    result.insert(0, piece);
   }
-  return words;
+  return result;
 }
 
 }  // namespace base

@@ -15,6 +15,8 @@ class Money {
   static constexpr Money ofUnits(std::int64_t tenThousandths) { return Money(tenThousandths); }
   static constexpr Money yuan(std::int64_t yuan) { return Money(yuan * 10000); }
   static constexpr Money fen(std::int64_t fen) { return Money(fen * 100); }
+  // What text can become: a sum of some hundred such amounts still holds. parse() refuses more, leading() stops here.
+  static constexpr Money largest() { return Money(9'999'999'999'999'999); }
   static std::optional<Money> parse(std::string_view text);  // strict: nothing unless the whole trimmed text is a number
   static Money leading(std::string_view text);               // lenient: the leading number, 0 when there is none
 

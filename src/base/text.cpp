@@ -1,84 +1,105 @@
 #include "base/text.h"
 
+#include <algorithm>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
+#include <limits>
+
+#include "base/number_text.h"
 
 namespace base {
 namespace {
 
-bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\v' || c == '\f'; }
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+constexpr std::string_view blanks = " \t\r\n";
+constexpr std::string_view replacement = "\xEF\xBF\xBD";
+constexpr int significantDigits = 15;
 
-// The length in bytes of the character at `from`; 1 for a byte that begins no proper sequence.
-std::size_t sequence(std::string_view text, std::size_t from, bool& proper) {
-  const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(text[at]); };
-  const unsigned char lead = byte(from);
-  proper = true;
+char upperLetter(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+bool continues(std::string_view text, std::size_t at, unsigned low, unsigned high) {
+  if (at >= text.size()) return false;
+  const auto byte = static_cast<unsigned char>(text[at]);
+  return byte >= low && byte <= high;
+}
+
+// Bytes of the well-formed character at a position; 0 where the text is broken. Overlong forms, surrogates and code
+// points beyond the last plane are broken: the second byte's range rules them out.
+std::size_t sequence(std::string_view text, std::size_t at) {
+  const auto lead = static_cast<unsigned char>(text[at]);
   if (lead < 0x80) return 1;
-  const std::size_t wanted = lead >= 0xF0 && lead <= 0xF4 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC2 ? 2 : 0;
-  proper = wanted != 0 && lead <= 0xF4 && from + wanted <= text.size();
-  for (std::size_t i = 1; proper && i < wanted; ++i) proper = (byte(from + i) & 0xC0) == 0x80;
-  if (proper && wanted == 3) proper = !(lead == 0xE0 && byte(from + 1) < 0xA0) && !(lead == 0xED && byte(from + 1) > 0x9F);
-  if (proper && wanted == 4) proper = !(lead == 0xF0 && byte(from + 1) < 0x90) && !(lead == 0xF4 && byte(from + 1) > 0x8F);
-  return proper ? wanted : 1;
+  if (lead < 0xC2 || lead > 0xF4) return 0;
+  const std::size_t size = lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+  const unsigned low = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
+  const unsigned high = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
+  if (!continues(text, at + 1, low, high)) return 0;
+  for (std::size_t i = 2; i < size; ++i) {
+    if (!continues(text, at + i, 0x80, 0xBF)) return 0;
+  }
+  return size;
 }
 
-std::size_t step(std::string_view text, std::size_t from) {
-  bool proper = true;
-  return sequence(text, from, proper);
+// The position behind a number of characters; a broken byte counts as one character.
+std::size_t skip(std::string_view text, std::size_t from, std::size_t count) {
+  for (; count > 0 && from < text.size(); --count) from += std::max<std::size_t>(sequence(text, from), 1);
+  return from;
 }
 
-// Where the character with this number (from 0) begins; the text's end when there are fewer.
-std::size_t offsetOf(std::string_view text, std::size_t character) {
-  std::size_t at = 0;
-  for (; character > 0 && at < text.size(); --character) at += step(text, at);
-  return at;
+// Plain digits of a whole number that is too long to be exact: 15 significant digits, then zeros.
+std::string roundedDigits(double value) {
+  char buffer[64];
+  const auto end =
+      std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::scientific, significantDigits - 1).ptr;
+  const std::string_view all(buffer, static_cast<std::size_t>(end - buffer));
+  const std::size_t exponentAt = all.find('e');
+  std::string digits(all.substr(0, exponentAt));
+  std::erase(digits, '.');
+  const bool negative = digits.front() == '-';
+  const int exponent = static_cast<int>(leadingNumber(all.substr(exponentAt + 1)));
+  digits.resize(static_cast<std::size_t>(exponent) + 1 + (negative ? 1 : 0), '0');
+  return digits;
 }
 
 }  // namespace
 
 std::string trim(std::string_view text) {
-  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
-  return std::string(text);
+  const std::size_t from = text.find_first_not_of(blanks);
+  if (from == std::string_view::npos) return {};
+  return std::string(text.substr(from, text.find_last_not_of(blanks) - from + 1));
 }
 
-bool blank(std::string_view text) {
-  for (const char c : text)
-    if (!isBlank(c)) return false;
-  return true;
-}
+bool blank(std::string_view text) { return text.find_first_not_of(blanks) == std::string_view::npos; }
 
 std::size_t length(std::string_view text) {
   std::size_t count = 0;
-  for (std::size_t at = 0; at < text.size(); at += step(text, at)) ++count;
+  for (std::size_t at = 0; at < text.size(); at = skip(text, at, 1)) ++count;
   return count;
 }
 
-std::string left(std::string_view text, std::size_t count) { return std::string(text.substr(0, offsetOf(text, count))); }
+std::string left(std::string_view text, std::size_t count) { return std::string(text.substr(0, skip(text, 0, count))); }
 
 std::string mid(std::string_view text, std::size_t from, std::size_t count) {
-  const std::string_view rest = text.substr(offsetOf(text, from == 0 ? 0 : from - 1));
-  return std::string(rest.substr(0, offsetOf(rest, count)));
+  const std::size_t start = skip(text, 0, from > 0 ? from - 1 : 0);
+  return std::string(text.substr(start, skip(text, start, count) - start));
 }
 
 std::string upper(std::string_view text) {
   std::string result(text);
-  for (char& c : result)
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  std::transform(result.begin(), result.end(), result.begin(), upperLetter);
   return result;
 }
 
-bool sameText(std::string_view a, std::string_view b) { return upper(a) == upper(b); }
+bool sameText(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return upperLetter(x) == upperLetter(y); });
+}
 
 std::string validUtf8(std::string_view text) {
   std::string result;
+  result.reserve(text.size());
   for (std::size_t at = 0; at < text.size();) {
-    bool proper = true;
-    const std::size_t bytes = sequence(text, at, proper);
-    result += proper ? std::string(text.substr(at, bytes)) : "\uFFFD";
-    at += bytes;
+    const std::size_t size = sequence(text, at);
+    result += size > 0 ? text.substr(at, size) : replacement;
+    at += std::max<std::size_t>(size, 1);
   }
   return result;
 }
@@ -86,65 +107,46 @@ std::string validUtf8(std::string_view text) {
 std::vector<std::string> characters(std::string_view text) {
   std::vector<std::string> result;
   for (std::size_t at = 0; at < text.size();) {
-    const std::size_t bytes = step(text, at);
-    result.emplace_back(text.substr(at, bytes));
-    at += bytes;
+    const std::size_t end = skip(text, at, 1);
+    result.emplace_back(text.substr(at, end - at));
+    at = end;
   }
   return result;
 }
 
 std::string join(const std::vector<std::string>& parts, std::string_view between) {
   std::string result;
-  for (std::size_t i = 0; i < parts.size(); ++i) {
-    if (i) result += between;
-    result += parts[i];
+  for (const std::string& part : parts) {
+    if (&part != &parts.front()) result += between;
+    result += part;
   }
   return result;
 }
 
 bool isNumeric(std::string_view text) {
-  const std::string trimmed = trim(text);
-  std::size_t at = !trimmed.empty() && (trimmed[0] == '-' || trimmed[0] == '+') ? 1 : 0;
-  bool digits = false, point = false;
-  for (; at < trimmed.size(); ++at) {
-    if (isDigit(trimmed[at])) digits = true;
-    else if (trimmed[at] == '.' && !point) point = true;
-    else return false;
-  }
-  return digits;
+  const NumberText number = readNumber(text);
+  return number.found() && blank(number.rest);
 }
 
 double leadingNumber(std::string_view text) {
-  std::size_t at = 0;
-  while (at < text.size() && isBlank(text[at])) ++at;
-  std::string number;
-  if (at < text.size() && (text[at] == '-' || text[at] == '+')) number += text[at++];
-  for (bool point = false; at < text.size() && (isDigit(text[at]) || (text[at] == '.' && !point)); ++at) {
-    point = point || text[at] == '.';
-    number += text[at];
-  }
-  return std::strtod(number.c_str(), nullptr);
+  const NumberText number = readNumber(text);
+  if (!number.found()) return 0;
+  const std::string plain = number.whole + "." + number.decimals + "0";
+  double value = 0;
+  const auto [end, error] = std::from_chars(plain.data(), plain.data() + plain.size(), value, std::chars_format::fixed);
+  if (error == std::errc::result_out_of_range) value = std::numeric_limits<double>::max();
+  return number.negative && value != 0 ? -value : value;
 }
 
 std::string plainNumber(double value) {
-  if (!std::isfinite(value)) return "0";
-  if (value == std::floor(value)) {
-    char whole[400];
-    std::snprintf(whole, sizeof whole, "%.0f", value == 0 ? 0.0 : value);
-    return whole;
-  }
-  char text[64];
-  std::snprintf(text, sizeof text, "%.15g", value);
-  const std::string shortest = text;
-  if (shortest.find('e') == std::string::npos) return shortest;
-  char fixed[400];
-  std::snprintf(fixed, sizeof fixed, "%.20f", value);
-  std::string plain = fixed;
-  while (plain.back() == '0') plain.pop_back();
-  if (plain.back() == '.') plain.pop_back();
-  return plain;
+  if (value == 0) return "0";  // a negative zero too
+  char buffer[400];
+  return std::string(buffer, std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed).ptr);
 }
 
-std::string nextNumber(std::string_view text, int by) { return plainNumber(leadingNumber(text) + by); }
+std::string nextNumber(std::string_view text, int step) {
+  const double value = leadingNumber(text) + step;
+  return std::abs(value) < 1e15 ? plainNumber(value) : roundedDigits(value);
+}
 
 }  // namespace base

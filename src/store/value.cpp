@@ -1,79 +1,66 @@
 #include "store/value.h"
 
-#include <cmath>
-
 #include "base/text.h"
 
 namespace store {
-
 namespace {
 
-template <class... Fs> struct Overload : Fs... {
-  using Fs::operator()...;
+template <class... Each>
+struct Overloaded : Each... {
+  using Each::operator()...;
 };
 
 }  // namespace
 
 bool Value::empty() const {
-  const auto* text = as<std::string>();
-  return isNull() || (text && text->empty());
+  const auto* held = as<std::string>();
+  return isNull() || (held && held->empty());
 }
 
 std::string Value::text() const {
-  return std::visit(Overload{[](std::monostate) { return std::string(); },
-                             [](const std::string& text) { return text; },
-                             [](double number) { return base::plainNumber(number); },
-                             [](bool yes) { return std::string(yes ? "True" : "False"); },
-                             [](base::Money money) { return money.plain(); },
-                             [](const base::Date& date) { return date.plain(); },
-                             [](const base::DateTime& moment) { return moment.plain(); },
-                             [](const Bytes&) { return std::string(); }},
-                    data_);
+  return std::visit(
+      Overloaded{[](std::monostate) { return std::string(); }, [](const std::string& held) { return held; },
+                 [](double held) { return base::plainNumber(held); },
+                 [](bool held) { return std::string(held ? "True" : "False"); },
+                 [](const Bytes&) { return std::string(); }, [](const auto& held) { return held.plain(); }},
+      data_);
 }
 
 std::string Value::trimmed() const { return base::trim(text()); }
 
 base::Money Value::money() const {
-  if (const auto* money = as<base::Money>()) return *money;
-  if (const auto* yes = as<bool>()) return base::Money::yuan(*yes ? 1 : 0);
-  if (as<std::string>() || as<double>()) return base::Money::leading(text());
-  return {};
+  if (const auto* held = as<base::Money>()) return *held;
+  if (const auto* held = as<std::string>()) return base::Money::leading(*held);
+  return base::Money::leading(base::plainNumber(number()));  // by its decimal text: 0.1 is a tenth
 }
 
 double Value::number() const {
-  if (const auto* number = as<double>()) return *number;
-  if (const auto* text = as<std::string>()) return base::leadingNumber(*text);
-  if (const auto* yes = as<bool>()) return *yes ? 1 : 0;
-  if (const auto* money = as<base::Money>()) return static_cast<double>(money->units()) / 10000;
+  if (const auto* held = as<double>()) return *held;
+  if (const auto* held = as<std::string>()) return base::leadingNumber(*held);
+  if (const auto* held = as<bool>()) return *held ? 1 : 0;
+  if (const auto* held = as<base::Money>()) return static_cast<double>(held->units()) / 10000;
   return 0;
 }
 
-bool Value::yes() const {
-  if (const auto* text = as<std::string>()) {
-    const std::string word = base::trim(*text);
-    if (base::sameText(word, "true") || word == "是") return true;
-  }
-  return number() != 0;
-}
+bool Value::yes() const { return number() != 0; }
 
 std::optional<base::Date> Value::date() const {
-  if (const auto* date = as<base::Date>()) return *date;
-  if (const auto* moment = as<base::DateTime>()) return moment->date;
-  if (const auto* text = as<std::string>()) return base::Date::parse(*text);
-  return std::nullopt;
+  if (const auto* held = as<base::Date>()) return *held;
+  const auto held = moment();
+  return held ? std::optional(held->date) : std::nullopt;
 }
 
 std::optional<base::DateTime> Value::moment() const {
-  if (const auto* date = as<base::Date>()) return base::DateTime{*date};
-  if (const auto* moment = as<base::DateTime>()) return *moment;
-  if (const auto* text = as<std::string>()) return base::DateTime::parse(*text);
+  if (const auto* held = as<base::DateTime>()) return *held;
+  if (const auto* held = as<base::Date>()) return base::DateTime{*held};
+  if (const auto* held = as<std::string>()) return base::DateTime::parse(*held);
   return std::nullopt;
 }
 
 const Bytes& Value::bytes() const {
   static const Bytes none;
-  const auto* bytes = as<Bytes>();
-  return bytes ? *bytes : none;
+  const auto* held = as<Bytes>();
+  return held ? *held : none;
 }
 
 }  // namespace store
