@@ -31,14 +31,14 @@ TEST_P(Records, ValuesAreTypedBothWays) {
       {"kjsj", "", ""},
       {"kjsj", " ", ""},
       {"kjsj", Value(), Value()},
-      {"xm", base::Date{2008, 9, 1}, "2008-9-1"},
-      {"xm", base::DateTime{{2008, 9, 1}, 8, 5, 3}, "2008-9-1 8:05:03"},
-      {"xm", *base::Money::parse("12.50"), "12.5"},
-      {"xm", 10000002, "10000002"},
-      {"xm", "", ""},
-      {"xm", Value(), Value()},
-      {"xm", " a ", " a "},
-      {"xm", "0012", "0012"},
+      {"yhxm", base::Date{2008, 9, 1}, "2008-9-1"},
+      {"yhxm", base::DateTime{{2008, 9, 1}, 8, 5, 3}, "2008-9-1 8:05:03"},
+      {"yhxm", *base::Money::parse("12.50"), "12.5"},
+      {"yhxm", 10000002, "10000002"},
+      {"yhxm", "", ""},
+      {"yhxm", Value(), Value()},
+      {"yhxm", " a ", " a "},
+      {"yhxm", "0012", "0012"},
   };
   for (const Typing& typing : cases) {
     RecordSet set(*store_, "select * from czjl");
