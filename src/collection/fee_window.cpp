@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "kit/rows.h"
 #include "kit/validation.h"
 
 namespace collection {
@@ -19,12 +20,7 @@ Formzctsf4::Formzctsf4(kit::Desk& all) : Screen(all, "Formzctsf4", "收费窗口
 
   for (FeeLine& line : lines) wireLine(line);
   xh.onChange([this] { arrearsEntry.enable(!xh.blank()); });
-  jffs.onDrop([this] {
-    store::RecordSet methods = rows("select jffs from jfjl group by jffs");
-    std::vector<std::string> used;
-    store::forEach(methods, [&](store::RecordSet& method) { used.push_back(method.get("jffs").trimmed()); });
-    jffs.setChoices(std::move(used));
-  });
+  jffs.onDrop([this] { jffs.setChoices(kit::columnTexts(desk.store, "select jffs from jfjl group by jffs", "jffs")); });
   totalDue.onChange([this] {
     allLines.set(false);
     allLines.enable(!base::Money::leading(totalDue.text()).zero());

@@ -1,0 +1,29 @@
+#include "kit/rows.h"
+
+namespace kit {
+
+std::vector<std::string> columnTexts(store::Store& store, const store::Sql& sql, std::string_view column) {
+  std::vector<std::string> texts;
+  store::RecordSet set(store, sql);
+  store::forEach(set, [&](store::RecordSet& row) { texts.push_back(row.get(column).trimmed()); });
+  return texts;
+}
+
+void setEach(store::Store& store, const store::Sql& sql, std::string_view column, const store::Value& value) {
+  store::Unit unit(store);
+  store::RecordSet set(store, sql);
+  store::forEach(set, [&](store::RecordSet& row) {
+    row.set(column, value);
+    row.update();
+  });
+  unit.finish();
+}
+
+void removeEach(store::Store& store, const store::Sql& sql) {
+  store::Unit unit(store);
+  store::RecordSet set(store, sql);
+  store::forEach(set, [](store::RecordSet& row) { row.remove(); });
+  unit.finish();
+}
+
+}  // namespace kit
