@@ -18,9 +18,19 @@ struct School : support::TestDesk {
 
   // A student of the school in every table that copies one, and in the tables of graduates.
   void enrol(const std::string& xh, const std::string& xm) {
-    add("xs", {{"xh", xh}, {"xtbh", "11001001"}, {"xm", xm}, {"xb", "女"}, {"bjmc", "计算机11001班"}, {"mz", "回族"},
-               {"csrq", base::Date{2008, 9, 1}}, {"rxrq", base::Date{2024, 9, 2}}, {"rxxs", "统招"}, {"sfbz", base::Money::yuan(1500)},
-               {"bz", "走读"}, {"bsh", "2024-9-2 8:00:00"}, {"xp", toBytes("GIF89a old")}});
+    add("xs", {{"xh", xh},
+               {"xtbh", "11001001"},
+               {"xm", xm},
+               {"xb", "女"},
+               {"bjmc", "计算机11001班"},
+               {"mz", "回族"},
+               {"csrq", base::Date{2008, 9, 1}},
+               {"rxrq", base::Date{2024, 9, 2}},
+               {"rxxs", "统招"},
+               {"sfbz", base::Money::yuan(1500)},
+               {"bz", "走读"},
+               {"bsh", "2024-9-2 8:00:00"},
+               {"xp", toBytes("GIF89a old")}});
     for (const std::string_view table : {"cjb", "jfjl", "qfjl", "xxfk", "tjs", "zsgl2", "bys_xs", "bys_jfjl"})
       for (int row = 0; row < 2; ++row)
         add(table, {{"xh", xh}, {"xm", xm}, {"bjmc", "计算机11001班"}, {"xtbh", "11001001"}});
@@ -28,9 +38,7 @@ struct School : support::TestDesk {
   std::string stored(std::string_view column, const std::string& xh = number) {
     return value(store::Sql("select * from xs where xh='") + xh + "'", column);
   }
-  std::string photo(const std::string& xh = number) {
-    return fromBytes(loadStudent(store, xh).get("xp").bytes());
-  }
+  std::string photo(const std::string& xh = number) { return fromBytes(loadStudent(store, xh).get("xp").bytes()); }
   std::string file(const std::string& name, const std::string& bytes) {
     const auto path = desktop.programFolder() / name;
     platform::writeFile(path, bytes);

