@@ -94,9 +94,7 @@ int Date::daysUntil(Date other) const {
   return static_cast<int>((sys_days(civil(other)) - sys_days(civil(*this))).count());
 }
 
-int Date::weekday() const {
-  return static_cast<int>(std::chrono::weekday(sys_days(civil(*this))).iso_encoding());
-}
+int Date::weekday() const { return static_cast<int>(std::chrono::weekday(sys_days(civil(*this))).iso_encoding()); }
 
 std::string Date::plain() const {
   return std::to_string(year) + "-" + std::to_string(month) + "-" + std::to_string(day);

@@ -47,8 +47,8 @@ std::size_t skip(std::string_view text, std::size_t from, std::size_t count) {
 // Plain digits of a whole number that is too long to be exact: 15 significant digits, then zeros.
 std::string roundedDigits(double value) {
   char buffer[64];
-  const auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::scientific,
-                                 significantDigits - 1).ptr;
+  const auto end =
+      std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::scientific, significantDigits - 1).ptr;
   const std::string_view all(buffer, static_cast<std::size_t>(end - buffer));
   const std::size_t exponentAt = all.find('e');
   std::string digits(all.substr(0, exponentAt));

@@ -24,7 +24,7 @@ struct Node {
     Heading,  // a title text
     Note,     // a quiet explaining text, wrapped
     Stretch,  // takes what room is left
-    Custom,   // a hand-made part of the window, known by its text
+    Custom,   // a hand-made part of the window, known by its text, that places its children itself
   };
   Kind kind = Kind::Member;
   std::string text;
@@ -56,7 +56,7 @@ inline Node buttons(Nodes actions) { return {Node::Kind::Buttons, "", std::move(
 inline Node heading(std::string text) { return {Node::Kind::Heading, std::move(text)}; }
 inline Node note(std::string text) { return {Node::Kind::Note, std::move(text)}; }
 inline Node stretch() { return {Node::Kind::Stretch, ""}; }
-inline Node custom(std::string name) { return {Node::Kind::Custom, std::move(name)}; }
+inline Node custom(std::string name, Nodes parts = {}) { return {Node::Kind::Custom, std::move(name), std::move(parts)}; }
 inline Node form(Nodes fields, int columns = 1) {
   Node node(Node::Kind::Form, "", std::move(fields));
   node.columns = columns;

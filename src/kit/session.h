@@ -39,6 +39,9 @@ struct Session {
   Mode EditMode = Mode::Add;
   store::RecordSet* edited = nullptr;
 
+  // The class or enrolment form that the setup's fee standards are filtered by; empty: all are shown.
+  std::string standard_filter;
+
   // The console.
   Panel ConsolePanel = Panel::None;
   bool reload_student_list = false, reload_payment_list = false, reload_arrears_list = false;

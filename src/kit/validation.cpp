@@ -17,6 +17,12 @@ std::function<bool()> notNumeric(const Field& field) {
 std::function<bool()> filledNotNumeric(const Field& field) {
   return [&field] { return !field.blank() && !base::isNumeric(field.trimmed()); };
 }
+std::function<bool()> notAmount(const Field& field) {
+  return [&field] { return !base::Money::parse(field.trimmed()); };
+}
+std::function<bool()> filledNotAmount(const Field& field) {
+  return [&field] { return !field.blank() && !base::Money::parse(field.trimmed()); };
+}
 std::function<bool()> notDate(const Field& field) {
   return [&field] { return !base::Date::parse(field.trimmed()); };
 }

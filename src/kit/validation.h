@@ -22,6 +22,8 @@ std::function<bool()> blank(const Field& field);
 std::function<bool()> longerThan(const Field& field, std::size_t characters);
 std::function<bool()> notNumeric(const Field& field);        // blank counts as not numeric
 std::function<bool()> filledNotNumeric(const Field& field);  // blank passes
+std::function<bool()> notAmount(const Field& field);         // no number, or more than money can hold
+std::function<bool()> filledNotAmount(const Field& field);   // blank passes
 std::function<bool()> notDate(const Field& field);           // blank counts as no date
 std::function<bool()> filledNotDate(const Field& field);     // blank passes
 

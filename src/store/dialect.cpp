@@ -164,7 +164,7 @@ class Parser {
 
   Expr factor() {
     const Deeper deeper(depth_);
-    if (takeSign("-")) return wrap(Kind::Negate, factor());
+    if (takeSign("-")) return negative();
     if (takeSign("(")) {
       Expr inner = either();
       expectSign(")");
@@ -178,6 +178,13 @@ class Parser {
       case Token::Kind::Word: return word();
       default: unexpected();
     }
+  }
+
+  Expr negative() {
+    if (now().kind == Token::Kind::Number && !now().text.starts_with('-')) {
+      return {Kind::Number, "-" + tokens_[at_++].text, {}};
+    }
+    return wrap(Kind::Negate, factor());
   }
 
   Expr word() {

@@ -5,7 +5,8 @@
 namespace store {
 namespace {
 
-template <class... Each> struct Overloaded : Each... {
+template <class... Each>
+struct Overloaded : Each... {
   using Each::operator()...;
 };
 
@@ -17,13 +18,12 @@ bool Value::empty() const {
 }
 
 std::string Value::text() const {
-  return std::visit(Overloaded{[](std::monostate) { return std::string(); },
-                               [](const std::string& held) { return held; },
-                               [](double held) { return base::plainNumber(held); },
-                               [](bool held) { return std::string(held ? "True" : "False"); },
-                               [](const Bytes&) { return std::string(); },
-                               [](const auto& held) { return held.plain(); }},
-                    data_);
+  return std::visit(
+      Overloaded{[](std::monostate) { return std::string(); }, [](const std::string& held) { return held; },
+                 [](double held) { return base::plainNumber(held); },
+                 [](bool held) { return std::string(held ? "True" : "False"); },
+                 [](const Bytes&) { return std::string(); }, [](const auto& held) { return held.plain(); }},
+      data_);
 }
 
 std::string Value::trimmed() const { return base::trim(text()); }

@@ -50,11 +50,12 @@ TEST(Text, NumbersAsTyped) {
     double leading;
   };
   const Case cases[] = {
-      {"", false, 0},      {" ", false, 0},       {"0", true, 0},         {" 12 ", true, 12},     {"12abc", false, 12},
-      {"abc", false, 0},   {"-3.5", true, -3.5},  {"+4", true, 4},        {"- 4", false, 0},      {".5", true, 0.5},
-      {"5.", true, 5},     {".", false, 0},       {"1.2.3", false, 1.2},  {"1,234", true, 1234},  {"1,23", false, 1},
-      {"1e5", false, 1},   {"1 2", false, 1},     {"１", false, 0},       {"0x10", false, 0},     {"--1", false, 0},
-      {",123", false, 0},  {"-0", true, 0},       {"\t7\n", true, 7},     {"20260001", true, 20260001},
+      {"", false, 0},        {" ", false, 0},       {"0", true, 0},       {" 12 ", true, 12},
+      {"12abc", false, 12},  {"abc", false, 0},     {"-3.5", true, -3.5}, {"+4", true, 4},
+      {"- 4", false, 0},     {".5", true, 0.5},     {"5.", true, 5},      {".", false, 0},
+      {"1.2.3", false, 1.2}, {"1,234", true, 1234}, {"1,23", false, 1},   {"1e5", false, 1},
+      {"1 2", false, 1},     {"１", false, 0},      {"0x10", false, 0},   {"--1", false, 0},
+      {",123", false, 0},    {"-0", true, 0},       {"\t7\n", true, 7},   {"20260001", true, 20260001},
   };
   for (const Case& each : cases) {
     EXPECT_EQ(isNumeric(each.text), each.numeric) << each.text;

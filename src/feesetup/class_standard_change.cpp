@@ -1,0 +1,79 @@
+#include "feesetup/class_standard_change.h"
+
+#include "base/text.h"
+#include "kit/rows.h"
+#include "kit/validation.h"
+
+namespace feesetup {
+
+using store::Sql;
+
+Formszsfbz2::Formszsfbz2(kit::Desk& desk) : Screen(desk, "Formszsfbz2", "收费标准信息修改") {
+  caution.set("（如非必须，请不要修改它）");
+  what.onChange([this] { show(); });
+  confirm.onPress([this] { save(); });
+  cancel.onPress([this] { close(); });
+}
+
+void Formszsfbz2::load() {
+  term_ = row().get("xq").trimmed();
+  item_ = row().get("sfxmmc").trimmed();
+  amount_ = row().get("je").trimmed();
+  show();
+}
+
+void Formszsfbz2::show() {
+  const bool term = changesTerm();
+  before.setLabel(term ? "原学年学期" : "收费项目");
+  before.set(term ? term_ : item_);
+  after.setLabel(term ? "新学年学期" : "收费金额");
+  after.set(term ? base::defaultTerm(desk.clock.today()) : amount_);
+  caution.show(term);
+  all.set(term);
+  all.enable(!term);
+  after.focus();
+}
+
+void Formszsfbz2::save() {
+  if (changesTerm()) return saveTerm();
+  if (all.on()) return saveAmounts();
+  saveAmount();
+}
+
+void Formszsfbz2::saveAmount() {
+  const auto amount = [this] { return base::Money::leading(after.text()); };
+  if (!kit::holds(desk.person, {{&after, kit::notAmount(after), "收费金额应为数字！   ", "错误提示"},
+                                {&after, [&] { return amount().zero(); },
+                                 "收费额为零时，您完全可以删除该条记录，使用时再设置！   ", "操作提示"}}))
+    return;
+  row().set("je", amount());
+  row().update();
+  done("选定记录已修改！     ");
+}
+
+// Every class and every term, with the amount as it stands: zero is let through here, and a text counts as zero.
+void Formszsfbz2::saveAmounts() {
+  kit::setEach(desk.store, Sql("select * from sfbzb where sfxmmc='") + item_ + "'", "je",
+               base::Money::leading(after.text()));
+  done("记录批修改成功！     ");
+}
+
+// The rows that the grid shows: with a class picked in its filter, the rows of that class alone.
+void Formszsfbz2::saveTerm() {
+  if (!kit::holds(desk.person, {{&after, kit::blank(after), "新的学年学期不能为空！     ", "错误提示"}})) return;
+  if (!ask("此操作将修改系统中所有收费项目的学年学期信息，您确认继续吗？   ", "批修改提示")) return;
+  store::Unit unit(desk.store);
+  store::forEach(row(), [&](store::RecordSet& shown) {
+    shown.set("xq", after.trimmed());
+    shown.update();
+  });
+  unit.finish();
+  done("记录批修改成功！     ");
+}
+
+void Formszsfbz2::done(const std::string& text) {
+  inform(text, "信息提示");
+  close();
+}
+
+}  // namespace feesetup

@@ -1,0 +1,63 @@
+#include "feesetup/desk_settings.h"
+
+#include "base/text.h"
+#include "kit/rows.h"
+#include "kit/settings.h"
+
+namespace feesetup {
+
+Formszqt::Formszqt(kit::Desk& all) : Screen(all, "Formszqt", "收费前台设置总控界面") {
+  // What is shown is what the session holds: a tick goes back until it is stored, and stays back when there is no
+  // record.
+  for (kit::Check* tick : ticks())
+    tick->onChange([this, tick] {
+      const bool& kept = desk.session.*kit::flagOf(tick->name);
+      const bool wanted = tick->on();
+      if (wanted == kept) return;
+      tick->set(kept);
+      kit::storeSetting(desk, tick->name, wanted);
+      tick->set(kept);
+    });
+  fpys.onChange([this] {
+    const int& kept = desk.session.receipt_style;
+    const int wanted = fpys.chosen() + 1;
+    if (wanted == kept) return;
+    fpys.set(kept - 1);
+    kit::storeSetting(desk, "fpys", wanted);
+    fpys.set(kept - 1);
+  });
+  qfjz.onDrop([this] { qfjz.setChoices(kit::columnTexts(desk.store, "select * from sfxmb", "sfxmmc")); });
+  todamc1.setChoices({"江西省学校收费专用收据"});
+  storeDays.onPress([this] {
+    if (!qfts.blank()) storeText("qfts", base::leadingNumber(qfts.trimmed()));
+  });
+  storeItem.onPress([this] { storeText("qfjz", qfjz.trimmed()); });
+  storeForm.onPress([this] { storeText("todamc1", todamc1.trimmed()); });
+  back.onPress([this] { close(); });
+}
+
+std::vector<kit::Check*> Formszqt::ticks() {
+  return {&dysz, &dybzok, &zdqh, &sfctsz, &sfxmmcsz, &qfmr, &jfjljz, &qfcejz};
+}
+
+void Formszqt::load() {
+  kit::loadSettings(desk);
+  show();
+}
+
+void Formszqt::show() {
+  const kit::Session& session = desk.session;
+  for (kit::Check* tick : ticks()) tick->set(session.*kit::flagOf(tick->name));
+  fpys.set(session.receipt_style - 1);
+  todamc1.set(session.custom_form);
+  qfjz.set(session.arrears_item);
+  qfts.set(std::to_string(session.reminder_days));
+}
+
+void Formszqt::storeText(std::string_view column, const store::Value& value) {
+  if (!kit::storeSetting(desk, column, value)) return;
+  inform("设置成功 ！         ", "信息提示");
+  show();
+}
+
+}  // namespace feesetup

@@ -1,0 +1,21 @@
+#include "feesetup/desk_settings.h"
+
+namespace feesetup {
+
+kit::Layout Formszqt::layout() {
+  using namespace kit;
+  return {.root = column({
+              group("收据打印", {dysz, dybzok, fpys, zdqh, row({form({wide(todamc1, 20)}), storeForm, stretch()})}),
+              group("收费前台", {sfctsz, heading("前台收费设置："), sfxmmcsz, qfmr}),
+              group("后台数据加载", {jfjljz, note("打开后台 [ 教师工资信息管理前台 ] 时,加载全部数据"),
+                                     note("打开后台 [ 欠费记录总控界面 ] 时,加载全部数据")}),
+              group("欠费设置", {row({form({wide(qfjz, 16)}), storeItem, stretch()}), qfcejz,
+                                 note("并将差额自动添加到“第一次补交”金额栏中"),
+                                 row({form({wide(qfts, 6)}), storeDays, stretch()})}),
+              buttons({back}),
+          }),
+          .cancel = &back,
+          .width = 720};
+}
+
+}  // namespace feesetup

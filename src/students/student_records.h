@@ -1,0 +1,62 @@
+// The register of enrolled students (xs), without a screen: numbers, validation, and the writes with what they draw
+// after them in the tables that carry a copy of the student.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "kit/desk.h"
+#include "students/photo.h"
+
+namespace students {
+
+// The texts of a record as they stand on the edit screen; named and ordered as the columns.
+struct Student {
+  std::string xh, xtbh, xm, xb, bjmc, mz, csrq, sfzhm, rxrq, zzmm, lxdh, sjhm, rxxs, sfbz, jtzz, yzbm, eml, bz, byxx,
+      yhkh, zymc;
+};
+using StudentText = std::string Student::*;
+
+// The tables that copy a student's number, name, class and system number; changed and deleted with the student, in this
+// order, by the number alone. Graduates and history keep what they were written with.
+constexpr std::array<std::string_view, 6> dependentTables = {"cjb", "jfjl", "qfjl", "xxfk", "tjs", "zsgl2"};
+
+constexpr std::string_view notesIndent = "    ";  // stands before the notes wherever they are shown
+
+// The row of a student: an empty set when there is none.
+store::RecordSet loadStudent(store::Store& store, const std::string& xh);
+Student textsOf(store::RecordSet& row);                // as the edit screen shows them
+Student newStudent(base::Date today);                  // what an empty screen holds
+
+struct NumberProposal {
+  std::string number;    // stands in the field of a new student
+  std::string proposal;  // offered when a number has the wrong length; empty in an empty register
+};
+NumberProposal proposeNumber(store::Store& store, base::Date today);
+
+struct ClassPick {
+  std::string zymc, xtbh;
+};
+std::optional<ClassPick> classPicked(store::Store& store, const std::string& bjmc);  // nothing: no such class
+
+// Why a record was not written: told to the person; the focus goes to the field, when it is one field's fault.
+struct Refusal {
+  std::string text, title;
+  StudentText field = nullptr;
+  bool wrongLength = false;  // the number's length is not the school's: a number is offered
+};
+
+// The first test that fails, in the order of the screen.
+std::optional<Refusal> validate(store::Store& store, const Student& student);
+std::optional<Refusal> addStudent(kit::Desk& desk, const Student& student, const Photo& photo);
+
+// Whether number, name or class differ: then the change reaches all that belongs to the student.
+bool keyChanged(const Student& former, const Student& student);
+std::optional<Refusal> changeStudent(kit::Desk& desk, const std::string& formerXh, const Student& student,
+                                     const Photo& photo);
+bool deleteStudent(store::Store& store, const std::string& xh);  // false: there is no such student
+
+}  // namespace students

@@ -1,0 +1,200 @@
+#include "shell/console.h"
+
+#include "collection/fee_window.h"
+#include "feesetup/desk_settings.h"
+#include "shell/rights.h"
+#include "students/student_edit.h"
+#include "support/test_desk.h"
+
+namespace shell {
+namespace {
+
+using kit::Box;
+using support::opened;
+using support::TestDesk;
+
+struct Office : TestDesk {
+  explicit Office(std::initializer_list<int> rights = {}) {
+    if (rights.size() == 0) session.Rights.fill(true);
+    for (const int right : rights) session.Rights[static_cast<std::size_t>(right)] = true;
+    session.SessionUser = "李强";
+    session.SchoolName = "澜岳学校";
+    session.ComputerName = "收费一号机";
+    session.SessionStart = "2026-9-7 8:30:05";
+    add("czjl", {{"yhxm", "李强"}, {"jsjmc", "收费一号机"}, {"kjsj", "2026-9-7 8:30:05"}, {"gjsj", ""}});
+    add("zymcb", {{"zybh", "11"}, {"zymc", "计算机"}});
+    add("bjzl", {{"zybh", "11"}, {"bjdh", "11001"}, {"bjmc", "计算机11001班"}});
+    add("xs", {{"xh", "1001"}, {"xm", "王小明"}, {"bjmc", "计算机11001班"}, {"csrq", "2008-9-1"}});
+    add("xs", {{"xh", "1002"}, {"xm", "张三"}, {"bjmc", "计算机11001班"}});
+    add("xs", {{"xh", "1003"}, {"xm", "张三"}, {"bjmc", "计算机11001班"}});
+    pay("202609070001", "1001", "2026-9-7", "10000001", "300", "", "李强");
+    pay("202609060001", "1001", "2026-9-6", "10000000", "12.5", "*", "李强");
+  }
+  void pay(const char* lsh, const char* xh, const char* day, const char* receipt, const char* je, const char* sftj, const char* skr) {
+    add("jfjl", {{"lsh", lsh}, {"xh", xh}, {"xm", "王小明"}, {"jfrq", day}, {"fpbh", receipt}, {"je", je}, {"sftj", sftj}, {"skr", skr}, {"sfxm", "学费"}});
+  }
+  void set(std::string_view column, store::Value value) {
+    store::RecordSet settings(store, "select * from morvanedjpzb where fn='kqd'", store::Connection::Config);
+    settings.set(column, std::move(value));
+    settings.update();
+  }
+};
+
+TEST(Console, RightsSettleTheMenuOnce) {
+  Office office{Income, StudentQuery};
+  auto s = opened<Formzct>(office);
+  EXPECT_TRUE(s->cd11.enabled());
+  EXPECT_FALSE(s->cd21.enabled() || s->cd31.enabled() || s->cd33.enabled() || s->cd34.enabled() || s->cd14.enabled());
+  EXPECT_TRUE(s->cd32.enabled());
+  EXPECT_TRUE(s->students_overview.button("打开").enabled());
+  EXPECT_FALSE(s->students_overview.button("添加").enabled());
+  EXPECT_FALSE(s->payments_overview.button("打开").enabled());
+  for (kit::Action* entry : s->paymentsPopUp()) EXPECT_FALSE(entry && entry->enabled());  // right 31 is missing
+  s->card.xh.type("1001");
+  s->card.xh.enter();
+  EXPECT_EQ(s->card.xm.text(), "");
+}
+
+TEST(Console, FindsByNumberAndShowsCardAndPayments) {
+  Office office;
+  office.set("sfctsz", 0);
+  auto s = opened<Formzct>(office);
+  s->card.xh.type(" 1001 ");
+  s->card.xh.enter();
+  EXPECT_EQ(s->card.xm.text(), "王小明");
+  EXPECT_EQ(s->card.frame.title(), "王小明同学学籍资料信息");
+  EXPECT_EQ(s->payments.list.cell(0, 8), "    12.50");
+  EXPECT_EQ(s->payments.list.cell(1, 0), "202609070001");
+  EXPECT_EQ(s->payments.bar.text(), "学生：王小明 从2026年9月6日到2026年9月7日共有交费记录数： 2 条，累计交费总额：312.50 元");
+  s->cd55.press();
+  EXPECT_EQ(s->payments.bar.text(), "新交费记录： 1 条，累计金额：300.00 元");
+  s->card.xm.click();
+  EXPECT_EQ(s->payments.list.count(), 0);
+  EXPECT_EQ(s->card.frame.title(), "学籍资料信息");
+}
+
+TEST(Console, SearchMessages) {
+  Office office;
+  office.set("sfctsz", 1);
+  auto s = opened<Formzct>(office);
+  const auto byNumber = [&](const char* text) { s->card.xh.type(text); s->card.xh.enter(); };
+  const auto byName = [&](const char* text) { s->card.xm.type(text); s->card.xm.enter(); };
+  office.person.expect(Box::Stop, "学号不能为空，请输入正确的学号！    ", "操作错误")
+      .expect(Box::Stop, "学号应该是数字，请重新输入！    ", "错误提示")
+      .expect(Box::Information, "找不到相关记录，请检查学号输入是否正确！    ", "信息提示")
+      .expect(Box::Stop, "姓名不能为空 ！    ", "操作错误")
+      .expect(Box::Information, "该生相关记录不存在，请检查姓名输入是否正确！   ", "信息提示")
+      .expect(Box::Information, "学生姓名不唯一，请您用学号调用该生的相关记录！    ", "操作提示");
+  byNumber(" ");
+  byNumber("abc");
+  byNumber("9999");
+  byName(" ");
+  byName("无名");
+  byName("张三");
+  office.navigator.expect<collection::Formzctsf4>();
+  byName("王小明");
+  EXPECT_EQ(office.session.current_xh, "1001");
+}
+
+TEST(Console, ClassPanelLeadsToTheFeeWindowThroughTheTimer) {
+  Office office;
+  office.set("sfctsz", 1);
+  auto s = opened<Formzct>(office);
+  EXPECT_FALSE(s->classes.frame.visible());
+  s->class_strip.press();
+  s->classes.tree.click("k1.1");
+  EXPECT_EQ(s->classes.students.count(), 3);
+  s->classes.students.doubleClick(0);
+  EXPECT_FALSE(s->classes.frame.visible());
+  EXPECT_EQ(office.session.ConsolePanel, kit::Panel::FeeWindow);
+  office.navigator.expect<collection::Formzctsf4>();
+  s->timer1.tick();
+  EXPECT_EQ(office.session.ConsolePanel, kit::Panel::None);
+  s->classes.opensFeeWindow.set(false);
+  EXPECT_FALSE(office.session.open_fee_window);
+}
+
+TEST(Console, OverviewsFillOnlyWhenTheSettingSaysSo) {
+  for (const bool loads : {false, true}) {
+    Office office;
+    office.set("jfjljz", loads);
+    auto s = opened<Formzct>(office);
+    s->k3.press();
+    EXPECT_FALSE(s->payments_overview.frame.visible());
+    s->timer1.tick();
+    EXPECT_TRUE(s->payments_overview.frame.visible());
+    EXPECT_EQ(s->payments_overview.list.count(), loads ? 2 : 0);
+    EXPECT_EQ(s->payments_overview.bar.text(), loads ? "记录总数： 2 笔，总金额：312.50 元！" : "");
+    s->k2.press();
+    s->timer1.tick();
+    EXPECT_FALSE(s->payments_overview.frame.visible());
+    EXPECT_EQ(s->students_overview.list.count(), loads ? 3 : 0);
+    s->students_overview.button("返回").press();
+    EXPECT_FALSE(s->students_overview.frame.visible());
+    EXPECT_EQ(office.session.ConsolePanel, kit::Panel::None);
+  }
+}
+
+TEST(Console, TheChainOfThreeRightsIsNotTiedToThePanel) {
+  const char* refusal = "请您先请示授权再进行此操作！      ";
+  Office first{StudentQuery};
+  auto s = opened<Formzct>(first);
+  s->k2.press();
+  s->timer1.tick();
+  first.person.expect(Box::Information, "“打印报表”尚未开放，将在后续版本中提供。", "信息提示").expect(Box::Information, refusal, "权限越界");
+  s->k7.press();
+
+  Office third{StudentQuery, ArrearsQuery};
+  auto t = opened<Formzct>(third);
+  t->k4.press();
+  t->timer1.tick();
+  third.person.expect(Box::Information, refusal, "权限越界");
+  t->k8.press();
+}
+
+TEST(Console, DeletesOnlyOwnUnsubmittedPayments) {
+  Office office;
+  office.set("sfctsz", 0);
+  office.pay("202609070002", "1001", "2026-9-7", "10000001", "5", "", "李强");
+  office.pay("202609070003", "1001", "2026-9-8", "10000002", "7", "", "王芳");
+  auto s = opened<Formzct>(office);
+  s->card.xh.type("1001");
+  s->card.xh.enter();
+  office.person.expect(Box::Information, "这是一条已提交记录，前台不能删除它！    ", "信息提示")
+      .expect(Box::Information, "这是操作员王芳经办的收费记录，您在前台不能删除它！   ", "信息提示")
+      .answer(false, Box::AskStop, "您确认是要删除选定记录吗？      ", "警告")
+      .answer(true, Box::AskStop, "您确认是要删除选定记录吗？      ", "警告")
+      .expect(Box::Information, "选定记录已删除！       ", "信息提示");
+  s->payments.list.select(0);
+  s->cd571.press();
+  s->payments.list.select(3);
+  s->cd571.press();
+  s->payments.list.select(1);
+  s->cd571.press();
+  EXPECT_EQ(office.count("select * from jfjl"), 4);
+  s->cd572.press();  // the whole receipt
+  EXPECT_EQ(office.dump("jfjl", "fpbh"), "10000000\n10000002\n");
+}
+
+TEST(Console, SaysGoodbyeInItsOrder) {
+  const struct { const char* width; std::vector<std::pair<int, int>> modes; } cases[] = {
+      {"1024\n", {}}, {"1366\n", {{1024, 768}}}, {"800\n", {{800, 600}}}, {"1280\n", {{1280, 800}}}};
+  const std::string question = "您确认是要退出本系统吗？   \n选择“是”将关闭本窗口\n或者选择“否”撤消此操作！                     ";
+  for (const auto& c : cases) {
+    Office office;
+    auto s = opened<Formzct>(office);
+    platform::writeFile(office.desktop.programFolder() / "Screen.txt", c.width);
+    office.person.answer(false, Box::Ask, question, "确认退出");
+    EXPECT_FALSE(s->mayClose());
+    EXPECT_EQ(office.count("select * from czjl where gjsj=''"), 1);
+    office.person.answer(true, Box::Ask, question, "确认退出").answer(true, Box::Ask, "退出之前是否备份数据库？        ", "备份提示");
+    s->k10.press();
+    EXPECT_TRUE(s->closed());
+    EXPECT_EQ(office.dump("czjl", "gjsj"), "2026-9-7 8:30:05\n");
+    EXPECT_EQ(office.desktop.modes, c.modes);
+    EXPECT_EQ(office.desktop.started.size(), 1u);
+  }
+}
+
+}  // namespace
+}  // namespace shell

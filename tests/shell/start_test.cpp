@@ -1,0 +1,124 @@
+#include "shell/console.h"
+#include "shell/loading.h"
+#include "shell/login.h"
+#include "shell/splash.h"
+#include "shell/start.h"
+#include "support/test_desk.h"
+#include "upkeep/first_run.h"
+#include "upkeep/users.h"
+
+namespace shell {
+namespace {
+
+using kit::Box;
+using store::Connection;
+using store::Sql;
+using support::opened;
+using support::TestDesk;
+
+void addClerk(TestDesk& test, const std::string& name = "李强", const std::string& level = "一般操作员") {
+  upkeep::addUser(test.store, name, level, "abc", test.clock.now());
+}
+
+void logIn(Formcsh5& s, const std::string& name = "李强", const std::string& password = " abc ") {
+  s.yhxm.pick(name);
+  s.yhmm.type(password);
+  s.yhmm.enter();
+}
+
+TEST(Splash, LeadsToTheFirstRunScreenWithoutUsersAndToTheLoginWithThem) {
+  TestDesk empty;
+  empty.desk.navigator.stand<Form1>(empty.desk);
+  EXPECT_TRUE(empty.navigator.find<upkeep::Formyhxx4>());
+  EXPECT_FALSE(empty.navigator.find<Form1>());
+  EXPECT_EQ(platform::readFile(empty.desktop.programFolder() / "Screen.txt"), "1366\n");
+
+  TestDesk test;
+  addClerk(test);
+  test.desk.navigator.stand<Form1>(test.desk);
+  auto* splash = test.navigator.find<Form1>();
+  ASSERT_TRUE(splash);
+  splash->timer.tick();
+  splash->timer.tick();
+  EXPECT_FALSE(test.navigator.find<Formcsh5>());
+  splash->timer.tick();
+  EXPECT_TRUE(test.navigator.find<Formcsh5>());
+  EXPECT_TRUE(splash->closed());
+  EXPECT_NE(test.session.MainConnection.find("\\mv_Database\\morvanegxgl.mdb;Jet OLEDB:Database Password='kestrelboatfield7416'"), std::string::npos);
+  EXPECT_NE(test.session.ConfigConnection.find("\\配置文件\\morvanedjpz.mdb"), std::string::npos);
+}
+
+TEST(Login, ChecksInOrder) {
+  TestDesk test;
+  addClerk(test);
+  auto s = opened<Formcsh5>(test);
+  test.person.expect(Box::Warning, "  请选择用户名称 ！              ", "登录提示");
+  s->login.press();
+  s->yhxm.pick("李强");
+  s->yhmm.type("wrong");
+  test.person.expect(Box::Stop, " 密码不对，请重新输入 ！       ", "错误提示");
+  s->login.press();
+  EXPECT_EQ(s->yhmm.text(), "");
+  s->yhmm.enter();  // blank: nothing is pressed
+
+  s->yhxm.type("李刚");  // another name after the choice: the chosen user's password no longer counts
+  s->yhmm.type("abc");
+  test.person.expect(Box::Stop, "用户不合法，系统将关闭 ！       ", "");
+  s->login.press();
+  EXPECT_TRUE(s->closed());
+  EXPECT_EQ(test.count("select * from czjl"), 0);
+}
+
+TEST(Login, SetsTheSessionUpAndMarksWhatThisComputerLeftOpen) {
+  TestDesk test;
+  addClerk(test);
+  test.add("czjl", {{"yhxm", "甲"}, {"jsjmc", "收费一号机"}, {"kjsj", "2026-9-6 8:00:00"}, {"gjsj", ""}});
+  test.add("czjl", {{"yhxm", "乙"}, {"jsjmc", "收费二号机"}, {"kjsj", "2026-9-7 8:00:00"}, {"gjsj", ""}});
+  auto s = opened<Formcsh5>(test);
+  logIn(*s);
+  EXPECT_EQ(test.session.SessionUser, "李强");
+  EXPECT_EQ(test.session.SessionLevel, "一般操作员");
+  EXPECT_EQ(test.session.SessionStart, "2026-9-7 8:30:05");
+  EXPECT_FALSE(test.session.Rights[31]);
+  EXPECT_EQ(test.dump("czjl", "yhxm|jsjmc|kjsj|gjsj"),
+            "甲|收费一号机|2026-9-6 8:00:00|强行中断\n乙|收费二号机|2026-9-7 8:00:00|\n李强|收费一号机|2026-9-7 8:30:05|\n");
+  EXPECT_TRUE(test.navigator.find<Formcsh1>());
+  EXPECT_FALSE(s->panel.visible());
+}
+
+TEST(Login, StepsThroughTheNinePictures) {
+  TestDesk test;
+  addClerk(test);
+  const auto folder = test.desktop.programFolder() / "背景图";
+  std::filesystem::create_directories(folder);
+  for (int i = 1; i <= 9; ++i) platform::writeFile(folder / ("morvane" + std::to_string(i) + ".jpg"), "picture " + std::to_string(i));
+  const auto setPicture = [&](int number) {
+    store::RecordSet settings(test.store, "select * from morvanedjpzb where fn='kqd'", Connection::Config);
+    settings.set("tupan", number);
+    settings.update();
+  };
+  const struct { int stored; const char* shown; const char* stepped; } cases[] = {
+      {3, "picture 3", "picture 4"}, {9, "picture 9", "picture 1"}, {0, "", ""}, {12, "", ""}};
+  for (const auto& c : cases) {
+    setPicture(c.stored);
+    auto s = opened<Formcsh5>(test);
+    EXPECT_EQ(s->background.bytes(), c.shown);
+    s->background.doubleClick();
+    EXPECT_EQ(s->background.bytes(), c.stepped);
+  }
+}
+
+TEST(Loading, OpensTheConsoleAndClosesTheLogin) {
+  TestDesk test;
+  addClerk(test, "王芳", "超级管理员");
+  test.desk.navigator.stand<Formcsh5>(test.desk);
+  logIn(*test.navigator.find<Formcsh5>(), "王芳");
+  test.navigator.find<Formcsh1>()->timer.tick();
+  ASSERT_TRUE(test.navigator.find<Formzct>());
+  EXPECT_FALSE(test.navigator.find<Formcsh5>());
+  EXPECT_FALSE(test.navigator.find<Formcsh1>());
+  EXPECT_EQ(test.navigator.find<Formzct>()->title(), "澜岳学校综合管理系统 收费前台");
+}
+
+}  // namespace
+}  // namespace shell
