@@ -108,7 +108,7 @@ TEST(FeeWindow, ColoursAndSettlesATypedAmount) {
   paid.type("12元");
   EXPECT_EQ(window->totalPaid.text(), "12.00");
   desk.person.expect(Box::Stop, "金额应该是数字，请输入数字 ！    ", "错误提示");
-  paid.leave();
+  paid.enter();
   EXPECT_EQ(paid.text(), "");
   EXPECT_EQ(window->focused, &paid);
 
