@@ -68,8 +68,7 @@ void Formzct::openOverview(Overview& overview) {
   if (overview.frame.visible()) return;
   classes.frame.show(false);
   desk.session.ConsolePanel = overview.plan.panel;
-  notice.set("正在启动 ...");
-  desk.progress.show(notice.text());
+  desk.progress.show("正在启动 ...");
   timer1.start();
 }
 
@@ -86,14 +85,12 @@ void Formzct::openPanel() {
       overview->frame.show(false);
       continue;
     }
-    notice.set(overview->plan.notice);
-    desk.progress.show(notice.text());
+    desk.progress.show(overview->plan.notice);
     overview->clear();
     if (desk.session.auto_load_lists) fill(*overview);
     overview->frame.show(true);
   }
   desk.progress.hide();
-  notice.clear();
 }
 
 void Formzct::fill(Overview& overview) {
