@@ -25,7 +25,8 @@ class Statement {
   virtual bool isNull(int column) const = 0;
   virtual std::int64_t integer(int column) const = 0;
   virtual double real(int column) const = 0;
-  virtual std::string_view text(int column) const = 0;  // until the next step
+  // Of a text or of bytes, until the next step; data() is null for Null.
+  virtual std::string_view text(int column) const = 0;
 };
 
 // The few things that engines say differently. Arguments are finished pieces of the engine's own language.

@@ -135,11 +135,12 @@ class SqliteStatement final : public Statement {
   std::int64_t integer(int column) const override { return sqlite3_column_int64(statement_, column); }
   double real(int column) const override { return sqlite3_column_double(statement_, column); }
   std::string_view text(int column) const override {
-    const void* data = sqlite3_column_type(statement_, column) == SQLITE_BLOB
-                           ? sqlite3_column_blob(statement_, column)
-                           : sqlite3_column_text(statement_, column);
-    const int size = sqlite3_column_bytes(statement_, column);
-    return data ? std::string_view(static_cast<const char*>(data), static_cast<std::size_t>(size)) : std::string_view();
+    sqlite3_value* value = sqlite3_column_value(statement_, column);  // fewer calls than the column functions
+    const int type = sqlite3_value_type(value);
+    if (type == SQLITE_NULL) return {};
+    const void* data = type == SQLITE_BLOB ? sqlite3_value_blob(value) : sqlite3_value_text(value);
+    const int size = sqlite3_value_bytes(value);
+    return size ? std::string_view(static_cast<const char*>(data), static_cast<std::size_t>(size)) : "";
   }
 
  private:

@@ -76,6 +76,11 @@ Bytes bytesOf(std::string_view raw) {
   return {all.begin(), all.end()};
 }
 
+template <class Convert>
+Value textual(std::string_view text, Convert convert) {
+  return text.data() ? Value(convert(text)) : Value();
+}
+
 }  // namespace
 
 std::optional<double> numberIn(std::string_view text) {
@@ -134,17 +139,19 @@ Cell cell(const Value& value) {
 }
 
 Value read(const Statement& statement, int column, Type type) {
+  switch (type) {
+    case Type::Text: return textual(statement.text(column), [](std::string_view text) { return Value(text); });
+    case Type::Date: return textual(statement.text(column), dateValue);
+    case Type::DateTime: return textual(statement.text(column), momentValue);
+    case Type::Bytes: return textual(statement.text(column), bytesOf);
+    default: break;
+  }
   if (statement.isNull(column)) return {};
   switch (type) {
-    case Type::Text: return statement.text(column);
     case Type::Number: return statement.real(column);
     case Type::Money: return base::Money::ofUnits(statement.integer(column));
-    case Type::Date: return dateValue(statement.text(column));
-    case Type::DateTime: return momentValue(statement.text(column));
-    case Type::YesNo: return statement.integer(column) != 0;
-    case Type::Bytes: return bytesOf(statement.text(column));
+    default: return statement.integer(column) != 0;
   }
-  return {};
 }
 
 }  // namespace store
