@@ -7,7 +7,8 @@ kit::Layout Formzctxsll::layout() {
   return {.root = column({
               row({
                   group("学籍资料", {form({xh, xm, xb, spanning(bjmc, 2), mz, csrq, rxrq, sfzhm, zzmm, rxxs, sfbz, zymc,
-                                           byxx, yhkh, lxdh, sjhm, eml, spanning(jtzz, 2), yzbm}, 3)}),
+                                           byxx, yhkh, lxdh, sjhm, eml, spanning(jtzz, 2), yzbm},
+                                          3)}),
                   group("照片", {column({xp, stretch()})}),
               }),
               group("备注", {bz, note("您可以在上面直接修改或更新备注信息")}),
