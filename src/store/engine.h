@@ -1,4 +1,5 @@
-// What the store asks of a database engine. Everything above speaks to this; only an engine's own file knows which it is.
+// What the store asks of a database engine. Everything above speaks to this; only an engine's own file knows which it
+// is.
 #pragma once
 
 #include <cstdint>
@@ -33,11 +34,11 @@ class Statement {
 class Phrases {
  public:
   virtual ~Phrases() = default;
-  virtual std::string place(std::size_t index) const = 0;                // of a bound value
-  virtual std::string rowNumber() const = 0;                             // the definition of row_no, never given twice
+  virtual std::string place(std::size_t index) const = 0;  // of a bound value
+  virtual std::string rowNumber() const = 0;               // the definition of row_no, never given twice
   virtual std::string columnType(Type type) const = 0;
   virtual std::string key(const std::string& column, Type type) const = 0;  // what rows are ordered and grouped by
-  virtual std::string folded(const std::string& text) const = 0;         // compares without regard to case
+  virtual std::string folded(const std::string& text) const = 0;            // compares without regard to case
   virtual std::string like(const std::string& text, const std::string& pattern) const = 0;
   virtual std::string shown(const std::string& value, Type type) const = 0;  // as Value::text() shows it
   virtual std::string left(const std::string& text, const std::string& count) const = 0;

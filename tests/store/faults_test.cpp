@@ -122,7 +122,8 @@ TEST_F(Faults, DamagedFiles) {
 
 TEST_F(Faults, AFolderThatCannotBeWritten) {
   fs::permissions(folder.path(), fs::perms::all & ~(fs::perms::group_write | fs::perms::others_write));
-  fs::permissions(folder.file(Connection::Main), fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+  fs::permissions(folder.file(Connection::Main),
+                  fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
   const pid_t child = fork();
   if (child == 0) {  // somebody without rights
     if (geteuid() == 0 && setuid(65534) != 0) _exit(3);
@@ -195,7 +196,10 @@ TEST_F(Faults, TheDiskIsFullInTheMiddleOfASave) {
   EXPECT_EQ(set.count(), 20);
   try {
     Unit unit(store);
-    EXPECT_EQ(faultOf([&] { for (int i = 0; i < 100; ++i) addRow(set); }), Fault::DiskFull);
+    EXPECT_EQ(faultOf([&] {
+                for (int i = 0; i < 100; ++i) addRow(set);
+              }),
+              Fault::DiskFull);
     EXPECT_EQ(faultOf([&] { addRow(set); }), Fault::Other) << "nothing more enters a unit that is lost";
     unit.finish();
     ADD_FAILURE() << "a lost unit was reported as saved";
@@ -211,7 +215,8 @@ TEST_F(Faults, ACommitThatFailsLeavesNothing) {
   Store store(folder.path());
   RecordSet set(store, "select * from jfjl");
   sqlite3* connection = handleOf(store.database(Connection::Main).engine());
-  sqlite3_commit_hook(connection, [](void*) { return 1; }, nullptr);
+  sqlite3_commit_hook(
+      connection, [](void*) { return 1; }, nullptr);
   Unit unit(store);
   addRow(set);
   try {
