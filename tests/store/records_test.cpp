@@ -142,7 +142,7 @@ TEST_P(Records, AWalkKeepsItsOwnRows) {
   std::vector<std::string> visited;
   forEach(set, [&](RecordSet& at) {
     visited.push_back(at.get("lsh").text());
-    at.set("xm", "even");  // leaves the condition
+    at.set("xm", "even");                       // leaves the condition
     at.set("lsh", "9" + at.get("lsh").text());  // and its place in the order
     at.update();
     EXPECT_EQ(at.get("xm").text(), "even");
@@ -153,7 +153,8 @@ TEST_P(Records, AWalkKeepsItsOwnRows) {
     step();
   });
   EXPECT_THAT(visited, ElementsAre("5", "3", "1"));
-  EXPECT_THAT(column("select * from jfjl where xm='even' order by lsh", "lsh"), ElementsAre("2", "4", "6", "91", "93", "95"));
+  EXPECT_THAT(column("select * from jfjl where xm='even' order by lsh", "lsh"),
+              ElementsAre("2", "4", "6", "91", "93", "95"));
 }
 
 TEST_P(Records, RowsThatOthersDeleteAreSkippedAndReadAfresh) {
