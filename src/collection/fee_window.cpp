@@ -120,6 +120,9 @@ void Formzctsf4::wireLine(FeeLine& line) {
   line.tick.onChange([&line] { line.paid.set(line.tick.on() ? line.due.text() : ""); });
   line.paid.onChange([this, &line] { amountChanged(line); });
   line.paid.onLeave([this, &line] { settleAmount(line); });
+  line.paid.onEnter([this, &line] {
+    if (settleAmount(line)) moveOnFrom(line.paid);  // a refused amount keeps the focus
+  });
 }
 
 void Formzctsf4::tickAll() {

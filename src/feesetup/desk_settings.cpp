@@ -42,10 +42,6 @@ std::vector<kit::Check*> Formszqt::ticks() {
 
 void Formszqt::load() {
   kit::loadSettings(desk);
-  show();
-}
-
-void Formszqt::show() {
   const kit::Session& session = desk.session;
   for (kit::Check* tick : ticks()) tick->set(session.*kit::flagOf(tick->name));
   fpys.set(session.receipt_style - 1);
@@ -55,9 +51,7 @@ void Formszqt::show() {
 }
 
 void Formszqt::storeText(std::string_view column, const store::Value& value) {
-  if (!kit::storeSetting(desk, column, value)) return;
-  inform("设置成功 ！         ", "信息提示");
-  show();
+  if (kit::storeSetting(desk, column, value)) inform("设置成功 ！         ", "信息提示");
 }
 
 }  // namespace feesetup

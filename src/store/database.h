@@ -45,7 +45,7 @@ class Database {
   Database& operator=(const Database&) = delete;
 
   Engine& engine();  // opens the database when it is not open
-  void close();      // cursors keep their place and open it again
+  void close();      // not inside a unit; cursors keep their place and open it again
   void replace(Opener opener);  // another database from now on: cursors of the old one have lost theirs
   int generation() const { return generation_; }
 

@@ -68,12 +68,12 @@ TEST(FeeItemEdit, ChangesNamesAndOrder) {
     const char *code, *name, *items, *copies;
     bool asksAgain, yes;
   } cases[] = {
-      {"105", "学费", "103|书费\n105|学费\n", "学费", false, true},    // two items swap their codes
+      {"105", "学费", "103|书费\n105|学费\n", "学费", false, true},  // two items swap their codes
       {"109", "学费", "105|书费\n109|学费\n", "学费", false, true},
-      {"103", "学费", "105|书费\n103|学费\n", "学费", false, true},    // nothing changed, told all the same
+      {"103", "学费", "105|书费\n103|学费\n", "学费", false, true},  // nothing changed, told all the same
       {"103", "学杂费", "105|书费\n103|学杂费\n", "学杂费", true, true},
       {"105", "学杂费", "105|书费\n105|学杂费\n", "学杂费", true, true},  // name and code at once: no swap
-      {"105", "学杂费", "105|书费\n103|学费\n", "学费", true, false},  // nothing written, told all the same
+      {"105", "学杂费", "105|书费\n103|学费\n", "学费", true, false},     // nothing written, told all the same
   };
   for (const auto& one : cases) {
     SCOPED_TRACE(std::string(one.code) + one.name);
