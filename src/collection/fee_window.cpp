@@ -47,9 +47,8 @@ void Formzctsf4::load() {
   focusFirst();
 }
 
-// The window opens where the money is: one key ticks all lines, the next confirms. The student's data stand before it
-// in the reading order and are seldom changed. A student without standards starts in the first amount that can be
-// typed.
+// The window opens where the money is: the space bar ticks all lines, Enter takes it. The student's data stand before it
+// in the reading order and are seldom changed. A student without standards starts in the first amount that can be typed.
 void Formzctsf4::focusFirst() {
   const auto first = std::find_if(lines.begin(), lines.end(), [](const FeeLine& line) { return line.hasItem(); });
   if (allLines.enabled())
@@ -58,6 +57,12 @@ void Formzctsf4::focusFirst() {
     first->paid.focus();
   else
     xh.focus();
+}
+
+void Formzctsf4::moveOnFrom(const kit::Member& member) {
+  // With all lines ticked there is nothing left to type.
+  if (&member == &allLines && allLines.on() && confirm.enabled()) confirm.press();
+  else Screen::moveOnFrom(member);
 }
 
 void Formzctsf4::switchMode() {
