@@ -17,6 +17,7 @@ Formzctsf4::Formzctsf4(kit::Desk& all) : Screen(all, "Formzctsf4", "收费窗口
   arrearsEntry.enable(false);
   allLines.enable(false);
   totalDue.rightAligned = totalPaid.rightAligned = true;
+  totalDue.prominent = totalPaid.prominent = modeHeading.prominent = true;
 
   for (FeeLine& line : lines) wireLine(line);
   xh.onChange([this] { arrearsEntry.enable(!xh.blank()); });
