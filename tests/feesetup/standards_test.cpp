@@ -244,6 +244,10 @@ TEST(FormStandards, RefusesInOrder) {
   s->lines[10].sfxmmc.type("书费");
   s->lines[10].sfxmmc.type("");
   EXPECT_EQ(s->lines[10].je.text(), "") << "goes with its item";
+  s->lines[0].sfxmmc.enter();
+  EXPECT_EQ(s->focused, &s->lines[0].je);
+  s->lines[1].sfxmmc.enter();
+  EXPECT_EQ(s->focused, &s->confirm) << "an empty line ends the entry";
 }
 
 TEST(FormStandards, ReplacesAFormAsAWholeWithoutAsking) {
