@@ -33,6 +33,8 @@ Formszqt::Formszqt(kit::Desk& all) : Screen(all, "Formszqt", "收费前台设置
   });
   storeItem.onPress([this] { storeText("qfjz", qfjz.trimmed()); });
   storeForm.onPress([this] { storeText("todamc1", todamc1.trimmed()); });
+  for (const auto& [field, button] : {std::pair{&qfts, &storeDays}, {&qfjz, &storeItem}, {&todamc1, &storeForm}})
+    field->onEnter([button] { button->press(); });
   back.onPress([this] { close(); });
 }
 
@@ -42,10 +44,6 @@ std::vector<kit::Check*> Formszqt::ticks() {
 
 void Formszqt::load() {
   kit::loadSettings(desk);
-  show();
-}
-
-void Formszqt::show() {
   const kit::Session& session = desk.session;
   for (kit::Check* tick : ticks()) tick->set(session.*kit::flagOf(tick->name));
   fpys.set(session.receipt_style - 1);
@@ -55,9 +53,7 @@ void Formszqt::show() {
 }
 
 void Formszqt::storeText(std::string_view column, const store::Value& value) {
-  if (!kit::storeSetting(desk, column, value)) return;
-  inform("设置成功 ！         ", "信息提示");
-  show();
+  if (kit::storeSetting(desk, column, value)) inform("设置成功 ！         ", "信息提示");
 }
 
 }  // namespace feesetup

@@ -34,7 +34,6 @@ class Formszqt : public kit::Screen {  // 收费前台设置总控界面
 
  private:
   std::vector<kit::Check*> ticks();
-  void show();
   void storeText(std::string_view column, const store::Value& value);
 };
 

@@ -27,6 +27,8 @@ Formszsfbz3::Formszsfbz3(kit::Desk& all) : Screen(all, "Formszsfbz3", "收费标
       if (line.sfxmmc.blank()) line.je.clear();
     });
     line.sfxmmc.onPick([&line] { line.je.focus(); });
+    // Enter on an empty line: the lines are done.
+    line.sfxmmc.onEnter([this, &line] { line.sfxmmc.blank() ? confirm.focus() : line.je.focus(); });
   }
   rxxs.onPick([this] { loadForm(); });
   confirm.onPress([this] { save(); });

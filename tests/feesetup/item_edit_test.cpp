@@ -44,22 +44,16 @@ TEST(FeeItemEdit, ProposesTheLastStoredCodePlusOne) {
 }
 
 TEST(FeeItemEdit, RefusesInOrderWhateverTheMode) {
-  const struct {
-    std::string code, name, message;
-  } cases[] = {{"1011", times(31, "费"), "收费项目编号为3个字符,您让它默认就可以 ！　　"},
-               {"", "", "收费项目编号为3个字符,您让它默认就可以 ！　　"},
-               {"abc", times(31, "费"), "收费项目名称不能大于30个字符 ！　　"},
-               {"abc", " ", "收费项目编号与收费项目名称均不能为空 ！　　"},
-               {"abc", "杂费", "请输入数字 ！     "}};
+  const std::vector<std::vector<std::string>> cases{
+      {"1011", times(31, "费"), "收费项目编号为3个字符,您让它默认就可以 ！　　"},
+      {"", "", "收费项目编号为3个字符,您让它默认就可以 ！　　"},
+      {"abc", times(31, "费"), "收费项目名称不能大于30个字符 ！　　"},
+      {"abc", " ", "收费项目编号与收费项目名称均不能为空 ！　　"},
+      {"abc", "杂费", "请输入数字 ！     "}};
   for (const Mode mode : {Mode::Add, Mode::Modify}) {
     ItemDesk desk;
     auto s = desk.atTuition(mode);
-    for (const auto& one : cases) {
-      s->sfxmbh.type(one.code);
-      s->sfxmmc.type(one.name);
-      desk.refused(one.message);
-      s->confirm.press();
-    }
+    desk.refuses(s->confirm, {&s->sfxmbh, &s->sfxmmc}, cases);
   }
 }
 
@@ -68,12 +62,12 @@ TEST(FeeItemEdit, ChangesNamesAndOrder) {
     const char *code, *name, *items, *copies;
     bool asksAgain, yes;
   } cases[] = {
-      {"105", "学费", "103|书费\n105|学费\n", "学费", false, true},    // two items swap their codes
+      {"105", "学费", "103|书费\n105|学费\n", "学费", false, true},  // two items swap their codes
       {"109", "学费", "105|书费\n109|学费\n", "学费", false, true},
-      {"103", "学费", "105|书费\n103|学费\n", "学费", false, true},    // nothing changed, told all the same
+      {"103", "学费", "105|书费\n103|学费\n", "学费", false, true},  // nothing changed, told all the same
       {"103", "学杂费", "105|书费\n103|学杂费\n", "学杂费", true, true},
       {"105", "学杂费", "105|书费\n105|学杂费\n", "学杂费", true, true},  // name and code at once: no swap
-      {"105", "学杂费", "105|书费\n103|学费\n", "学费", true, false},  // nothing written, told all the same
+      {"105", "学杂费", "105|书费\n103|学费\n", "学费", true, false},     // nothing written, told all the same
   };
   for (const auto& one : cases) {
     SCOPED_TRACE(std::string(one.code) + one.name);

@@ -1,0 +1,291 @@
+#include "edit_desk.h"
+#include "feesetup/class_standard_change.h"
+#include "feesetup/class_standard_delete.h"
+#include "feesetup/class_standards.h"
+#include "feesetup/form_standard_delete.h"
+#include "feesetup/form_standards.h"
+
+using namespace support;
+using namespace feesetup;
+using kit::Box;
+using kit::Mode;
+
+namespace {
+
+const char* const overwrite = "存在相同的收费信息！此操作将覆盖原信息，您确认继续吗？  ";
+const char* const term = "2026学年下学期";
+
+struct StandardDesk : EditDesk {
+  StandardDesk() {
+    add("zymcb", {{"zybh", "11"}, {"zymc", "计算机"}});
+    add("zymcb", {{"zybh", "12"}, {"zymc", "会计"}});
+    add("bjzl", {{"zymc", "会计"}, {"bjdh", "12001"}, {"bjmc", "丙班"}});
+    add("bjzl", {{"zymc", "计算机"}, {"bjdh", "11001"}, {"bjmc", "甲班"}});
+    add("bjzl", {{"zymc", "计算机"}, {"bjdh", "11002"}, {"bjmc", "乙班"}});
+    add("sfxmb", {{"sfxmbh", "102"}, {"sfxmmc", "书费"}});
+    add("sfxmb", {{"sfxmbh", "101"}, {"sfxmmc", "学费"}});
+    add("rxxs", {{"rxxs", "统招"}});
+    add("rxxs", {{"rxxs", "自考"}});
+  }
+  void standard(const char* xq, const char* bjmc, const char* item, int amount) {
+    add("sfbzb", {{"xq", xq},
+                  {"zymc", bjmc == std::string("丙班") ? "会计" : "计算机"},
+                  {"bjmc", bjmc},
+                  {"sfxmmc", item},
+                  {"je", base::Money::yuan(amount)}});
+  }
+  std::string standards() { return dump("sfbzb", "xq|bjmc|sfxmmc|je"); }
+  std::string formStandards() { return dump("sfbzbrxxs", "rxxs|sfxmmc|je"); }
+};
+
+TEST(ClassStandards, RefusesInOrder) {
+  StandardDesk desk;
+  auto s = opened<Formszsfbz>(desk);
+  EXPECT_EQ(s->xq.text(), term);
+  EXPECT_EQ(s->sfxmmc.choices(), (std::vector<std::string>{"学费", "书费"}));
+  EXPECT_FALSE(s->selection.visible());
+  s->scope.choose(2);
+  const std::string many = times(31, "长");
+  desk.refuses(s->confirm, {&s->xq, &s->sfxmmc, &s->je, &s->selection},
+               {{many, many, "", many, "学年学期不能大于30个字符 ！　　"},
+                {term, many, "", many, "班级代号不能大于30个字符 ！　　"},
+                {term, "", "", many, "班级名称不能大于30个字符 ！　　"},
+                {term, "学费", "", "", "学年学期、收费项目及收费金额不能为空 ！　　"},
+                {term, "学费", "x", " ", "请选择一个专业或班级 ！　　"},
+                {term, "学费", "x", "甲班", "收费金额应该是数字 ！     "},
+                {term, "学费", "99999999999999999999", "甲班", "收费金额应该是数字 ！     "}});
+  EXPECT_EQ(desk.standards(), "");
+}
+
+TEST(ClassStandards, WritesTheClassesOfItsScopeOverWhatStood) {
+  const std::string old = "2026学年上学期|甲班|学费|1\n", kept = std::string(term) + "|丙班|书费|2\n";
+  const auto row = [](const char* name) { return std::string(term) + "|" + name + "|学费|3500\n"; };
+  const struct {
+    int scope;
+    const char* selection;
+    std::string replaced, added, report;
+  } cases[] = {
+      {0, "", "丙班甲班", row("甲班") + row("乙班") + row("丙班"), "设置完成 ！       "},
+      {1, "计算机", "甲班", row("甲班") + row("乙班"), "设置完成 ！       "},
+      {2, "甲班", "甲班", row("甲班"), "设置完成 ！       "},
+      {1, "美术", "", "", "专业名称不存在或有误 ！  "},
+      {2, "丁班", "", "", "班级名称不存在或有误 ！  "},
+  };
+  for (const auto& one : cases)
+    for (const bool yes : {false, true}) {
+      SCOPED_TRACE(std::string(one.selection) + (yes ? " yes" : " no"));
+      StandardDesk desk;
+      desk.standard("2026学年上学期", "甲班", "学费", 1);
+      desk.standard(term, "丙班", "书费", 2);
+      for (const char* name : {"丙班", "甲班"}) desk.standard(term, name, "学费", 9);
+      const std::string before = desk.standards();
+      auto s = opened<Formszsfbz>(desk);
+      s->sfxmmc.pick("学费");
+      EXPECT_EQ(s->sfxmbh.text(), "101");
+      EXPECT_EQ(s->focused, &s->je);
+      s->je.type("3500");
+      if (one.scope > 0) {
+        s->scope.choose(one.scope);
+        s->selection.type(one.selection);
+      }
+      if (!one.replaced.empty()) desk.person.answer(yes, Box::Ask, overwrite, "信息提示");
+      if (yes || one.replaced.empty()) desk.told(one.report);
+      s->confirm.press();
+      EXPECT_FALSE(s->closed());
+      std::string rest = old + kept;
+      for (const char* name : {"丙班", "甲班"})
+        if (one.replaced.find(name) == std::string::npos) rest += std::string(term) + "|" + name + "|学费|9\n";
+      EXPECT_EQ(desk.standards(), yes || one.replaced.empty() ? rest + one.added : before);
+    }
+}
+
+TEST(ClassStandards, AcceptsZeroAndSaysNothingWithoutClasses) {
+  EditDesk desk;
+  desk.add("sfxmb", {{"sfxmbh", "101"}, {"sfxmmc", "学费"}});
+  auto s = opened<Formszsfbz>(desk);
+  s->sfxmmc.pick("学费");
+  s->je.type("0");
+  s->je.enter();
+  s->confirm.press();
+  EXPECT_EQ(desk.dump("sfbzb", "je"), "");
+  desk.add("bjzl", {{"zymc", "会计"}, {"bjmc", "丙班"}});
+  desk.told("设置完成 ！       ");
+  s->confirm.press();
+  EXPECT_EQ(desk.dump("sfbzb", "zymc|bjmc|sfxmbh|je|bsh"), "会计|丙班|101|0|2026-9-7 8:30:05\n");
+}
+
+struct ChangeDesk : StandardDesk {
+  ChangeDesk() {
+    standard("旧", "甲班", "学费", 10);
+    standard("更旧", "乙班", "学费", 20);
+    standard("旧", "甲班", "书费", 30);
+  }
+  std::unique_ptr<Formszsfbz2> change() {
+    return at<Formszsfbz2>(Mode::Modify, "select * from sfbzb where bjmc='甲班'");
+  }
+};
+
+TEST(ClassStandardChange, ChangesOneAmountThatIsNotZero) {
+  ChangeDesk desk;
+  auto s = desk.change();
+  EXPECT_EQ(s->before.text() + s->after.text(), "学费10");
+  s->after.type("十");
+  desk.refused("收费金额应为数字！   ");
+  s->confirm.press();
+  s->after.type("0.00");
+  desk.person.expect(Box::Stop, "收费额为零时，您完全可以删除该条记录，使用时再设置！   ", "操作提示");
+  s->confirm.press();
+  s->after.type("12.5");
+  desk.told("选定记录已修改！     ");
+  s->after.enter();
+  EXPECT_TRUE(s->closed());
+  EXPECT_EQ(desk.standards(), "旧|甲班|学费|12.5\n更旧|乙班|学费|20\n旧|甲班|书费|30\n");
+}
+
+TEST(ClassStandardChange, ChangesTheItemEverywhereWithoutTests) {
+  for (const auto& [typed, stored] : {std::pair{"15", "15"}, {"文字", "0"}}) {
+    ChangeDesk desk;
+    auto s = desk.change();
+    s->all.toggle();
+    s->after.type(typed);
+    desk.told("记录批修改成功！     ");
+    s->confirm.press();
+    const std::string amount = stored;
+    EXPECT_EQ(desk.standards(), "旧|甲班|学费|" + amount + "\n更旧|乙班|学费|" + amount + "\n旧|甲班|书费|30\n");
+  }
+}
+
+TEST(ClassStandardChange, ChangesTheTermOfTheRowsShown) {
+  ChangeDesk desk;
+  auto s = desk.change();
+  s->what.choose(1);
+  EXPECT_EQ(s->before.label() + s->before.text() + s->after.label() + s->after.text(),
+            std::string("原学年学期旧新学年学期") + term);
+  EXPECT_TRUE(s->all.on() && !s->all.enabled() && s->caution.visible());
+  s->after.type(" ");
+  desk.refused("新的学年学期不能为空！     ");
+  s->confirm.press();
+  s->after.type("新");
+  for (const bool yes : {false, true}) {
+    desk.person.answer(yes, Box::Ask, "此操作将修改系统中所有收费项目的学年学期信息，您确认继续吗？   ", "批修改提示");
+    if (yes) desk.told("记录批修改成功！     ");
+    s->confirm.press();
+  }
+  EXPECT_EQ(desk.standards(), "新|甲班|学费|10\n更旧|乙班|学费|20\n新|甲班|书费|30\n");
+}
+
+struct DeleteCase {
+  int what;
+  std::string filter, question, title, report, left;
+};
+
+template <class S>
+void playDeletions(const store::Sql& rows, const std::vector<DeleteCase>& cases, std::string_view table,
+                   std::string_view column) {
+  for (const DeleteCase& one : cases) {
+    SCOPED_TRACE(one.report);
+    ChangeDesk desk;
+    for (const char* form : {"统招", "自考", "统招"}) desk.add("sfbzbrxxs", {{"rxxs", form}});
+    desk.session.standard_filter = one.filter;
+    const std::string before = desk.dump(table, column);
+    auto s = desk.at<S>(Mode::Delete, rows, 1);
+    if (one.what > 0) s->what.choose(one.what);
+    desk.person.answer(false, Box::Ask, one.question, one.title);
+    s->confirm.press();
+    EXPECT_EQ(desk.dump(table, column), before);
+    desk.person.answer(true, Box::Ask, one.question, one.title);
+    desk.told(one.report);
+    s->confirm.press();
+    EXPECT_TRUE(s->closed());
+    EXPECT_EQ(desk.dump(table, column), one.left);
+    EXPECT_EQ(desk.session.standard_filter, one.what == 1 ? "" : one.filter);
+  }
+}
+
+TEST(StandardDelete, DeletesOneRowThoseOfTheFilterOrAll) {
+  const char* one = "您确认是要删除选定记录吗 ？    ";
+  const char* all = "您确认是要清空所有记录吗 ？    ";
+  const char* ofClass = "您确认是要删除选定班级的所有记录吗 ？    ";
+  const char* ofForm = "您确认是要删除选定入学形式的所有记录吗 ？    ";
+  playDeletions<Formszsfbz1>("select * from sfbzb",
+                             {{0, "甲班", one, "删除提示", "选定记录已删除 ！     ", "甲班\n甲班\n"},
+                              {1, "甲班", ofClass, "删除提示", "选定班级的记录已删除 ！     ", "乙班\n"},
+                              {1, "", ofClass, "删除提示", "选定班级的记录已删除 ！     ", "甲班\n乙班\n甲班\n"},
+                              {2, "甲班", all, "清空提示", "记录已清空 ！     ", ""}},
+                             "sfbzb", "bjmc");
+  playDeletions<Formszsfbz4>("select * from sfbzbrxxs",
+                             {{0, "", one, "删除提示", "选定记录已删除 ！     ", "统招\n统招\n"},
+                              {1, "统招", ofForm, "删除提示", "选定入学形式的记录已删除 ！     ", "自考\n"},
+                              {2, "", all, "清空提示", "记录已清空 ！     ", ""}},
+                             "sfbzbrxxs", "rxxs");
+}
+
+TEST(FormStandards, RefusesInOrder) {
+  StandardDesk desk;
+  auto s = desk.adding<Formszsfbz3>();
+  const auto refuse = [&](const char* message) {
+    desk.refused(message);
+    s->confirm.press();
+  };
+  s->xq.type(times(31, "长"));
+  s->rxxs.set(times(51, "长"));
+  refuse("学年学期不能大于30个字符 ！　　");
+  s->xq.type(" ");
+  refuse("入学形式不能大于50个字符 ！　　");
+  s->rxxs.set("统招");
+  refuse("学年学期及入学形式均不能为空 ！　　");
+  s->xq.type(term);
+  s->lines[0].sfxmmc.pick("学费");
+  refuse("收费标准至少您需要设置一个以上 ！　　");
+  s->lines[10].je.type("x");
+  refuse("收费标准应该是数字 ！     ");
+  s->lines[10].je.type("5");
+  refuse("第11项没有定义收费项目！      ");
+  s->lines[10].sfxmmc.type("书费");
+  s->lines[10].sfxmmc.type("");
+  EXPECT_EQ(s->lines[10].je.text(), "") << "goes with its item";
+  s->lines[0].sfxmmc.enter();
+  EXPECT_EQ(s->focused, &s->lines[0].je);
+  s->lines[1].sfxmmc.enter();
+  EXPECT_EQ(s->focused, &s->confirm) << "an empty line ends the entry";
+}
+
+TEST(FormStandards, ReplacesAFormAsAWholeWithoutAsking) {
+  StandardDesk desk;
+  for (const char* form : {"统招", "自考"})
+    desk.add("sfbzbrxxs", {{"rxxs", form}, {"sfxmmc", "旧费"}, {"je", base::Money::yuan(1)}});
+  auto s = desk.adding<Formszsfbz3>();
+  s->rxxs.pick("统招");
+  std::string lines;
+  for (std::size_t i = 0; i < standardLineCount; ++i) {
+    s->lines[i].sfxmmc.type("费" + std::to_string(i));
+    s->lines[i].je.type(std::to_string(i));  // the first is zero, and stored
+    lines += std::string(term) + "|统招||费" + std::to_string(i) + "|" + std::to_string(i) + "\n";
+  }
+  desk.told("收费标准设置成功！      ");
+  s->lines[10].je.enter();
+  EXPECT_EQ(desk.dump("sfbzbrxxs", "xq|rxxs|sfxmbh|sfxmmc|je"), "|自考||旧费|1\n" + lines);
+}
+
+TEST(FormStandards, ModifiesWhatStandsAfterAQuestion) {
+  StandardDesk desk;
+  for (int i = 1; i <= 12; ++i)
+    desk.add("sfbzbrxxs", {{"rxxs", "统招"}, {"sfxmmc", "费" + std::to_string(i)}, {"je", base::Money::fen(i * 50)}});
+  desk.session.EditMode = Mode::Modify;
+  auto s = opened<Formszsfbz3>(desk);
+  desk.told("不存在需要修改的记录 ！　　");
+  s->rxxs.pick("自考");
+  EXPECT_EQ(s->rxxs.text(), "");
+  s->rxxs.pick("统招");
+  EXPECT_EQ(s->lines[10].sfxmmc.text() + s->lines[10].je.text(), "费115.50");
+  for (std::size_t i = 1; i < standardLineCount; ++i) s->lines[i].sfxmmc.type("");
+  for (const bool yes : {false, true}) {
+    desk.person.answer(yes, Box::Ask, "此操作将覆盖原有的记录,您确认继续吗？    ", "操作提示");
+    if (yes) desk.told("收费标准修改成功 ！      ");
+    s->confirm.press();
+    EXPECT_EQ(desk.count("select * from sfbzbrxxs"), yes ? 1 : 12);
+  }
+  EXPECT_EQ(desk.formStandards(), "统招|费1|0.5\n");
+}
+
+}  // namespace
