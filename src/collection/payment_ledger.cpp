@@ -29,7 +29,7 @@ void settleArrears(store::Store& store, const std::string& lsh, base::Money paid
   if (row.empty()) return;
   const base::Money due = row.get("bjje").money();
   const base::Money settled = row.get("sbjje").money() + paid;
-  row.set("sbjrq", today.plain());
+  row.set("sbjrq", today);
   row.set("sbjje", settled);
   // An overpaid row keeps the state it had.
   if (due > settled) row.set("clfs", "不足");
@@ -51,10 +51,10 @@ std::string saveReceipt(store::Store& store, const Receipt& receipt, base::DateT
     ledger.set("bjmc", receipt.bjmc);
     ledger.set("xq", receipt.xq);
     ledger.set("xtbh", receipt.xtbh);
-    ledger.set("jfrq", receipt.jfrq.plain());
+    ledger.set("jfrq", receipt.jfrq);
     ledger.set("fpbh", fpbh);
     ledger.set("sfxm", line.sfxm);
-    ledger.set("je", line.je.fixed2());
+    ledger.set("je", line.je);
     ledger.set("skr", receipt.skr);
     ledger.set("bsh", now.plain());
     ledger.set("sftj", "");

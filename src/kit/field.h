@@ -30,6 +30,7 @@ class Field : public Member {
   std::optional<Colour> colour() const { return colour_; }  // of the text
   void setColour(std::optional<Colour> colour);
   bool rightAligned = false;  // amounts
+  bool prominent = false;     // shown large: a total, what the whole window is about
 
   void onChange(Handler handler) { change_.push_back(std::move(handler)); }
   void onEnter(Handler handler) { enter_.push_back(std::move(handler)); }

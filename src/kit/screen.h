@@ -39,7 +39,8 @@ class Screen {
   void start() { run([this] { load(); }); }
 
   // Enter in a field without a handler of its own: on to the next entry field, from the last one to the confirm action.
-  void moveOnFrom(const Member& member);
+  // Ticks and choices move on in the same way.
+  virtual void moveOnFrom(const Member& member);
 
   // The view's side.
   std::function<void()> view;               // title or closed changed

@@ -26,7 +26,6 @@ class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
   Overview payments_overview{*this, paymentsPlan};
   Overview arrears_overview{*this, arrearsPlan};
 
-  kit::Field notice{*this, "notice", "", kit::Entry::Shown};
   kit::Field ready{*this, "ready", "", kit::Entry::Shown}, user{*this, "user", "", kit::Entry::Shown},
       third{*this, "third", "", kit::Entry::Shown};
 

@@ -1,6 +1,7 @@
 // The console's overviews: opening, filling, and what their buttons do.
 #include "base/text.h"
 #include "collection/fee_window.h"
+#include "kit/rows.h"
 #include "shell/console.h"
 #include "shell/rights.h"
 #include "students/student_edit.h"
@@ -67,8 +68,7 @@ void Formzct::openOverview(Overview& overview) {
   if (overview.frame.visible()) return;
   classes.frame.show(false);
   desk.session.ConsolePanel = overview.plan.panel;
-  notice.set("正在启动 ...");
-  desk.progress.show(notice.text());
+  desk.progress.show("正在启动 ...");
   timer1.start();
 }
 
@@ -85,14 +85,12 @@ void Formzct::openPanel() {
       overview->frame.show(false);
       continue;
     }
-    notice.set(overview->plan.notice);
-    desk.progress.show(notice.text());
+    desk.progress.show(overview->plan.notice);
     overview->clear();
     if (desk.session.auto_load_lists) fill(*overview);
     overview->frame.show(true);
   }
   desk.progress.hide();
-  notice.clear();
 }
 
 void Formzct::fill(Overview& overview) {
@@ -130,13 +128,8 @@ void Formzct::closeOverviews() {
 
 void Formzct::stampKeyedRows(const char* table) {
   // Rows keyed in the panel carry the computer's name until now, so that the list can show just them.
-  store::Unit unit(desk.store);
-  RecordSet keyed = rows(Sql::table(table) + " where bsh='" + base::trim(desk.session.ComputerName) + "'");
-  store::forEach(keyed, [this](RecordSet& row) {
-    row.set("bsh", desk.clock.now().plain());
-    row.update();
-  });
-  unit.finish();
+  kit::setEach(desk.store, Sql::table(table) + " where bsh='" + base::trim(desk.session.ComputerName) + "'", "bsh",
+               desk.clock.now().plain());
 }
 
 void Formzct::editStudent(kit::Mode mode) {

@@ -2,6 +2,8 @@
 #include "base/text.h"
 #include "collection/fee_window.h"
 #include "collection/receipt_print.h"
+#include "kit/rows.h"
+#include "kit/settings.h"
 #include "shell/console.h"
 #include "shell/rights.h"
 #include "students/student_card.h"
@@ -40,10 +42,7 @@ void Formzct::wireFront() {
   classes.students.onDoubleClick([this] { pickFromClass(); });
   classes.opensFeeWindow.onChange([this] {
     desk.session.open_fee_window = classes.opensFeeWindow.on();
-    RecordSet settings(desk.store, "select * from morvanedjpzb where fn='kqd'", store::Connection::Config);
-    if (settings.empty()) return;
-    settings.set("sfctsz", classes.opensFeeWindow.on() ? 1 : 0);
-    settings.update();
+    kit::storeSetting(desk, "sfctsz", classes.opensFeeWindow.on() ? 1 : 0);
   });
 }
 
@@ -195,11 +194,8 @@ void Formzct::deletePayments(bool wholeReceipt) {
   if (taker != desk.session.SessionUser)
     return inform("这是操作员" + taker + "经办的收费记录，您在前台不能删除它！   ", "信息提示");
   if (!askStop("您确认是要删除选定记录吗？      ", "警告")) return;
-  RecordSet going = wholeReceipt ? rows(Sql("select * from jfjl where fpbh='") + chosen.get("fpbh").trimmed() + "'")
-                                 : rows(Sql("select * from jfjl where lsh='") + payments.list.key() + "'");
-  store::Unit unit(desk.store);
-  store::forEach(going, [](RecordSet& row) { row.remove(); });
-  unit.finish();
+  kit::removeEach(desk.store, wholeReceipt ? Sql("select * from jfjl where fpbh='") + chosen.get("fpbh").trimmed() + "'"
+                                           : Sql("select * from jfjl where lsh='") + payments.list.key() + "'");
   inform("选定记录已删除！       ", "信息提示");
   if (desk.session.payment_list_mode == 4) {
     payments.clear();

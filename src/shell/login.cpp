@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "base/text.h"
+#include "kit/rows.h"
 #include "shell/loading.h"
 #include "shell/start.h"
 #include "upkeep/first_run.h"
@@ -59,10 +60,7 @@ void Formcsh5::nextPicture() {
 }
 
 void Formcsh5::fillUsers() {
-  RecordSet users = rows("select * from yhxx");
-  std::vector<std::string> names;
-  store::forEach(users, [&](RecordSet& user) { names.push_back(user.get("yhxm").trimmed()); });
-  yhxm.setChoices(names);
+  yhxm.setChoices(kit::columnTexts(desk.store, "select * from yhxx", "yhxm"));
 }
 
 void Formcsh5::chooseUser() {

@@ -1,5 +1,5 @@
-// A place in the rows of a query. It streams from one open statement as long as nobody writes; then it keeps the numbers
-// of the rows that remain and reads each afresh, so that a walk that writes or deletes keeps its own rows.
+// A place in the rows of a query. It streams from one open statement as long as nobody writes; then it keeps the
+// numbers of the rows that remain and reads each afresh, so that a walk that writes or deletes keeps its own rows.
 #pragma once
 
 #include <deque>
@@ -27,7 +27,7 @@ class Cursor {
   void last();
   void next();
   bool atRow();
-  std::int64_t rowNo();           // of the current row; raises Fault::RowGone when there is none
+  std::int64_t rowNo();  // of the current row; raises Fault::RowGone when there is none
   Value value(std::size_t column);
   void standOn(std::int64_t rowNo);  // a row that has just been written; nothing comes behind it
   bool empty();

@@ -45,6 +45,7 @@ Engine& Database::engine() {
 void Database::close() {
   if (!engine_) return;
   settle();
+  if (inUnit()) return;  // its rows are not on the disk yet
   byText_.clear();
   idle_.clear();
   engine_.reset();

@@ -78,8 +78,7 @@ struct RecordSet::State {
   }
 };
 
-RecordSet::RecordSet(Store& store, Connection connection)
-    : state_(std::make_unique<State>(store, connection)) {}
+RecordSet::RecordSet(Store& store, Connection connection) : state_(std::make_unique<State>(store, connection)) {}
 RecordSet::RecordSet(Store& store, const Sql& sql, Connection connection) : RecordSet(store, connection) { open(sql); }
 RecordSet::~RecordSet() = default;
 RecordSet::RecordSet(RecordSet&&) noexcept = default;

@@ -42,7 +42,10 @@ double Value::number() const {
   return 0;
 }
 
-bool Value::yes() const { return number() != 0; }
+bool Value::yes() const {
+  if (as<std::string>() && base::sameText(trimmed(), Value(true).text())) return true;  // its own text reads back
+  return number() != 0;
+}
 
 std::optional<base::Date> Value::date() const {
   if (const auto* held = as<base::Date>()) return *held;

@@ -22,7 +22,8 @@ std::string readPhoto(const std::filesystem::path& file) {
   if (const auto size = std::filesystem::file_size(file, unknown); !unknown && size > largestPhoto)
     throw platform::PlatformError("照片文件：" + file.string() + " 超过 2 MB，请先缩小照片，或选择其它照片。");
   std::string bytes = platform::readFile(file);
-  if (std::none_of(beginnings.begin(), beginnings.end(), [&](std::string_view start) { return bytes.starts_with(start); }))
+  if (std::none_of(beginnings.begin(), beginnings.end(),
+                   [&](std::string_view start) { return bytes.starts_with(start); }))
     throw platform::PlatformError("文件：" + file.string() + " 不是照片，请选择 jpg、bmp、gif 或 png 格式的照片文件。");
   return bytes;
 }
@@ -41,8 +42,6 @@ store::Bytes toBytes(const std::string& bytes) {
   return {first, first + bytes.size()};
 }
 
-std::string fromBytes(const store::Bytes& bytes) {
-  return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
-}
+std::string fromBytes(const store::Bytes& bytes) { return {reinterpret_cast<const char*>(bytes.data()), bytes.size()}; }
 
 }  // namespace students

@@ -15,13 +15,15 @@ struct CardColumn {
 };
 
 constexpr CardColumn ofStudent[] = {
-    {"xh", &StudentCard::xh},     {"xm", &StudentCard::xm},     {"xb", &StudentCard::xb},
-    {"csrq", &StudentCard::csrq, Format::LongDate},             {"sfzhm", &StudentCard::sfzhm},
-    {"zzmm", &StudentCard::zzmm}, {"jtzz", &StudentCard::jtzz}, {"lxdh", &StudentCard::lxdh},
-    {"sjhm", &StudentCard::sjhm}, {"yzbm", &StudentCard::yzbm}, {"bjmc", &StudentCard::bjmc},
-    {"rxrq", &StudentCard::rxrq, Format::LongDate},             {"rxxs", &StudentCard::rxxs},
-    {"sfbz", &StudentCard::sfbz, Format::Money},                {"zymc", &StudentCard::zymc},
-    {"byxx", &StudentCard::byxx}, {"yhkh", &StudentCard::yhkh},
+    {"xh", &StudentCard::xh},       {"xm", &StudentCard::xm},
+    {"xb", &StudentCard::xb},       {"csrq", &StudentCard::csrq, Format::LongDate},
+    {"sfzhm", &StudentCard::sfzhm}, {"zzmm", &StudentCard::zzmm},
+    {"jtzz", &StudentCard::jtzz},   {"lxdh", &StudentCard::lxdh},
+    {"sjhm", &StudentCard::sjhm},   {"yzbm", &StudentCard::yzbm},
+    {"bjmc", &StudentCard::bjmc},   {"rxrq", &StudentCard::rxrq, Format::LongDate},
+    {"rxxs", &StudentCard::rxxs},   {"sfbz", &StudentCard::sfbz, Format::Money},
+    {"zymc", &StudentCard::zymc},   {"byxx", &StudentCard::byxx},
+    {"yhkh", &StudentCard::yhkh},
 };
 
 constexpr CardColumn ofRoom[] = {

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "collection/fee_window.h"
+#include "kit/rows.h"
 #include "students/identity_number.h"
 
 namespace students {
@@ -45,20 +46,17 @@ std::vector<Formzctxs::PickList> Formzctxs::pickLists() {
 }
 
 std::vector<std::pair<StudentText, kit::Field*>> Formzctxs::entries() {
-  return {{&Student::xh, &xh},     {&Student::xm, &xm},       {&Student::xb, &xb},     {&Student::bjmc, &bjmc},
-          {&Student::mz, &mz},     {&Student::csrq, &csrq},   {&Student::sfzhm, &sfzhm}, {&Student::rxrq, &rxrq},
-          {&Student::zzmm, &zzmm}, {&Student::lxdh, &lxdh},   {&Student::sjhm, &sjhm}, {&Student::rxxs, &rxxs},
-          {&Student::sfbz, &sfbz}, {&Student::jtzz, &jtzz},   {&Student::yzbm, &yzbm}, {&Student::eml, &eml},
-          {&Student::bz, &bz},     {&Student::byxx, &byxx},   {&Student::yhkh, &yhkh}, {&Student::zymc, &zymc}};
+  return {{&Student::xh, &xh},     {&Student::xm, &xm},     {&Student::xb, &xb},       {&Student::bjmc, &bjmc},
+          {&Student::mz, &mz},     {&Student::csrq, &csrq}, {&Student::sfzhm, &sfzhm}, {&Student::rxrq, &rxrq},
+          {&Student::zzmm, &zzmm}, {&Student::lxdh, &lxdh}, {&Student::sjhm, &sjhm},   {&Student::rxxs, &rxxs},
+          {&Student::sfbz, &sfbz}, {&Student::jtzz, &jtzz}, {&Student::yzbm, &yzbm},   {&Student::eml, &eml},
+          {&Student::bz, &bz},     {&Student::byxx, &byxx}, {&Student::yhkh, &yhkh},   {&Student::zymc, &zymc}};
 }
 
 void Formzctxs::wirePickList(const PickList& list) {
   list.field->onDrop([this, list] {
-    RecordSet source = rows(list.source);
-    std::vector<std::string> choices;
-    store::forEach(source, [&](RecordSet& row) {
-      if (std::string entry = row.get(list.column).trimmed(); !entry.empty()) choices.push_back(std::move(entry));
-    });
+    std::vector<std::string> choices = kit::columnTexts(desk.store, list.source, list.column);
+    std::erase(choices, "");
     list.field->setChoices(std::move(choices));
   });
   list.field->onPick([this, list] {
@@ -201,8 +199,10 @@ bool Formzctxs::accepted(const std::optional<Refusal>& refusal) {
 
 void Formzctxs::offerNumber() {
   const char* question = mode_ == Mode::Add ? "您是否使用默认学号 ！     " : "是否先还原为原来的学号 ！     ";
-  if (ask(question, "操作提示")) xh.set(proposal_);
-  else xh.focus();
+  if (ask(question, "操作提示"))
+    xh.set(proposal_);
+  else
+    xh.focus();
 }
 
 }  // namespace students

@@ -68,11 +68,11 @@ class Formzctxs : public kit::Screen {  // 学生学籍资料编辑
   void offerNumber();
 
   kit::Mode mode_;
-  Student former_;         // as loaded, for change and delete
-  std::string formerXh_;   // the record that is worked on
-  std::string proposal_;   // offered when the number has a wrong length
-  std::string takenClass_; // the class that the major and the system number stand for
-  std::string sex_;        // the last valid one: anything else is taken back
+  Student former_;          // as loaded, for change and delete
+  std::string formerXh_;    // the record that is worked on
+  std::string proposal_;    // offered when the number has a wrong length
+  std::string takenClass_;  // the class that the major and the system number stand for
+  std::string sex_;         // the last valid one: anything else is taken back
   Photo photo_;
 };
 

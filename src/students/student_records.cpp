@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "kit/list.h"
+#include "kit/rows.h"
 
 namespace students {
 namespace {
@@ -21,33 +22,55 @@ struct Column {
 };
 
 constexpr std::array<Column, 21> columns = {{
-    {"xh", &Student::xh},       {"xtbh", &Student::xtbh},   {"xm", &Student::xm},
-    {"xb", &Student::xb},       {"bjmc", &Student::bjmc},   {"mz", &Student::mz},
-    {"csrq", &Student::csrq, Kind::BirthDate},              {"sfzhm", &Student::sfzhm, Kind::Upper},
-    {"rxrq", &Student::rxrq, Kind::EntryDate},              {"zzmm", &Student::zzmm},
-    {"lxdh", &Student::lxdh},   {"sjhm", &Student::sjhm},   {"rxxs", &Student::rxxs},
-    {"sfbz", &Student::sfbz, Kind::Money},                  {"jtzz", &Student::jtzz},
-    {"yzbm", &Student::yzbm},   {"eml", &Student::eml},     {"bz", &Student::bz, Kind::Notes},
-    {"byxx", &Student::byxx},   {"yhkh", &Student::yhkh},   {"zymc", &Student::zymc},
+    {"xh", &Student::xh},
+    {"xtbh", &Student::xtbh},
+    {"xm", &Student::xm},
+    {"xb", &Student::xb},
+    {"bjmc", &Student::bjmc},
+    {"mz", &Student::mz},
+    {"csrq", &Student::csrq, Kind::BirthDate},
+    {"sfzhm", &Student::sfzhm, Kind::Upper},
+    {"rxrq", &Student::rxrq, Kind::EntryDate},
+    {"zzmm", &Student::zzmm},
+    {"lxdh", &Student::lxdh},
+    {"sjhm", &Student::sjhm},
+    {"rxxs", &Student::rxxs},
+    {"sfbz", &Student::sfbz, Kind::Money},
+    {"jtzz", &Student::jtzz},
+    {"yzbm", &Student::yzbm},
+    {"eml", &Student::eml},
+    {"bz", &Student::bz, Kind::Notes},
+    {"byxx", &Student::byxx},
+    {"yhkh", &Student::yhkh},
+    {"zymc", &Student::zymc},
 }};
 
 Value stored(Kind kind, const std::string& text, base::Date today) {
   switch (kind) {
-    case Kind::Upper: return base::upper(base::trim(text));
-    case Kind::BirthDate: return base::Date::parse(text).value_or(today.plusDays(-eighteenYears));
-    case Kind::EntryDate: return base::Date::parse(text).value_or(today);
-    case Kind::Money: return base::Money::leading(base::trim(text));
-    default: return base::trim(text);
+    case Kind::Upper:
+      return base::upper(base::trim(text));
+    case Kind::BirthDate:
+      return base::Date::parse(text).value_or(today.plusDays(-eighteenYears));
+    case Kind::EntryDate:
+      return base::Date::parse(text).value_or(today);
+    case Kind::Money:
+      return base::Money::leading(base::trim(text));
+    default:
+      return base::trim(text);
   }
 }
 
 std::string shown(Kind kind, const Value& value) {
   switch (kind) {
-    case Kind::Money: return value.money().fixed2();
+    case Kind::Money:
+      return value.money().fixed2();
     case Kind::BirthDate:
-    case Kind::EntryDate: return kit::formatted(value, kit::Format::Date);
-    case Kind::Notes: return std::string(notesIndent) + value.trimmed();
-    default: return value.trimmed();
+    case Kind::EntryDate:
+      return kit::formatted(value, kit::Format::Date);
+    case Kind::Notes:
+      return std::string(notesIndent) + value.trimmed();
+    default:
+      return value.trimmed();
   }
 }
 
@@ -66,14 +89,14 @@ void mark(RecordSet& row, kit::Desk& desk) {
   if (desk.session.ConsolePanel == kit::Panel::Students) row.set("bsh", desk.session.ComputerName);
 }
 
-RecordSet rowsOf(store::Store& store, std::string_view table, const std::string& xh) {
-  return RecordSet(store, Sql::table(table) + " where xh='" + base::trim(xh) + "'");
+Sql ofStudent(std::string_view table, const std::string& xh) {
+  return Sql::table(table) + " where xh='" + base::trim(xh) + "'";
 }
 
 // What the dependent tables copy of a student.
 void cascade(store::Store& store, const std::string& formerXh, const Student& student) {
   for (const std::string_view table : dependentTables) {
-    RecordSet dependents = rowsOf(store, table, formerXh);
+    RecordSet dependents(store, ofStudent(table, formerXh));
     store::forEach(dependents, [&](RecordSet& row) {
       row.set("xh", base::trim(student.xh));
       row.set("xm", base::trim(student.xm));
@@ -86,7 +109,7 @@ void cascade(store::Store& store, const std::string& formerXh, const Student& st
 
 }  // namespace
 
-RecordSet loadStudent(store::Store& store, const std::string& xh) { return rowsOf(store, "xs", xh); }
+RecordSet loadStudent(store::Store& store, const std::string& xh) { return RecordSet(store, ofStudent("xs", xh)); }
 
 Student textsOf(RecordSet& row) {
   Student student;
@@ -165,10 +188,7 @@ bool deleteStudent(store::Store& store, const std::string& xh) {
   RecordSet row = loadStudent(store, xh);
   if (row.empty()) return false;
   row.remove();
-  for (const std::string_view table : dependentTables) {
-    RecordSet dependents = rowsOf(store, table, xh);
-    store::forEach(dependents, [](RecordSet& dependent) { dependent.remove(); });
-  }
+  for (const std::string_view table : dependentTables) kit::removeEach(store, ofStudent(table, xh));
   unit.finish();
   return true;
 }

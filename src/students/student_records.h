@@ -28,8 +28,8 @@ constexpr std::string_view notesIndent = "    ";  // stands before the notes whe
 
 // The row of a student: an empty set when there is none.
 store::RecordSet loadStudent(store::Store& store, const std::string& xh);
-Student textsOf(store::RecordSet& row);                // as the edit screen shows them
-Student newStudent(base::Date today);                  // what an empty screen holds
+Student textsOf(store::RecordSet& row);  // as the edit screen shows them
+Student newStudent(base::Date today);    // what an empty screen holds
 
 struct NumberProposal {
   std::string number;    // stands in the field of a new student

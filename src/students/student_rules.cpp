@@ -9,7 +9,10 @@ constexpr const char* fault = "错误提示";
 constexpr const char* advice = "操作提示";
 
 // The tests look at the trimmed text.
-template <std::size_t characters> bool longerThan(const std::string& text) { return base::length(text) > characters; }
+template <std::size_t characters>
+bool longerThan(const std::string& text) {
+  return base::length(text) > characters;
+}
 bool blank(const std::string& text) { return text.empty(); }
 bool notNumeric(const std::string& text) { return !base::isNumeric(text); }
 bool filledNotNumeric(const std::string& text) { return !text.empty() && !base::isNumeric(text); }
@@ -55,8 +58,8 @@ std::optional<Refusal> wrongLength(store::Store& store, const std::string& numbe
   const std::size_t expected = base::length(students.get("xh").trimmed());
   const std::size_t length = base::length(number);
   if (length == expected) return std::nullopt;
-  const std::string text = length > expected ? "学号多" + std::to_string(length - expected)
-                                             : "学号少" + std::to_string(expected - length);
+  const std::string text =
+      length > expected ? "学号多" + std::to_string(length - expected) : "学号少" + std::to_string(expected - length);
   return Refusal{text + " 位 ！   ", fault, &Student::xh, true};
 }
 

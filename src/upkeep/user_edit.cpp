@@ -1,5 +1,6 @@
 #include "upkeep/user_edit.h"
 
+#include "kit/rows.h"
 #include "upkeep/password.h"
 #include "upkeep/users.h"
 
@@ -55,8 +56,7 @@ void Formyhxx2::remove() {
   if (!ask("您确认要删除选定记录吗？   ", "删除提示")) return;
   store::RecordSet& user = *desk.session.edited;
   store::Unit unit(desk.store);
-  store::RecordSet rights = rows(store::Sql("select * from yhxx1 where yhxm='") + user.get("yhxm").trimmed() + "'");
-  store::forEach(rights, [](store::RecordSet& row) { row.remove(); });
+  kit::removeEach(desk.store, store::Sql("select * from yhxx1 where yhxm='") + user.get("yhxm").trimmed() + "'");
   user.remove();
   unit.finish();
   inform("选定记录已删除 ！     ", "信息提示");

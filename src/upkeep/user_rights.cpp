@@ -1,5 +1,7 @@
 #include "upkeep/user_rights.h"
 
+#include "kit/rows.h"
+
 namespace upkeep {
 
 using store::RecordSet;
@@ -38,10 +40,7 @@ Formyhxx1::Formyhxx1(kit::Desk& all) : Screen(all, "Formyhxx1", "用户权限设
       byNumber_[static_cast<std::size_t>(right.number)] = &boxes.back();
     }
   yhxm.onDrop([this] {
-    RecordSet users = rows("select * from yhxx where yhjb<>'超级管理员'");
-    std::vector<std::string> names;
-    store::forEach(users, [&](RecordSet& user) { names.push_back(user.get("yhxm").trimmed()); });
-    yhxm.setChoices(names);
+    yhxm.setChoices(kit::columnTexts(desk.store, "select * from yhxx where yhjb<>'超级管理员'", "yhxm"));
   });
   yhxm.onChange([this] { enableAll(!yhxm.text().empty()); });
   yhxm.onPick([this] { showRights(); });

@@ -7,6 +7,8 @@
 #include <sstream>
 
 #include "base/text.h"
+#include "store/database.h"
+#include "store/store.h"
 
 namespace store {
 namespace {
@@ -86,6 +88,16 @@ TEST(Catalogue, TypesWhatTheScreensComputeWith) {
     }
   }
   EXPECT_EQ(findTable("xs")->find("stbh"), nullptr);  // a major's deletion counts on its absence
+}
+
+TEST(Catalogue, StandsOnTheEngine) {
+  Store store;
+  for (const Table& table : tables()) {
+    const auto present = store.database(table.connection).engine().columnsOf(table.name);
+    std::vector<std::string> expected{"row_no"};
+    for (const Column& column : table.columns) expected.emplace_back(column.name);
+    EXPECT_EQ(present, expected) << table.name;
+  }
 }
 
 // A row moves to its copy by column names.

@@ -20,6 +20,7 @@ TEST(Value, ReadsEveryKindAsEveryOther) {
       {Value(" 12.5元"), " 12.5元", "12.5", 12.5, true, false, ""},
       {Value("2026年9月1日"), "2026年9月1日", "2026", 2026, true, false, "2026-9-1"},
       {Value(true), "True", "1", 1, true, false, ""},
+      {Value("True"), "True", "0", 0, true, false, ""},
       {Value(false), "False", "0", 0, false, false, ""},
       {Value(10000002), "10000002", "10000002", 10000002, true, false, ""},
       {Value(0.1), "0.1", "0.1", 0.1, true, false, ""},

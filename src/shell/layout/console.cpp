@@ -15,7 +15,7 @@ Layout Formzct::layout() {
                           group(sharing.frame, {sharing.list}),
                           group(students_overview.frame, students_overview.layout()),
                           group(payments_overview.frame, payments_overview.layout()),
-                          group(arrears_overview.frame, arrears_overview.layout()), class_strip, notice}),
+                          group(arrears_overview.frame, arrears_overview.layout()), class_strip}),
           .maximised = true,
           .menus = bar(),
           .toolbar = toolbar(),

@@ -12,7 +12,7 @@ Layout Form1::layout() {
 
 // The panel stands at the lower right over the background picture; login_view places it.
 Layout Formcsh5::layout() {
-  return {.root = column({background, group(panel, {school, form({wide(yhxm, 12), wide(yhmm, 12)}), buttons({login, cancel})})}),
+  return {.root = custom("login", {background, group(panel, {school, form({wide(yhxm, 12), wide(yhmm, 12)}), buttons({login, cancel})})}),
           .confirm = &login,
           .cancel = &cancel,
           .frameless = true,

@@ -1,0 +1,87 @@
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include "shell/console.h"
+#include "shell/view/shell_views.h"
+
+namespace shell {
+namespace {
+
+constexpr int classPanelWidth = 380;
+
+// Places the parts over one another: the front fills the area, a shown overview covers it, the class panel lies on top.
+class ConsoleArea : public QWidget {
+ public:
+  ConsoleArea(Formzct& console, QWidget* front, std::vector<QWidget*> covers, QWidget* classes, QWidget* strip)
+      : console_(console), front_(front), covers_(std::move(covers)), classes_(classes), strip_(strip) {
+    for (QWidget* part : parts()) part->setParent(this);
+    for (QWidget* cover : covers_) cover->setAutoFillBackground(true);
+    classes_->setAutoFillBackground(true);
+    strip_->installEventFilter(this);
+    front_->installEventFilter(this);
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent*) override {
+    front_->setGeometry(rect());
+    for (QWidget* cover : covers_) cover->setGeometry(rect());
+    classes_->setGeometry(0, 0, classPanelWidth, height());
+    for (QWidget* cover : covers_) cover->raise();
+    classes_->raise();
+  }
+
+  // The panel slides in when the mouse comes over the strip at the edge, and out when it moves on over the rest.
+  bool eventFilter(QObject* object, QEvent* event) override {
+    const bool enters = event->type() == QEvent::Enter;
+    const bool open = console_.classes.frame.visible();
+    if (enters && console_.class_strip.enabled() && ((object == strip_ && !open) || (object == front_ && open)))
+      console_.class_strip.press();
+    return QWidget::eventFilter(object, event);
+  }
+
+ private:
+  std::vector<QWidget*> parts() const {
+    std::vector<QWidget*> all{front_};
+    all.insert(all.end(), covers_.begin(), covers_.end());
+    all.push_back(classes_);
+    return all;
+  }
+  Formzct& console_;
+  QWidget* front_;
+  std::vector<QWidget*> covers_;
+  QWidget* classes_;
+  QWidget* strip_;
+};
+
+}  // namespace
+
+QWidget* buildConsole(kit::Screen& screen, const kit::Node& node, qt::Renderer& renderer) {
+  std::vector<QWidget*> parts;
+  for (const kit::Node& child : node.children) parts.push_back(renderer.build(child));
+  QWidget* const classes = parts[0];
+  QWidget* const card = parts[1];
+  QWidget* const strip = parts[8];
+
+  auto* lists = new QSplitter(Qt::Vertical);
+  lists->addWidget(parts[2]);
+  lists->addWidget(parts[3]);
+  lists->setStretchFactor(0, 3);
+  lists->setStretchFactor(1, 2);
+  lists->setChildrenCollapsible(false);
+
+  auto* front = new QWidget;
+  auto* side = new QVBoxLayout;
+  side->addWidget(strip, 0, Qt::AlignLeft);
+  side->addWidget(card, 1);
+  auto* row = new QHBoxLayout(front);
+  card->setFixedWidth(390);
+  parts[4]->setFixedWidth(250);
+  row->addLayout(side);
+  row->addWidget(lists, 1);
+  row->addWidget(parts[4]);
+  return new ConsoleArea(static_cast<Formzct&>(screen), front, {parts[5], parts[6], parts[7]}, classes, strip);
+}
+
+}  // namespace shell

@@ -1,0 +1,119 @@
+#include "kit/screen.h"
+
+#include "kit/validation.h"
+#include "support/test_desk.h"
+
+namespace kit {
+namespace {
+
+using support::opened;
+using support::TestDesk;
+
+// Two fields, a list and a button over the majors.
+class Sample : public Screen {
+ public:
+  explicit Sample(Desk& all) : Screen(all, "Sample", "样板") {
+    first.onChange([this] { second.set("随" + first.text()); });
+    confirm.onPress([this] { ++confirmed; });
+    broken.onPress([this] {
+      first.set("已改");
+      store::RecordSet wrong = rows("select * from zymcb where nosuch='1'");
+      second.set("不应到这里");
+    });
+    leaving.onPress([this] { close(); first.set("关闭以后"); });
+  }
+  void load() override { majors.open("select * from zymcb order by zybh"); }
+  Layout layout() override {
+    return {.root = column({form({first, hidden, second}), majors, buttons({confirm, broken, leaving})}), .confirm = &confirm};
+  }
+  Field first{*this, "first", "一"}, hidden{*this, "hidden", "二"}, second{*this, "second", "三"};
+  Grid majors{*this, "majors", desk.store, {{"代号", "zybh"}, {"名称", "zymc"}}};
+  Action confirm{*this, "confirm", "确认"}, broken{*this, "broken", "出错"}, leaving{*this, "leaving", "离开"};
+  int confirmed = 0;
+};
+
+TEST(Screen, AFaultEndsTheEventAndIsToldOnceInWords) {
+  TestDesk test;
+  auto s = opened<Sample>(test);
+  test.person.expect(Box::Stop, "数据表“zymcb”中没有“nosuch”这一栏！", "错误提示");
+  s->broken.press();
+  EXPECT_EQ(s->first.text(), "已改");      // what went before stays
+  EXPECT_EQ(s->second.text(), "随已改");   // a value set by code raises the same change as typing
+}
+
+TEST(Screen, EnterMovesOverWhatIsHiddenAndConfirmsInTheEnd) {
+  TestDesk test;
+  auto s = opened<Sample>(test);
+  s->hidden.show(false);
+  s->first.focus();
+  s->first.enter();
+  EXPECT_EQ(s->focused, &s->second);
+  EXPECT_EQ(s->confirmed, 0);
+  s->second.enter();
+  EXPECT_EQ(s->confirmed, 1);
+}
+
+TEST(Screen, NobodyUsesWhatCannotBeReached) {
+  TestDesk test;
+  auto s = opened<Sample>(test);
+  s->first.enable(false);
+  s->second.show(false);
+  EXPECT_THROW(s->first.type("x"), std::logic_error);
+  EXPECT_THROW(s->second.type("x"), std::logic_error);
+  s->leaving.press();
+  EXPECT_TRUE(s->closed());
+  EXPECT_EQ(s->first.text(), "关闭以后");
+  EXPECT_EQ(s->second.text(), "");  // a closed screen raises no more events
+  EXPECT_THROW(s->confirm.press(), std::logic_error);
+}
+
+TEST(Grid, KeepsItsPlaceAndHandsOutTheRow) {
+  TestDesk test;
+  for (const char* code : {"11", "13", "12"}) test.add("zymcb", {{"zybh", code}, {"zymc", std::string("专业") + code}});
+  auto s = opened<Sample>(test);
+  EXPECT_EQ(s->majors.current(), nullptr);
+  s->majors.select(2);
+  EXPECT_EQ(s->majors.key(), "13");
+  store::RecordSet* row = s->majors.current();
+  ASSERT_TRUE(row);
+  row->set("zymc", "新名");
+  row->update();
+  s->majors.reload();
+  EXPECT_EQ(s->majors.cell(2, 1), "新名");
+  EXPECT_EQ(s->majors.selected(), 2);
+  s->majors.current()->remove();
+  s->majors.reload();
+  EXPECT_EQ(s->majors.key(), "12");  // the last row there is
+}
+
+TEST(Validation, StopsAtTheFirstBreachWithTheFocusInItsField) {
+  TestDesk test;
+  auto s = opened<Sample>(test);
+  const std::vector<Rule> rules{{&s->first, longerThan(s->first, 3), "太长", "一"},
+                                {&s->first, blank(s->first), "不能为空", "二", Box::Warning},
+                                {&s->second, filledNotNumeric(s->second), "应该是数字", "三"},
+                                {&s->second, filledNotDate(s->second), "应该是日期", "四"}};
+  const struct { const char* first; const char* second; Box box; const char* text; const char* title; } cases[] = {
+      {"汉字四个", "x", Box::Stop, "太长", "一"}, {" ", "x", Box::Warning, "不能为空", "二"},
+      {"好", "x", Box::Stop, "应该是数字", "三"}, {"好", "12", Box::Stop, "应该是日期", "四"}};
+  for (const auto& c : cases) {
+    s->first.type(c.first);
+    s->second.type(c.second);
+    test.person.expect(c.box, c.text, c.title);
+    EXPECT_FALSE(holds(test.person, rules));
+  }
+  EXPECT_EQ(s->focused, &s->second);
+  s->second.type(" ");
+  EXPECT_TRUE(holds(test.person, rules));
+}
+
+TEST(List, ShowsEachFormat) {
+  const struct { store::Value value; Format format; const char* shown; } cases[] = {
+      {store::Value(" 王 "), Format::Text, "王"}, {store::Value(), Format::Money, ""}, {store::Value(""), Format::Date, ""},
+      {store::Value(base::Money::fen(1250)), Format::Money, "12.50"}, {store::Value("12.5"), Format::Padded, "    12.50"},
+      {store::Value(base::Date{2008, 9, 1}), Format::Date, "2008-9-1"}, {store::Value("2008-9-1"), Format::LongDate, "2008年9月1日"}};
+  for (const auto& c : cases) EXPECT_EQ(formatted(c.value, c.format), c.shown);
+}
+
+}  // namespace
+}  // namespace kit

@@ -1,0 +1,274 @@
+// Reading and writing through record sets: types, walks in whose middle rows come and go, units.
+#include <gmock/gmock.h>
+
+#include "store/configurations.h"
+
+namespace store {
+namespace {
+
+using testing::ElementsAre;
+using testing::SizeIs;
+
+class Records : public Conformance {
+ protected:
+  void addNumbered(int count) {
+    std::vector<std::vector<Value>> rows;
+    for (int i = 1; i <= count; ++i) rows.push_back({std::to_string(i), i % 2 ? "odd" : "even", i});
+    add("jfjl", {"lsh", "xm", "je"}, rows);
+  }
+  std::vector<std::string> all() { return column("select * from jfjl", "lsh"); }
+};
+INSTANTIATE_TEST_SUITE_P(Store, Records, configurations(), nameOf);
+
+TEST_P(Records, ValuesAreTypedBothWays) {
+  struct Typing {
+    std::string column;
+    Value given, expected;
+  };
+  const std::vector<Typing> cases{
+      {"kjsj", "2008-9-1 8:05:03", base::DateTime{{2008, 9, 1}, 8, 5, 3}},
+      {"kjsj", base::Date{2008, 9, 1}, base::DateTime{{2008, 9, 1}}},
+      {"kjsj", "", ""},
+      {"kjsj", " ", ""},
+      {"kjsj", Value(), Value()},
+      {"yhxm", base::Date{2008, 9, 1}, "2008-9-1"},
+      {"yhxm", base::DateTime{{2008, 9, 1}, 8, 5, 3}, "2008-9-1 8:05:03"},
+      {"yhxm", *base::Money::parse("12.50"), "12.5"},
+      {"yhxm", 10000002, "10000002"},
+      {"yhxm", "", ""},
+      {"yhxm", Value(), Value()},
+      {"yhxm", " a ", " a "},
+      {"yhxm", "0012", "0012"},
+  };
+  for (const Typing& typing : cases) {
+    RecordSet set(*store_, "select * from czjl");
+    set.addNew();
+    set.set(typing.column, typing.given);
+    EXPECT_EQ(set.get(typing.column), typing.expected) << "before the row is written";
+    set.update();
+    EXPECT_EQ(set.get(typing.column), typing.expected) << "once it is written";
+    step();
+    RecordSet again(*store_, "select * from czjl");
+    again.last();
+    EXPECT_EQ(again.get(typing.column), typing.expected) << typing.column << " " << typing.given.text();
+  }
+}
+
+TEST_P(Records, AmountsDatesNumbersAndYesNo) {
+  const base::Money amount = *base::Money::parse("12.5");
+  for (const Value& given : {Value("12.50"), Value(12.5), Value(amount), Value(" 12.5 ")}) {
+    add("jfjl", {"je", "jfrq"}, {{given, "2008-09-1"}});
+    RecordSet set(*store_, "select * from jfjl");
+    set.last();
+    EXPECT_EQ(set.get("je"), Value(amount));
+    EXPECT_EQ(set.get("JFRQ"), Value(base::Date{2008, 9, 1}));
+  }
+  RecordSet set(*store_, "select * from jfjl");
+  set.set("je", "");
+  EXPECT_TRUE(set.get("je").isNull()) << "an empty amount is none";
+  for (const auto& [name, value] : std::vector<std::pair<std::string, Value>>{
+           {"je", "12.5元"}, {"je", base::Date{}}, {"je", 1e300}, {"jfrq", "2008-2-30"}, {"jfrq", 5}}) {
+    EXPECT_EQ(faultOf([&] { set.set(name, value); }), Fault::Statement) << name << " " << value.text();
+  }
+  try {
+    set.set("jfrq", "soon");
+  } catch (const StoreError& error) {
+    EXPECT_THAT(error.what(), testing::AllOf(testing::HasSubstr("jfrq"), testing::HasSubstr("soon")));
+  }
+  RecordSet settings(*store_, "select * from morvanedjpzb where fn='kqd'", Connection::Config);
+  EXPECT_EQ(settings.get("qfmr"), Value(true));
+  settings.set("qfmr", "false");
+  settings.set("qfts", "30");
+  settings.update();
+  step();
+  settings.refresh();
+  EXPECT_EQ(settings.get("qfmr"), Value(false));
+  EXPECT_EQ(settings.get("qfts"), Value(30));
+}
+
+TEST_P(Records, EmptyAndNullDiffer) {
+  add("jfjl", {"lsh", "sftj"}, {{"1", ""}, {"2", Value()}, {"3", "*"}});
+  EXPECT_THAT(column("select * from jfjl where sftj=''", "lsh"), ElementsAre("1"));
+  EXPECT_THAT(column("select * from jfjl where sftj<>'*'", "lsh"), ElementsAre("1"));
+  EXPECT_THAT(column("select * from jfjl where sftj is null", "lsh"), ElementsAre("2"));
+}
+
+TEST_P(Records, ASetWithoutRows) {
+  RecordSet set(*store_, "select * from jfjl");
+  EXPECT_TRUE(set.empty());
+  EXPECT_TRUE(set.atEnd());
+  EXPECT_TRUE(set.atStart());
+  EXPECT_EQ(set.count(), 0);
+  set.last();
+  EXPECT_TRUE(set.atEnd());
+  set.next();
+  EXPECT_EQ(faultOf([&] { set.get("xm"); }), Fault::RowGone);
+  EXPECT_EQ(faultOf([&] { set.set("xm", "a"); }), Fault::RowGone);
+  EXPECT_EQ(faultOf([&] { set.remove(); }), Fault::RowGone);
+  EXPECT_EQ(faultOf([&] { RecordSet(*store_).count(); }), Fault::RowGone);
+}
+
+TEST_P(Records, ColumnsOfASet) {
+  addNumbered(2);
+  RecordSet set(*store_, "select XM, je from jfjl order by lsh");
+  EXPECT_THAT(set.fields(), ElementsAre("xm", "je"));
+  EXPECT_EQ(set.get("Je").text(), "1");
+  EXPECT_EQ(faultOf([&] { set.get("lsh"); }), Fault::NoSuchColumn);
+  EXPECT_EQ(faultOf([&] { set.set("nothing", 1); }), Fault::NoSuchColumn);
+  set.next();
+  EXPECT_EQ(set.get("xm").text(), "even");
+  RecordSet groups(*store_, "select xm from jfjl group by xm");
+  EXPECT_EQ(faultOf([&] { groups.set("xm", "a"); }), Fault::Statement);
+  EXPECT_EQ(faultOf([&] { groups.remove(); }), Fault::Statement);
+}
+
+TEST_P(Records, AWalkThatDeletesClearsTheTable) {
+  addNumbered(50);
+  RecordSet set(*store_, "select * from jfjl");
+  int visited = 0;
+  forEach(set, [&](RecordSet& at) {
+    ++visited;
+    at.remove();
+    at.update();
+    if (visited % 10 == 0) step();
+  });
+  EXPECT_EQ(visited, 50);
+  EXPECT_THAT(all(), SizeIs(0));
+}
+
+TEST_P(Records, AWalkKeepsItsOwnRows) {
+  addNumbered(6);
+  RecordSet set(*store_, "select * from jfjl where xm='odd' order by lsh desc");
+  std::vector<std::string> visited;
+  forEach(set, [&](RecordSet& at) {
+    visited.push_back(at.get("lsh").text());
+    at.set("xm", "even");                       // leaves the condition
+    at.set("lsh", "9" + at.get("lsh").text());  // and its place in the order
+    at.update();
+    EXPECT_EQ(at.get("xm").text(), "even");
+    RecordSet other(*store_, "select * from jfjl");
+    other.addNew();
+    other.set("xm", "odd");
+    other.update();
+    step();
+  });
+  EXPECT_THAT(visited, ElementsAre("5", "3", "1"));
+  EXPECT_THAT(column("select * from jfjl where xm='even' order by lsh", "lsh"),
+              ElementsAre("2", "4", "6", "91", "93", "95"));
+}
+
+TEST_P(Records, RowsThatOthersDeleteAreSkippedAndReadAfresh) {
+  addNumbered(5);
+  RecordSet walk(*store_, "select * from jfjl order by lsh");
+  EXPECT_EQ(walk.get("lsh").text(), "1");
+  RecordSet other(*store_, "select * from jfjl where lsh='2' or lsh='3'");
+  other.remove();
+  other.next();
+  other.set("je", 33);
+  other.update();
+  walk.next();
+  EXPECT_EQ(walk.get("je").text(), "33");
+  other.remove();
+  EXPECT_EQ(faultOf([&] { walk.get("je"); }), Fault::RowGone);
+  walk.set("je", 1);
+  EXPECT_EQ(faultOf([&] { walk.update(); }), Fault::RowGone);
+  store_->settle();
+  walk.next();
+  EXPECT_EQ(walk.get("lsh").text(), "4");
+  EXPECT_THAT(all(), ElementsAre("1", "4", "5"));
+}
+
+TEST_P(Records, GroupsGoOnWhileTheTableChanges) {
+  addNumbered(4);
+  RecordSet names(*store_, "select xm from jfjl group by xm order by xm");
+  std::vector<std::string> visited;
+  forEach(names, [&](RecordSet& at) {
+    RecordSet rows(*store_, Sql("select * from jfjl where xm='") + at.get("xm") + "'");
+    forEach(rows, [](RecordSet& row) { row.remove(); });
+    visited.push_back(at.get("xm").text());
+    step();
+  });
+  EXPECT_THAT(visited, ElementsAre("even", "odd"));
+}
+
+TEST_P(Records, TheNewRowIsCurrentAndNothingStandsBehindIt) {
+  addNumbered(2);
+  RecordSet set(*store_, "select * from jfjl");
+  set.addNew();
+  EXPECT_FALSE(set.atEnd());
+  set.set("xm", "new");
+  EXPECT_TRUE(set.get("je").isNull());
+  set.update();
+  EXPECT_EQ(set.get("xm").text(), "new");
+  set.set("lsh", "3");
+  set.update();
+  set.update();
+  step();
+  EXPECT_EQ(set.get("lsh").text(), "3");
+  set.next();
+  EXPECT_TRUE(set.atEnd());
+  EXPECT_THAT(all(), ElementsAre("1", "2", "3"));
+  set.last();
+  set.remove();
+  set.addNew();
+  set.update();
+  EXPECT_THAT(all(), ElementsAre("1", "2", "")) << "a row with nothing set is a row";
+}
+
+TEST_P(Records, LastOfAnOrderedSet) {
+  addNumbered(3000);
+  for (int i = 0; i < 3; ++i) {
+    RecordSet set(*store_, "select * from jfjl order by lsh");
+    set.last();
+    EXPECT_EQ(set.get("lsh").text(), "999");
+    const bool atEnd = set.atEnd();
+    EXPECT_FALSE(atEnd);
+    step();
+    EXPECT_EQ(set.get("lsh").text(), "999");
+    set.next();
+    EXPECT_TRUE(set.atEnd());
+    set.first();
+    EXPECT_EQ(set.get("lsh").text(), "1");
+  }
+}
+
+TEST_P(Records, ARefusedStatementKeepsWhatWentBefore) {
+  try {
+    Unit unit(*store_);
+    RecordSet set(*store_, "select * from jfjl");
+    set.addNew();
+    set.set("lsh", "1");
+    set.update();
+    EXPECT_TRUE(Unit::openIn(*store_));
+    RecordSet(*store_, Sql("select * from jfjl where xm='") + std::string("o'c") + "'");
+    unit.finish();
+  } catch (const StoreError& error) {
+    EXPECT_EQ(error.fault, Fault::Statement);
+  }
+  EXPECT_FALSE(Unit::openIn(*store_));
+  step();
+  EXPECT_THAT(all(), ElementsAre("1"));
+}
+
+TEST_P(Records, AUnitInsideAUnitJoinsIt) {
+  {
+    Unit outer(*store_);
+    addNumbered(1);
+    {
+      Unit inner(*store_);
+      RecordSet set(*store_, "select * from jfjl");
+      set.set("xm", "joined");
+      set.update();
+      inner.finish();
+    }
+    EXPECT_TRUE(Unit::openIn(*store_));
+    RecordSet unrelated(*store_, "select * from jfjl");
+    EXPECT_EQ(unrelated.count(), 1) << "a unit sees its own rows";
+    outer.finish();
+  }
+  EXPECT_FALSE(Unit::openIn(*store_));
+  EXPECT_THAT(column("select * from jfjl", "xm"), ElementsAre("joined"));
+}
+
+}  // namespace
+}  // namespace store

@@ -1,0 +1,270 @@
+#include "students/student_edit.h"
+
+#include "collection/fee_window.h"
+#include "students/school.h"
+#include "students/student_view.h"
+
+namespace students {
+namespace {
+
+using kit::Box;
+using kit::Mode;
+using kit::Panel;
+using support::opened;
+
+std::unique_ptr<Formzctxs> openedFor(School& school, Mode mode, const std::string& xh = School::number) {
+  school.session.EditMode = mode;
+  school.session.student_selection = xh;
+  return opened<Formzctxs>(school);
+}
+
+void fill(Formzctxs& s) {
+  s.xm.type("张三");
+  s.bjmc.pick("计算机11001班");
+  s.rxxs.pick("统招");
+}
+
+void expectAdded(School& school) {
+  school.person.expect(Box::Information, "学籍资料信息成功录入 ！      ", "信息提示");
+}
+
+TEST(StudentEdit, AnEmptyScreenHoldsTheDefaults) {
+  School school;
+  auto s = openedFor(school, Mode::Add);
+  EXPECT_EQ(s->xh.text(), "20260001010001");
+  EXPECT_EQ(s->xb.text() + s->mz.text(), "男汉族");
+  EXPECT_EQ(s->csrq.text() + " " + s->rxrq.text(), "2008-9-11 2026-9-7");
+  EXPECT_TRUE(s->bjmc.blank() && s->bz.blank() && s->xp.bytes().empty());
+  EXPECT_TRUE(s->xssf.visible());
+  EXPECT_EQ(s->confirm.caption(), "添加");
+}
+
+TEST(StudentEdit, EnterInABlankNumberStays) {
+  School school;
+  auto s = openedFor(school, Mode::Add);
+  s->xh.enter();
+  EXPECT_EQ(s->focused, &s->xm);
+  s->xh.type(" ");
+  school.person.expect(Box::Stop, "学号是学生的唯一标识，您必须设置好学号！       ", "操作提示");
+  s->xh.enter();
+  EXPECT_EQ(s->focused, &s->xh);
+}
+
+TEST(StudentEdit, ListsOfferWhatIsInUseAndLeadOn) {
+  School school;
+  for (const char* mz : {"汉族", "", "回族", "汉族"}) school.add("xs", {{"xh", "1"}, {"mz", mz}, {"zzmm", "团员"}});
+  auto s = openedFor(school, Mode::Add);
+  s->bjmc.pick("会计01001班");
+  EXPECT_EQ(s->bjmc.choices(), (std::vector<std::string>{"会计01001班", "计算机11001班"}));  // by class code
+  EXPECT_EQ(s->focused, &s->mz);
+  EXPECT_EQ(s->zymc.text() + s->xtbh, "会计01001001");
+  s->mz.pick("回族");
+  EXPECT_EQ(s->mz.choices().size(), 2U);
+  EXPECT_EQ(s->focused, &s->csrq);
+  s->zzmm.pick("团员");
+  EXPECT_EQ(s->focused, &s->lxdh);
+  s->rxxs.pick("统招");
+  EXPECT_EQ(s->focused, &s->sfbz);
+  s->bjmc.type("计算机11001班");  // typed in full instead of picked
+  s->bjmc.leave();
+  EXPECT_EQ(s->zymc.text() + s->xtbh, "计算机11001001");
+}
+
+TEST(StudentEdit, TheIdentityNumberFillsOtherFields) {
+  School school;
+  auto s = openedFor(school, Mode::Add);
+  s->sfzhm.type("13010219990101012x");
+  s->sfzhm.leave();
+  EXPECT_EQ(s->csrq.text() + s->xb.text() + s->sfzhm.text(), "1999-01-01女13010219990101012X");
+  s->sfzhm.type("130102199901010x");
+  school.person.expect(Box::Stop, "身份证号码位数不正确,请重新输入      ", "错误提示");
+  s->sfzhm.leave();
+  EXPECT_EQ(s->csrq.text() + s->xb.text() + s->sfzhm.text(), "1999-01-01女130102199901010X");
+  s->xb.doubleClick();
+  EXPECT_EQ(s->xb.text(), "男");
+  s->xb.type("不详");
+  s->xb.leave();
+  EXPECT_EQ(s->xb.text(), "男");
+}
+
+TEST(StudentEdit, AWrongLengthNeverSavesWhateverTheAnswer) {
+  School school;
+  school.enrol("1001", "王小明");
+  for (const Mode mode : {Mode::Add, Mode::Modify}) {
+    const bool adds = mode == Mode::Add;
+    auto s = openedFor(school, mode, "1001");
+    fill(*s);
+    for (const bool yes : {false, true}) {
+      s->xh.type("10015");
+      s->confirm.focusIn();
+      school.person.expect(Box::Stop, "学号多1 位 ！   ", "错误提示")
+          .answer(yes, Box::Ask, adds ? "您是否使用默认学号 ！     " : "是否先还原为原来的学号 ！     ", "操作提示");
+      s->confirm.press();
+      EXPECT_EQ(s->xh.text(), !yes ? "10015" : adds ? "1002" : "1001");
+      EXPECT_EQ(s->focused, &s->xh);
+    }
+  }
+  EXPECT_EQ(school.dump("xs", "xh|xm"), "1001|王小明\n");
+}
+
+TEST(StudentEdit, AddingFromTheFrontClosesAndHandsTheNumberOn) {
+  School school;
+  auto s = openedFor(school, Mode::Add);
+  fill(*s);
+  expectAdded(school);
+  s->confirm.press();
+  EXPECT_TRUE(s->closed());
+  EXPECT_EQ(school.session.current_xh, "20260001010001");
+  EXPECT_EQ(school.stored("xtbh"), "11001001");
+}
+
+TEST(StudentEdit, AddingBesideTheStudentListStaysOpenForTheNext) {
+  School school;
+  school.session.ConsolePanel = Panel::Students;
+  auto s = openedFor(school, Mode::Add);
+  fill(*s);
+  s->xh.type("20260001010077");
+  school.person.pickFile(school.file("a.gif", "GIF89a"));
+  s->choosePhoto.press();
+  EXPECT_EQ(s->xp.bytes(), "GIF89a");
+  expectAdded(school);
+  s->confirm.press();
+  EXPECT_FALSE(s->closed());
+  EXPECT_EQ(school.session.current_xh, "");
+  EXPECT_EQ(s->xh.text(), "20260001010078");
+  EXPECT_EQ(s->focused, &s->xm);
+  EXPECT_TRUE(s->xm.blank() && s->bjmc.blank() && s->zymc.blank() && s->xp.bytes().empty());
+
+  fill(*s);
+  EXPECT_EQ(s->xtbh, "11001002");
+  s->xh.type("1");
+  school.person.expect(Box::Stop, "学号少13 位 ！   ", "错误提示")
+      .answer(true, Box::Ask, "您是否使用默认学号 ！     ", "操作提示");
+  s->confirm.press();
+  EXPECT_EQ(s->xh.text(), "20260001010078");
+  expectAdded(school);
+  s->confirm.press();
+  EXPECT_EQ(school.dump("xs", "xh|bsh"), "20260001010077|收费一号机\n20260001010078|收费一号机\n");
+  EXPECT_EQ(school.photo("20260001010077") + school.photo("20260001010078"),
+            "GIF89a");  // the photo was the first one's
+}
+
+TEST(StudentEdit, ATickedBoxOffersTheFeeWindow) {
+  School school;
+  const store::Sql settings = "select * from morvanedjpzb where fn='kqd'";
+  const auto stored = [&] {
+    return store::RecordSet(school.store, settings, store::Connection::Config).get("xssf").number();
+  };
+  auto s = openedFor(school, Mode::Add);
+  EXPECT_FALSE(s->xssf.on());
+  s->xssf.toggle();
+  EXPECT_EQ(stored(), 1);
+  s = openedFor(school, Mode::Add);
+  EXPECT_TRUE(s->xssf.on());
+  fill(*s);
+  school.person.answer(true, Box::Ask, "学籍资料信息成功录入！要打开收费窗口收费吗？    ", "信息提示");
+  std::string handedOn;
+  school.navigator.expect<collection::Formzctsf4>([&](auto&) { handedOn = school.session.current_xh; });
+  s->confirm.press();
+  EXPECT_EQ(handedOn, "20260001010001");
+  EXPECT_TRUE(s->closed());
+  openedFor(school, Mode::Add)->xssf.toggle();
+  EXPECT_EQ(stored(), 0);
+}
+
+TEST(StudentEdit, ARefusedPhotoIsToldAndNothingIsSaved) {
+  School school;
+  auto s = openedFor(school, Mode::Add);
+  fill(*s);
+  const std::string path = school.file("a.gif", "GIF89a");
+  school.person.pickFile(path);
+  s->xp.click();
+  std::filesystem::remove(path);  // a memory card that was pulled out
+  school.person.expect(Box::Stop, "无法读取文件：" + path + "，请检查文件是否存在、是否有读取权限。", "错误提示");
+  s->confirm.press();
+  EXPECT_FALSE(s->closed());
+  EXPECT_EQ(school.count("select * from xs"), 0);
+}
+
+TEST(StudentEdit, ShowsARecordAndChangesItWithoutAskingWhenTheKeyStands) {
+  School school;
+  school.enrol(School::number, "王小明");
+  auto s = openedFor(school, Mode::Modify);
+  EXPECT_EQ(s->csrq.text() + " " + s->sfbz.text() + s->bz.text() + s->xp.bytes(), "2008-9-1 1500.00    走读GIF89a old");
+  EXPECT_FALSE(s->xssf.visible());
+  s->sjhm.type("13900000000");
+  s->bjmc.pick("计算机11001班");  // the same class again
+  school.person.expect(Box::Information, "选定记录已修改 ！       ", "信息提示");
+  s->confirm.press();
+  EXPECT_TRUE(s->closed());
+  EXPECT_EQ(school.stored("sjhm") + school.stored("xtbh"), "1390000000011001001");
+}
+
+TEST(StudentEdit, AKeyChangeAsksFirst) {
+  School school;
+  school.enrol(School::number, "王小明");
+  auto s = openedFor(school, Mode::Modify);
+  s->xm.type("王晓明");
+  for (const bool yes : {false, true}) {
+    school.person.answer(yes, Box::Ask, "该生的重要信息已被修改，这会更新该生在系统中的所有信息，您确认继续吗？    ",
+                         "信息提示");
+    if (yes) school.person.expect(Box::Information, "选定记录已修改 ！       ", "信息提示");
+    s->confirm.press();
+    EXPECT_EQ(s->closed(), yes);
+    EXPECT_EQ(school.stored("xm") + school.value("select * from qfjl", "xm"), yes ? "王晓明王晓明" : "王小明王小明");
+  }
+}
+
+TEST(StudentEdit, DeletingAsksTwice) {
+  School school;
+  school.enrol(School::number, "王小明");
+  auto s = openedFor(school, Mode::Delete);
+  EXPECT_FALSE(s->xm.enabled());
+  const auto ask = [&](bool first, std::optional<bool> second) {
+    school.person.answer(first, Box::AskStop, "您确认是要删除选定学籍资料吗？   ", "警告");
+    if (second)
+      school.person.answer(
+          *second, Box::AskStop,
+          "删除学生的学籍资料，将同时删除该生在系统中的所有记录！ \n\n选择“是”继续；否则，点“否”撤销此操作！   ",
+          "再次警告");
+  };
+  ask(false, {});
+  s->confirm.press();
+  ask(true, false);
+  s->confirm.press();
+  EXPECT_EQ(school.count("select * from xs") + school.count("select * from jfjl"), 3);
+  ask(true, true);
+  school.person.expect(Box::Information, "选定记录已删除 ！        ", "信息提示");
+  s->confirm.press();
+  EXPECT_TRUE(s->closed());
+  EXPECT_EQ(school.count("select * from xs") + school.count("select * from jfjl"), 0);
+}
+
+TEST(StudentView, ShowsARecordAndKeepsItsNotes) {
+  School school;
+  school.enrol(School::number, "王小明");
+  school.session.student_selection = School::number;
+  auto s = opened<Formzctxsll>(school);
+  EXPECT_EQ(s->csrq.text() + s->rxrq.text() + s->sfbz.text() + s->bz.text(), "2008年9月1日2024年9月2日1500.00    走读");
+  s->bz.type("    走读，父亲接送\n");
+  EXPECT_TRUE(s->mayClose());
+  EXPECT_EQ(school.stored("bz"), "走读，父亲接送");
+  EXPECT_EQ(school.session.student_selection, "");
+}
+
+TEST(StudentView, NotesOfARecordThatIsGoneKeepTheWindowOpenOnce) {
+  School school;
+  school.enrol(School::number, "王小明");
+  school.session.student_selection = School::number;
+  auto s = opened<Formzctxsll>(school);
+  deleteStudent(school.store, School::number);
+  s->bz.type("转走读");
+  for (const bool closes : {false, true}) {
+    school.person.expect(Box::Stop, "该生学籍资料已不存在，备注未能保存。", "错误提示");
+    s->back.press();
+    EXPECT_EQ(s->closed(), closes);
+  }
+}
+
+}  // namespace
+}  // namespace students

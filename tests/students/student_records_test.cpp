@@ -1,0 +1,263 @@
+#include "students/student_records.h"
+
+#include "students/identity_number.h"
+#include "students/school.h"
+#include "students/student_card.h"
+
+namespace students {
+namespace {
+
+std::string many(std::size_t count, const char* one = "1") {
+  std::string text;
+  while (count-- > 0) text += one;
+  return text;
+}
+
+TEST(StudentRules, EachFieldIsTestedInTheOrderOfTheScreen) {
+  School school;
+  struct Fault {
+    StudentText field;
+    std::string text, message, title;
+  };
+  // From the last test to the first, each fault on top of those before: the first test in order must win.
+  const std::vector<Fault> faults = {
+      {&Student::sfbz, many(21), "收费标准一栏不能超过20个字符 ！       ", "操作提示"},
+      {&Student::rxrq, "2026-2-30", "入学日期格式不正确，应该是：yyyy-mm-dd ！   ", "操作提示"},
+      {&Student::csrq, "2026-2-30", "出生日期格式不正确，应该是：yyyy-mm-dd ！   ", "操作提示"},
+      {&Student::eml, many(51), "电子邮箱一栏不能超过50个字符 ！       ", "操作提示"},
+      {&Student::yzbm, many(11), "邮政编码一栏不能超过10个字符 ！       ", "操作提示"},
+      {&Student::yzbm, "12a", "邮政编码应该是数字，请输入数字 ！     ", "错误提示"},
+      {&Student::jtzz, many(51), "家庭住址一栏不能超过50个字符 ！       ", "操作提示"},
+      {&Student::rxxs, many(21), "入学形式一栏不能超过20个字符 ！       ", "操作提示"},
+      {&Student::rxxs, " ", "入学形式不能为空 ！       ", "操作提示"},
+      {&Student::lxdh, many(21), "固定电话一栏不能超过20个字符 ！       ", "操作提示"},
+      {&Student::zzmm, many(21), "政治面貌一栏不能超过20个字符 ！       ", "操作提示"},
+      {&Student::sjhm, many(21), "手机号码一栏不能超过20个字符 ！       ", "操作提示"},
+      {&Student::sjhm, "12a", "手机号码应该是数字，请输入数字 ！     ", "错误提示"},
+      {&Student::yhkh, "12a", "信用卡号应该是数字，请输入数字 ！     ", "错误提示"},
+      {&Student::sfzhm, many(21), "身份证号码不能超过20个字符 ！       ", "操作提示"},
+      {&Student::mz, many(21), "民族栏不能超过20个字符 ！       ", "操作提示"},
+      {&Student::bjmc, " ", "院校及班级名称不能为空 ！       ", "操作提示"},
+      {&Student::bjmc, many(51), "院校及班级名称不能超过50个字符 ！       ", "操作提示"},
+      {&Student::xm, " ", "姓名不能为空 ！       ", "操作提示"},
+      {&Student::xm, many(21), "姓名不能超过20个字符 ！       ", "操作提示"},
+      {&Student::xh, "12a", "学号应该是数字，请输入数字 ！     ", "错误提示"},
+      {&Student::xh, " ", "学号是学生的唯一标识，您必须设置好学号！       ", "操作提示"},
+      {&Student::xh, many(21), "学号不能超过20个字符 ！       ", "操作提示"},
+  };
+  Student student = complete();
+  EXPECT_FALSE(validate(school.store, student));
+  for (const Fault& fault : faults) {
+    student.*fault.field = fault.text;
+    const auto refusal = validate(school.store, student);
+    ASSERT_TRUE(refusal) << fault.message;
+    EXPECT_EQ(refusal->text, fault.message);
+    EXPECT_EQ(refusal->title, fault.title);
+    EXPECT_EQ(refusal->field, fault.field);
+    EXPECT_FALSE(refusal->wrongLength);
+  }
+}
+
+TEST(StudentRules, LimitsCountCharactersOfTheTrimmedText) {
+  School school;
+  Student student = complete("1");
+  student.xm = "  " + many(20, "王") + "  ";
+  student.bjmc = many(50, "班");
+  student.jtzz = many(50, "路");
+  student.csrq = student.rxrq = " ";
+  EXPECT_FALSE(validate(school.store, student));
+}
+
+TEST(StudentRules, TheFirstNumberInTextOrderGivesTheLength) {
+  School school;
+  school.add("xs", {{"xh", "900"}});
+  school.add("xs", {{"xh", "1000"}});
+  EXPECT_FALSE(validate(school.store, complete("0001")));
+  const auto longer = validate(school.store, complete("100000"));
+  ASSERT_TRUE(longer && longer->wrongLength);
+  EXPECT_EQ(longer->text, "学号多2 位 ！   ");
+  EXPECT_EQ(longer->title, "错误提示");
+  const auto blank = validate(school.store, complete("  "));
+  ASSERT_TRUE(blank && blank->wrongLength);
+  EXPECT_EQ(blank->text, "学号少4 位 ！   ");
+}
+
+TEST(StudentNumbers, AreProposedFromTheLastInTextOrder) {
+  struct Case {
+    std::vector<std::string> numbers;
+    std::string number, proposal;
+  };
+  for (const Case& one : std::vector<Case>{{{}, "20260001010001", ""},
+                                           {{"1009", "1002"}, "1010", "1010"},
+                                           {{"10000", "9"}, "10", "10"},
+                                           {{"0099"}, "100", "100"},
+                                           {{"20260001010001"}, "20260001010002", "20260001010002"},
+                                           {{"90071992547409930"}, "90071992547409900", "90071992547409900"}}) {
+    School school;
+    for (const std::string& xh : one.numbers) school.add("xs", {{"xh", xh}});
+    const NumberProposal numbers = proposeNumber(school.store, {2026, 9, 7});
+    EXPECT_EQ(numbers.number, one.number);
+    EXPECT_EQ(numbers.proposal, one.proposal);
+  }
+}
+
+TEST(StudentNumbers, AClassNumbersItsStudents) {
+  School school;
+  EXPECT_EQ(classPicked(school.store, "会计01001班")->xtbh, "01001001");
+  school.add("xs", {{"bjmc", "会计01001班"}, {"xtbh", "01001002"}});
+  school.add("xs", {{"bjmc", "会计01001班"}, {"xtbh", "01001001"}});
+  const auto next = classPicked(school.store, "会计01001班");
+  EXPECT_EQ(next->xtbh, "1001003");  // the step goes through a number
+  EXPECT_EQ(next->zymc, "会计");
+  EXPECT_FALSE(classPicked(school.store, "没有的班"));
+}
+
+TEST(IdentityNumbers, TellBirthDateAndSex) {
+  const std::string none = "-", warning = "身份证号码位数不正确,请重新输入      ";
+  struct Case {
+    std::string typed, csrq, xb, number, warning;
+  };
+  for (const Case& one : std::vector<Case>{{"130102840101001", "1984-01-01", "男", "130102840101001", ""},
+                                           {"130102040101002", "2004-01-01", "女", "130102040101002", ""},
+                                           {"13010219991399012x", "1999-13-99", "女", "13010219991399012X", ""},
+                                           {"130102199901010134", "1999-01-01", "男", "130102199901010134", ""},
+                                           {"1301021999010101中x", "1999-01-01", "男", "1301021999010101中X", ""},
+                                           {"130102840101001x", none, none, "130102840101001X", warning},
+                                           {"  ", none, none, "  ", ""}}) {
+    const Identity identity = deriveFromIdentity(one.typed);
+    EXPECT_EQ(identity.csrq.value_or(none), one.csrq) << one.typed;
+    EXPECT_EQ(identity.xb.value_or(none), one.xb) << one.typed;
+    EXPECT_EQ(identity.number, one.number);
+    EXPECT_EQ(identity.warning, one.warning);
+  }
+}
+
+TEST(StudentRecords, AreAddedTrimmedAndTyped) {
+  School school;
+  Student student = complete();
+  student.csrq = " ";
+  student.rxrq = "2026/9/1";
+  student.sfzhm = "13010219990101012x";
+  student.sfbz = "1500.5元";
+  student.bz = "    住校 ";
+  ASSERT_FALSE(addStudent(school.desk, student, {}));
+  EXPECT_EQ(school.dump("xs", "xh|xm|csrq|rxrq|sfzhm|sfbz|bz|bsh"),
+            "20260001010001|王小明|2008-9-11|2026-9-1|13010219990101012X|1500.5|住校|2026-9-7 8:30:05\n");
+  EXPECT_EQ(school.photo(), "");  // the program folder holds no stock photo
+
+  const auto again = addStudent(school.desk, student, {});
+  ASSERT_TRUE(again);
+  EXPECT_EQ(again->text, "存在相同的学号！     ");
+  EXPECT_EQ(again->title, "错误提示");
+  EXPECT_EQ(school.count("select * from xs"), 1);
+}
+
+TEST(StudentRecords, AreMarkedByThePanelInFront) {
+  for (const auto& [panel, marker] : std::vector<std::pair<kit::Panel, std::string>>{
+           {kit::Panel::None, "2026-9-7 8:30:05"}, {kit::Panel::Students, "收费一号机"}, {kit::Panel::Arrears, ""}}) {
+    School school;
+    school.session.ConsolePanel = panel;
+    addStudent(school.desk, complete(), {});
+    EXPECT_EQ(school.stored("bsh"), marker);
+  }
+}
+
+TEST(StudentRecords, CarryTheChosenPhotoOrTheStockOne) {
+  School school;
+  school.file("morvaneabc.jpg", "\xFF\xD8\xFF stock");
+  const std::string gif = school.file("a.gif", "GIF89a new");
+  addStudent(school.desk, complete(), {});
+  EXPECT_EQ(school.photo(), "\xFF\xD8\xFF stock");
+  addStudent(school.desk, complete("20260001010002"), {true, gif});
+  EXPECT_EQ(school.photo("20260001010002"), "GIF89a new");
+
+  changeStudent(school.desk, "20260001010002", complete("20260001010002"), {});
+  EXPECT_EQ(school.photo("20260001010002"), "GIF89a new");
+  changeStudent(school.desk, "20260001010002", complete("20260001010002"), {true, ""});
+  EXPECT_EQ(school.photo("20260001010002"), "\xFF\xD8\xFF stock");
+}
+
+TEST(StudentRecords, NothingIsSavedWhenTheChosenPhotoIsNone) {
+  School school;
+  const std::string large = school.file("large.bmp", "BM" + std::string(2 * 1024 * 1024, ' '));
+  const std::string text = school.file("text.jpg", "no picture");
+  for (const std::string& path :
+       {large, text, std::string("/nowhere/照片.jpg"), school.desktop.programFolder().string()}) {
+    try {
+      addStudent(school.desk, complete(), {true, path});
+      ADD_FAILURE() << path << " was taken";
+    } catch (const platform::PlatformError& error) {
+      EXPECT_NE(std::string(error.what()).find(path), std::string::npos) << error.what();
+    }
+  }
+  EXPECT_EQ(school.count("select * from xs"), 0);
+}
+
+TEST(StudentRecords, AKeyChangeReachesTheSixTablesAndNoOther) {
+  School school;
+  school.enrol("20260001010001", "王小明");
+  school.enrol("20260001010002", "李强");
+  Student student = complete("20260001010009");
+  student.bjmc = "会计01001班";
+  student.xtbh = "01001001";
+  ASSERT_FALSE(changeStudent(school.desk, school.number, student, {}));
+  const std::string changed = "20260001010009|王小明|会计01001班|01001001\n";
+  const std::string former = "20260001010001|王小明|计算机11001班|11001001\n";
+  const std::string other = "20260001010002|李强|计算机11001班|11001001\n";
+  for (const std::string_view table : {"cjb", "jfjl", "qfjl", "xxfk", "tjs", "zsgl2"})
+    EXPECT_EQ(school.dump(table, "xh|xm|bjmc|xtbh"), changed + changed + other + other) << table;
+  EXPECT_EQ(school.dump("xs", "xh|xm|bjmc|xtbh"), changed + other);
+  EXPECT_EQ(school.dump("bys_xs", "xh|xm|bjmc|xtbh"), former + former + other + other);
+  EXPECT_EQ(school.stored("bsh", "20260001010009"), "2024-9-2 8:00:00");
+  EXPECT_EQ(school.photo("20260001010009"), "GIF89a old");
+}
+
+TEST(StudentRecords, AChangeOfARecordThatIsGoneIsRefused) {
+  School school;
+  school.enrol("20260001010002", "李强");
+  const auto refusal = changeStudent(school.desk, school.number, complete(), {});
+  ASSERT_TRUE(refusal);
+  EXPECT_EQ(refusal->field, nullptr);
+  EXPECT_EQ(school.dump("xs", "xh"), "20260001010002\n");
+}
+
+TEST(StudentRecords, DeletingTakesAllThatBelongsToTheStudent) {
+  School school;
+  school.enrol("20260001010001", "王小明");
+  school.enrol("20260001010002", "李强");
+  EXPECT_FALSE(deleteStudent(school.store, "20269999999999"));
+  EXPECT_TRUE(deleteStudent(school.store, " 20260001010001 "));
+  for (const std::string_view table : {"cjb", "jfjl", "qfjl", "xxfk", "tjs", "zsgl2"})
+    EXPECT_EQ(school.dump(table, "xh"), "20260001010002\n20260001010002\n") << table;
+  EXPECT_EQ(school.dump("xs", "xh"), "20260001010002\n");
+  EXPECT_EQ(school.count("select * from bys_jfjl"), 4);
+}
+
+TEST(StudentCard, ShowsStudentRoomAndStatus) {
+  School school;
+  EXPECT_FALSE(readStudentCard(school.store, school.number));
+  school.add("xs", {{"xh", school.number},
+                    {"xm", "王小明"},
+                    {"csrq", base::Date{2008, 9, 1}},
+                    {"rxrq", ""},
+                    {"sfbz", base::Money::fen(150050)},
+                    {"xp", toBytes("GIF89a")}});
+  auto card = readStudentCard(school.store, " 20260001010001 ");
+  ASSERT_TRUE(card);
+  EXPECT_EQ(card->csrq + "|" + card->rxrq + "|" + card->sfbz + "|" + card->photo, "2008年9月1日||1500.50|GIF89a");
+  EXPECT_EQ(card->loumc + card->rq, "");
+  EXPECT_EQ(card->status, "在读");
+
+  school.add(
+      "zsgl2",
+      {{"xh", school.number}, {"loumc", "一号楼"}, {"ssbh", "101"}, {"cwh", "3"}, {"rq", base::Date{2026, 9, 2}}});
+  school.add("xxfk", {{"xh", school.number}, {"xxsj", base::Date{2026, 9, 3}}, {"fksj", base::Date{2026, 9, 5}}});
+  card = readStudentCard(school.store, school.number);
+  EXPECT_EQ(card->loumc + "|" + card->ssbh + "|" + card->cwh + "|" + card->rq, "一号楼|101|3|2026年9月2日");
+  EXPECT_EQ(card->status, "在读");  // came back
+  school.add("xxfk", {{"xh", school.number}, {"xxsj", base::Date{2026, 9, 6}}, {"fksj", ""}});
+  EXPECT_EQ(readStudentCard(school.store, school.number)->status, "休学中");
+}
+
+}  // namespace
+}  // namespace students
