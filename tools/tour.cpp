@@ -182,7 +182,7 @@ int main(int argc, char** argv) {
   append(again, {{"Formzct", "次日控制台", [](QWidget& w) {
                     menu(w, "k2");
                   }},
-                 {"Formzct", "学籍总览", [](QWidget& w) { press(w, "students_back"); }}});
+                 {"Formzct/students_back", "学籍总览", [](QWidget& w) { press(w, "students_back"); }}});
   append(again, leave());
   Player next(again, folder, day.pictures());
   app::Office(program).run();

@@ -57,11 +57,14 @@ Player::Player(std::vector<Step> steps, std::string pictures, int numberedFrom)
 QWidget* Player::inFront(const std::string& name) const {
   QWidget* top = QApplication::activeModalWidget();
   if (name == "?") return qobject_cast<QMessageBox*>(top);
-  const QString wanted = QString::fromStdString(name);
-  if (top) return top->objectName() == wanted ? top : nullptr;
-  for (QWidget* window : QApplication::topLevelWidgets())
-    if (window->isVisible() && window->objectName() == wanted) return window;
-  return nullptr;
+  const QStringList wanted = QString::fromStdString(name).split('/');
+  if (!top)
+    for (QWidget* window : QApplication::topLevelWidgets())
+      if (window->isVisible() && window->objectName() == wanted[0]) top = window;
+  if (!top || top->objectName() != wanted[0]) return nullptr;
+  if (wanted.size() == 1) return top;
+  const auto* part = top->findChild<QWidget*>(wanted[1]);
+  return part && part->isVisible() ? top : nullptr;
 }
 
 void Player::tick() {

@@ -9,7 +9,7 @@
 #include <vector>
 
 struct Step {
-  std::string window;                  // name of the window that must stand in front; "?" a message box
+  std::string window;                  // the window that must stand in front; "?" a message box; "a/b": b visible in it
   std::string what;                    // names the picture and the failure
   std::function<void(QWidget&)> act;   // what the person does there; may open further windows
 };
