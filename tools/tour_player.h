@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QObject>
-#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <string>
@@ -17,7 +16,7 @@ struct Step {
 
 class Player : public QObject {
  public:
-  Player(std::vector<Step> steps, std::string pictures);
+  Player(std::vector<Step> steps, std::string pictures, int numberedFrom = 0);
   bool finished() const { return next_ == steps_.size() && failure_.empty(); }
   const std::string& failure() const { return failure_; }
   int pictures() const { return pictureNumber_; }
@@ -31,7 +30,7 @@ class Player : public QObject {
   std::string folder_, failure_;
   std::size_t next_ = 0;
   int waited_ = 0, pictureNumber_ = 0;
-  QTimer timer_;
+  bool acting_ = false;
 };
 
 // What a person does to the member's widget of that name; each throws std::runtime_error when it is not to be had.
@@ -40,6 +39,8 @@ void press(QWidget& window, const char* member);                          // cli
 void key(QWidget& window, int key);                                       // on what has the focus
 void pick(QWidget& window, const char* member, const std::string& choice);
 void chooseRow(QWidget& window, const char* list, int row);
+void chooseOption(QWidget& window, const std::string& caption);            // the option button that begins so
+void setTick(QWidget& window, const char* check, bool on);
 void chooseTab(QWidget& window, const std::string& title);
 void menu(QWidget& window, const char* entry);                            // an entry of the menu bar or a pop-up
 void answer(QWidget& box, const std::string& part, bool yes);             // a message box whose text holds part
