@@ -45,7 +45,8 @@ void paintWrapped(QPainter& painter, const platform::Text& mark, double scale, c
   layout.beginLayout();
   for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
     line.setLineWidth(mark.fit / scale);
-    paintLine(painter, {mark.x, y}, scale, face, text.mid(line.textStart(), line.textLength()).remove(QChar::LineSeparator));
+    paintLine(painter, {mark.x, y}, scale, face,
+              text.mid(line.textStart(), line.textLength()).remove(QChar::LineSeparator));
     y += linePitch * em * scale;
   }
   layout.endLayout();
