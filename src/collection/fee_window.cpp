@@ -17,6 +17,7 @@ Formzctsf4::Formzctsf4(kit::Desk& all) : Screen(all, "Formzctsf4", "收费窗口
   arrearsEntry.enable(false);
   allLines.enable(false);
   totalDue.rightAligned = totalPaid.rightAligned = true;
+  totalDue.prominent = totalPaid.prominent = modeHeading.prominent = true;
 
   for (FeeLine& line : lines) wireLine(line);
   xh.onChange([this] { arrearsEntry.enable(!xh.blank()); });
@@ -47,9 +48,8 @@ void Formzctsf4::load() {
   focusFirst();
 }
 
-// The window opens where the money is: one key ticks all lines, the next confirms. The student's data stand before it
-// in the reading order and are seldom changed. A student without standards starts in the first amount that can be
-// typed.
+// The window opens where the money is: the space bar ticks all lines, Enter takes it. The student's data stand before it
+// in the reading order and are seldom changed. A student without standards starts in the first amount that can be typed.
 void Formzctsf4::focusFirst() {
   const auto first = std::find_if(lines.begin(), lines.end(), [](const FeeLine& line) { return line.hasItem(); });
   if (allLines.enabled())
@@ -58,6 +58,12 @@ void Formzctsf4::focusFirst() {
     first->paid.focus();
   else
     xh.focus();
+}
+
+void Formzctsf4::moveOnFrom(const kit::Member& member) {
+  // With all lines ticked there is nothing left to type.
+  if (&member == &allLines && allLines.on() && confirm.enabled()) confirm.press();
+  else Screen::moveOnFrom(member);
 }
 
 void Formzctsf4::switchMode() {

@@ -13,6 +13,7 @@ class Formzctsf4 : public kit::Screen {  // 收费窗口
   explicit Formzctsf4(kit::Desk& desk);
   void load() override;
   kit::Layout layout() override;
+  void moveOnFrom(const kit::Member& member) override;
 
   kit::Field xh{*this, "xh", "学号"};
   kit::Field xm{*this, "xm", "姓名"};

@@ -27,6 +27,8 @@ Formszsfbz3::Formszsfbz3(kit::Desk& all) : Screen(all, "Formszsfbz3", "收费标
       if (line.sfxmmc.blank()) line.je.clear();
     });
     line.sfxmmc.onPick([&line] { line.je.focus(); });
+    // Enter on an empty line: the lines are done.
+    line.sfxmmc.onEnter([this, &line] { line.sfxmmc.blank() ? confirm.focus() : line.je.focus(); });
   }
   rxxs.onPick([this] { loadForm(); });
   confirm.onPress([this] { save(); });
@@ -45,7 +47,7 @@ void Formszsfbz3::load() {
 
 // What stands for the form; rows beyond the eleventh have no line and go when the form is saved.
 void Formszsfbz3::loadForm() {
-  if (!modifies_) return lines.front().sfxmmc.focus();
+  if (!modifies_) return;
   for (StandardLine& line : lines) line.clear();
   auto standards = rows(Sql("select * from sfbzbrxxs where rxxs='") + rxxs.trimmed() + "'");
   if (standards.empty()) {
@@ -58,7 +60,6 @@ void Formszsfbz3::loadForm() {
     line.je.set(standards.get("je").money().fixed2());
     standards.next();
   }
-  lines.front().sfxmmc.focus();
 }
 
 std::vector<kit::Rule> Formszsfbz3::rules() {

@@ -30,6 +30,7 @@ class Field : public Member {
   std::optional<Colour> colour() const { return colour_; }  // of the text
   void setColour(std::optional<Colour> colour);
   bool rightAligned = false;  // amounts
+  bool prominent = false;     // shown large: a total, what the whole window is about
 
   void onChange(Handler handler) { change_.push_back(std::move(handler)); }
   void onEnter(Handler handler) { enter_.push_back(std::move(handler)); }
@@ -41,7 +42,9 @@ class Field : public Member {
   // The person's side.
   void type(const std::string& text);  // replaces what stands there; focuses first
   void enter();                        // without a handler of its own, moves on to the next field or confirms
+  bool handlesEnter() const { return !enter_.empty(); }
   void drop();
+  void take(const std::string& choice);  // of the list that has dropped
   void pick(const std::string& choice);  // drops the list, then takes the entry
   void click();
   void doubleClick();

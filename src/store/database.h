@@ -44,8 +44,8 @@ class Database {
   Database(const Database&) = delete;
   Database& operator=(const Database&) = delete;
 
-  Engine& engine();  // opens the database when it is not open
-  void close();      // not inside a unit; cursors keep their place and open it again
+  Engine& engine();             // opens the database when it is not open
+  void close();                 // not inside a unit; cursors keep their place and open it again
   void replace(Opener opener);  // another database from now on: cursors of the old one have lost theirs
   int generation() const { return generation_; }
 

@@ -17,10 +17,14 @@ struct Operator {
   std::string_view sign;
   Kind kind;
 };
-constexpr std::array<Operator, 8> comparisons{{{"=", Kind::Equal}, {"<>", Kind::NotEqual},
-                                               {"<", Kind::Less}, {">", Kind::Greater},
-                                               {"<=", Kind::LessEqual}, {"=<", Kind::LessEqual},
-                                               {">=", Kind::GreaterEqual}, {"=>", Kind::GreaterEqual}}};
+constexpr std::array<Operator, 8> comparisons{{{"=", Kind::Equal},
+                                               {"<>", Kind::NotEqual},
+                                               {"<", Kind::Less},
+                                               {">", Kind::Greater},
+                                               {"<=", Kind::LessEqual},
+                                               {"=<", Kind::LessEqual},
+                                               {">=", Kind::GreaterEqual},
+                                               {"=>", Kind::GreaterEqual}}};
 constexpr std::array<Operator, 2> sums{{{"+", Kind::Add}, {"-", Kind::Subtract}}};
 constexpr std::array<Operator, 2> products{{{"*", Kind::Multiply}, {"/", Kind::Divide}}};
 constexpr std::array<Operator, 3> functions{{{"left", Kind::Left}, {"month", Kind::Month}, {"year", Kind::Year}}};
@@ -172,11 +176,16 @@ class Parser {
     }
     const Token token = now();
     switch (token.kind) {
-      case Token::Kind::Text: return ++at_, Expr{Kind::Text, token.text, {}};
-      case Token::Kind::Number: return ++at_, Expr{Kind::Number, token.text, {}};
-      case Token::Kind::Date: return ++at_, Expr{Kind::Date, token.text, {}};
-      case Token::Kind::Word: return word();
-      default: unexpected();
+      case Token::Kind::Text:
+        return ++at_, Expr{Kind::Text, token.text, {}};
+      case Token::Kind::Number:
+        return ++at_, Expr{Kind::Number, token.text, {}};
+      case Token::Kind::Date:
+        return ++at_, Expr{Kind::Date, token.text, {}};
+      case Token::Kind::Word:
+        return word();
+      default:
+        unexpected();
     }
   }
 

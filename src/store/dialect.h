@@ -11,10 +11,30 @@ namespace store::dialect {
 
 struct Expr {
   enum class Kind {
-    Column, Text, Number, Date, YesNo,                                 // text holds the name or the literal
-    Left, Month, Year, Negate, Add, Subtract, Multiply, Divide,        // values
-    Equal, NotEqual, Less, Greater, LessEqual, GreaterEqual, Like,     // conditions over values
-    IsNull, Not, And, Or,                                              // And and Or take any number of parts
+    Column,
+    Text,
+    Number,
+    Date,
+    YesNo,  // text holds the name or the literal
+    Left,
+    Month,
+    Year,
+    Negate,
+    Add,
+    Subtract,
+    Multiply,
+    Divide,  // values
+    Equal,
+    NotEqual,
+    Less,
+    Greater,
+    LessEqual,
+    GreaterEqual,
+    Like,  // conditions over values
+    IsNull,
+    Not,
+    And,
+    Or,  // And and Or take any number of parts
   };
   Kind kind;
   std::string text;

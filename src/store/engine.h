@@ -1,4 +1,5 @@
-// What the store asks of a database engine. Everything above speaks to this; only an engine's own file knows which it is.
+// What the store asks of a database engine. Everything above speaks to this; only an engine's own file knows which it
+// is.
 #pragma once
 
 #include <cstdint>
@@ -25,18 +26,19 @@ class Statement {
   virtual bool isNull(int column) const = 0;
   virtual std::int64_t integer(int column) const = 0;
   virtual double real(int column) const = 0;
-  virtual std::string_view text(int column) const = 0;  // until the next step
+  // Of a text or of bytes, until the next step; data() is null for Null.
+  virtual std::string_view text(int column) const = 0;
 };
 
 // The few things that engines say differently. Arguments are finished pieces of the engine's own language.
 class Phrases {
  public:
   virtual ~Phrases() = default;
-  virtual std::string place(std::size_t index) const = 0;                // of a bound value
-  virtual std::string rowNumber() const = 0;                             // the definition of row_no, never given twice
+  virtual std::string place(std::size_t index) const = 0;  // of a bound value
+  virtual std::string rowNumber() const = 0;               // the definition of row_no, never given twice
   virtual std::string columnType(Type type) const = 0;
   virtual std::string key(const std::string& column, Type type) const = 0;  // what rows are ordered and grouped by
-  virtual std::string folded(const std::string& text) const = 0;         // compares without regard to case
+  virtual std::string folded(const std::string& text) const = 0;            // compares without regard to case
   virtual std::string like(const std::string& text, const std::string& pattern) const = 0;
   virtual std::string shown(const std::string& value, Type type) const = 0;  // as Value::text() shows it
   virtual std::string left(const std::string& text, const std::string& count) const = 0;

@@ -22,8 +22,8 @@ struct Alias {
   std::string_view path;
   Connection same;
 };
-constexpr std::array<Alias, 2> aliases{{{"/mvdata/morvanegxgl.mdb", Connection::Main},
-                                        {"/mvdata/morvanedjpz.mdb", Connection::Config}}};
+constexpr std::array<Alias, 2> aliases{
+    {{"/mvdata/morvanegxgl.mdb", Connection::Main}, {"/mvdata/morvanedjpz.mdb", Connection::Config}}};
 
 std::string withSlashes(std::string_view path) {
   std::string result(path);
@@ -96,7 +96,8 @@ void createWhenNew(const fs::path& programFolder) {
   try {
     create(programFolder);
   } catch (const fs::filesystem_error&) {
-    throw StoreError(Fault::ReadOnly, "不能在“" + programFolder.string() + "”下建立数据库，请检查写入权限和磁盘空间后再试！");
+    throw StoreError(Fault::ReadOnly,
+                     "不能在“" + programFolder.string() + "”下建立数据库，请检查写入权限和磁盘空间后再试！");
   }
 }
 

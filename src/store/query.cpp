@@ -67,8 +67,8 @@ Query plan(const dialect::Select& select, Connection connection, const Phrases& 
   const std::string rows = "select " + columns + source + grouping;
   query.walk = rows + orderText(order, false, query.grouped, phrases);
   query.last = rows + orderText(order, true, query.grouped, phrases) + " limit 1";
-  query.count = query.grouped ? "select count(*) from (select 1" + source + grouping + ") as groups"
-                              : "select count(*)" + source;
+  query.count =
+      query.grouped ? "select count(*) from (select 1" + source + grouping + ") as groups" : "select count(*)" + source;
   query.any = "select 1" + source + " limit 1";
   return query;
 }

@@ -19,7 +19,8 @@ struct Query {
   std::string walk, last, count, any;
 };
 
-// Raises Fault::NoSuchColumn for a name that the catalogue does not know, Fault::Statement for what does not fit together.
+// Raises Fault::NoSuchColumn for a name that the catalogue does not know, Fault::Statement for what does not fit
+// together.
 Query plan(const dialect::Select& select, Connection connection, const Phrases& phrases);
 
 // The statements behind the writes and single reads of a set; values in the order of the columns, row_no last.

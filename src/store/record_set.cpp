@@ -67,6 +67,7 @@ struct RecordSet::State {
       values.push_back(cell(change.value));
     }
     if (editing == Editing::NewRow) {
+      at.drop();  // nothing comes behind a new row
       at.database().write(table, insertStatement(table, columns, phrases), values);
       at.standOn(at.database().engine().lastRowNo());
     } else if (!changes.empty()) {
@@ -78,8 +79,7 @@ struct RecordSet::State {
   }
 };
 
-RecordSet::RecordSet(Store& store, Connection connection)
-    : state_(std::make_unique<State>(store, connection)) {}
+RecordSet::RecordSet(Store& store, Connection connection) : state_(std::make_unique<State>(store, connection)) {}
 RecordSet::RecordSet(Store& store, const Sql& sql, Connection connection) : RecordSet(store, connection) { open(sql); }
 RecordSet::~RecordSet() = default;
 RecordSet::RecordSet(RecordSet&&) noexcept = default;

@@ -1,9 +1,9 @@
 // A record set: what every screen reads and writes through, and nothing else does.
 //
 // Opened by statement text (select only: one table, columns or *, where, group by, order by). It is lazy: open plans,
-// count() counts, last() of an ordered set reads one row, a walk streams; a walk during which rows are written or deleted,
-// through this set or another, keeps its own place and its own rows. Equal rows of an order come in the order in which
-// they were stored. Every operation raises StoreError.
+// count() counts, last() of an ordered set reads one row, a walk streams; a walk during which rows are written or
+// deleted, through this set or another, keeps its own place and its own rows. Equal rows of an order come in the order
+// in which they were stored. Every operation raises StoreError.
 #pragma once
 
 #include <memory>
@@ -26,20 +26,20 @@ class RecordSet {
   RecordSet& operator=(RecordSet&&) noexcept;
 
   void bind(Connection connection);
-  void open(const Sql& sql);   // the current row is the first row
-  void refresh();              // runs the text again
-  long long count();           // exact
-  bool empty();                // no row at all; cheaper than count()
+  void open(const Sql& sql);  // the current row is the first row
+  void refresh();             // runs the text again
+  long long count();          // exact
+  bool empty();               // no row at all; cheaper than count()
   void first();
   void last();
   void next();
-  bool atEnd();                // past the last row, or no rows
-  bool atStart();              // before the first row: only in a set without rows
+  bool atEnd();    // past the last row, or no rows
+  bool atStart();  // before the first row: only in a set without rows
   Value get(std::string_view column);
   void set(std::string_view column, Value value);  // of the current row, in memory until update()
-  void addNew();               // a new row in memory; columns not set stay Null
-  void update();               // writes the row; it stays current. Nothing to write: does nothing
-  void remove();               // deletes the current row; update() behind it does nothing, next() goes on
+  void addNew();                                   // a new row in memory; columns not set stay Null
+  void update();                                   // writes the row; it stays current. Nothing to write: does nothing
+  void remove();  // deletes the current row; update() behind it does nothing, next() goes on
   std::vector<std::string> fields();
 
  private:
@@ -48,7 +48,8 @@ class RecordSet {
 };
 
 // The idiom of every list: visits each row from the first, with the set at that row.
-template <class Visit> void forEach(RecordSet& set, Visit visit) {
+template <class Visit>
+void forEach(RecordSet& set, Visit visit) {
   if (set.empty()) return;
   for (set.first(); !set.atEnd(); set.next()) visit(set);
 }

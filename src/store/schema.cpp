@@ -21,11 +21,24 @@ struct Step {
 void addSettings(Engine& engine, Connection connection) {
   if (connection != Connection::Config) return;
   const Table& table = *findTable("morvanedjpzb");
-  const std::vector<std::pair<std::string_view, Value>> settings{
-      {"fn", "kqd"},       {"tupan", 1},     {"dysz", 1},    {"sfctsz", 0},  {"sfxmmcsz", 1}, {"sfxmmc", ""},
-      {"qfmr", true},      {"jfjljz", true}, {"dybzok", true}, {"fpys", 1},
-      {"todamc1", "江西省学校收费专用收据"},     {"zdqh", true},    {"qfjz", ""},  {"qfts", 7},
-      {"qfcejz", false},   {"bjsf1", true},  {"xssf", 0},    {"tspz", "1"}};
+  const std::vector<std::pair<std::string_view, Value>> settings{{"fn", "kqd"},
+                                                                 {"tupan", 1},
+                                                                 {"dysz", 1},
+                                                                 {"sfctsz", 0},
+                                                                 {"sfxmmcsz", 1},
+                                                                 {"sfxmmc", ""},
+                                                                 {"qfmr", true},
+                                                                 {"jfjljz", true},
+                                                                 {"dybzok", true},
+                                                                 {"fpys", 1},
+                                                                 {"todamc1", "江西省学校收费专用收据"},
+                                                                 {"zdqh", true},
+                                                                 {"qfjz", ""},
+                                                                 {"qfts", 7},
+                                                                 {"qfcejz", false},
+                                                                 {"bjsf1", true},
+                                                                 {"xssf", 0},
+                                                                 {"tspz", "1"}};
   std::vector<const Column*> columns;
   for (const auto& [name, value] : settings) columns.push_back(table.find(name));
   const auto insert = engine.prepare(insertStatement(table, columns, engine.phrases()));

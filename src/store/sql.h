@@ -2,9 +2,9 @@
 //
 //   Sql("select * from xs where bjmc='") + className + "' order by xh"
 //
-// Only a literal of the source can become statement text; a std::string (or a Value, a number, a date, Money) enters as a
-// value, whatever it holds. A value that holds the sign that would end its place (a ' in a quoted text, a # in a date)
-// makes the statement fail when it is opened; it never becomes part of the statement.
+// Only a literal of the source can become statement text; a std::string (or a Value, a number, a date, Money) enters as
+// a value, whatever it holds. A value that holds the sign that would end its place (a ' in a quoted text, a # in a
+// date) makes the statement fail when it is opened; it never becomes part of the statement.
 #pragma once
 
 #include <cstddef>
@@ -20,13 +20,22 @@ namespace store {
 class Sql {
  public:
   Sql() = default;
-  template <std::size_t N> Sql(const char (&literal)[N]) : text_(literal, N - 1) {}
+  template <std::size_t N>
+  Sql(const char (&literal)[N]) : text_(literal, N - 1) {}
 
-  template <std::size_t N> Sql& operator+=(const char (&literal)[N]) { text_.append(literal, N - 1); return *this; }
+  template <std::size_t N>
+  Sql& operator+=(const char (&literal)[N]) {
+    text_.append(literal, N - 1);
+    return *this;
+  }
   Sql& operator+=(const Sql& other);
   Sql& operator+=(const std::string& value);
   Sql& operator+=(const Value& value);
-  template <class T> friend Sql operator+(Sql left, const T& right) { left += right; return left; }
+  template <class T>
+  friend Sql operator+(Sql left, const T& right) {
+    left += right;
+    return left;
+  }
 
   // "select * from " + a table of the catalogue, with an optional order: for code that is told its table as data.
   static Sql table(std::string_view table, std::string_view order = "") {

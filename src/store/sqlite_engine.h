@@ -14,9 +14,9 @@ struct sqlite3;
 namespace store {
 
 struct SqliteFile {
-  std::filesystem::path path;  // empty: in memory
-  std::string password;        // empty: not encrypted
-  bool create = false;         // else a missing file is Fault::Missing
+  std::filesystem::path path;                 // empty: in memory
+  std::string password;                       // empty: not encrypted
+  bool create = false;                        // else a missing file is Fault::Missing
   std::chrono::milliseconds patience{10000};  // how long to wait for another computer
 };
 

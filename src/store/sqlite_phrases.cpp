@@ -15,12 +15,17 @@ class SqlitePhrases final : public Phrases {
   std::string rowNumber() const override { return "integer primary key autoincrement"; }
   std::string columnType(Type type) const override {
     switch (type) {
-      case Type::Text: return "text collate nocase";
-      case Type::Number: return "numeric";
+      case Type::Text:
+        return "text collate nocase";
+      case Type::Number:
+        return "numeric";
       case Type::Money:
-      case Type::YesNo: return "integer";
-      case Type::Bytes: return "blob";
-      default: return "text";
+      case Type::YesNo:
+        return "integer";
+      case Type::Bytes:
+        return "blob";
+      default:
+        return "text";
     }
   }
   std::string key(const std::string& column, Type) const override { return column; }
@@ -30,11 +35,15 @@ class SqlitePhrases final : public Phrases {
   }
   std::string shown(const std::string& value, Type type) const override {
     switch (type) {
-      case Type::Money: return call("shown_money", value);
+      case Type::Money:
+        return call("shown_money", value);
       case Type::Date:
-      case Type::DateTime: return call("shown_moment", value);
-      case Type::YesNo: return "(case " + value + " when 0 then 'False' when 1 then 'True' end)";
-      default: return "cast(" + value + " as text)";
+      case Type::DateTime:
+        return call("shown_moment", value);
+      case Type::YesNo:
+        return "(case " + value + " when 0 then 'False' when 1 then 'True' end)";
+      default:
+        return "cast(" + value + " as text)";
     }
   }
   std::string left(const std::string& text, const std::string& count) const override {

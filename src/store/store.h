@@ -31,7 +31,8 @@ class Store {
   Store(const Store&) = delete;
   Store& operator=(const Store&) = delete;
 
-  // Points a connection at the database that the text names; opened at its first use. Raises StoreError then, never here.
+  // Points a connection at the database that the text names; opened at its first use. Raises StoreError then, never
+  // here.
   void connect(Connection which, const std::string& connectionText);
   Database& database(Connection which);  // opens it when it is not open yet
   void close();
@@ -51,13 +52,13 @@ class Store {
 };
 
 // A unit of work: the writes of one action reach the disk together, under the store's write lock, taken at once. When a
-// statement inside is refused, what went before it stays (the screens expect that); when the machine dies inside, nothing
-// of it remains. A unit inside a unit joins it. Never open one across a question to the person.
+// statement inside is refused, what went before it stays (the screens expect that); when the machine dies inside,
+// nothing of it remains. A unit inside a unit joins it. Never open one across a question to the person.
 class Unit {
  public:
   explicit Unit(Store& store, Connection which = Connection::Main);
-  ~Unit();          // writes what has been done, when finish() was not reached because a statement was refused
-  void finish();    // reaches the disk, or raises StoreError: then nothing of it remains
+  ~Unit();        // writes what has been done, when finish() was not reached because a statement was refused
+  void finish();  // reaches the disk, or raises StoreError: then nothing of it remains
   static bool openIn(const Store& store);
 
  private:

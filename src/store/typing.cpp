@@ -11,8 +11,8 @@ namespace {
 constexpr double moneyLimit = 9.0e14;  // what fits into tenths of a fen
 
 // What a column type takes, and the words for its absence.
-template <class T> Value orRefuse(const std::optional<T>& value, const Value& given, const Column& column,
-                                  std::string_view wanted) {
+template <class T>
+Value orRefuse(const std::optional<T>& value, const Value& given, const Column& column, std::string_view wanted) {
   if (value) return *value;
   throw StoreError(Fault::Statement, "“" + std::string(column.name) + "”一栏的内容“" + base::left(given.text(), 20) +
                                          "”不是" + std::string(wanted) + "，请改正后再试！");
@@ -76,6 +76,11 @@ Bytes bytesOf(std::string_view raw) {
   return {all.begin(), all.end()};
 }
 
+template <class Convert>
+Value textual(std::string_view text, Convert convert) {
+  return text.data() ? Value(convert(text)) : Value();
+}
+
 }  // namespace
 
 std::optional<double> numberIn(std::string_view text) {
@@ -111,13 +116,20 @@ Value typed(const Value& value, const Column& column) {
   if (blank && !keepsEmpty) return {};
   if (blank && column.type != Type::Text) return "";
   switch (column.type) {
-    case Type::Text: return base::validUtf8(text ? *text : value.text());
-    case Type::Number: return orRefuse(numberFor(value), value, column, "数字");
-    case Type::Money: return orRefuse(moneyFor(value), value, column, "金额");
-    case Type::Date: return orRefuse(value.date(), value, column, "日期");
-    case Type::DateTime: return orRefuse(value.moment(), value, column, "日期和时间");
-    case Type::YesNo: return orRefuse(yesFor(value), value, column, "“是”或“否”");
-    case Type::Bytes: return orRefuse(bytesFor(value), value, column, "图片等数据");
+    case Type::Text:
+      return base::validUtf8(text ? *text : value.text());
+    case Type::Number:
+      return orRefuse(numberFor(value), value, column, "数字");
+    case Type::Money:
+      return orRefuse(moneyFor(value), value, column, "金额");
+    case Type::Date:
+      return orRefuse(value.date(), value, column, "日期");
+    case Type::DateTime:
+      return orRefuse(value.moment(), value, column, "日期和时间");
+    case Type::YesNo:
+      return orRefuse(yesFor(value), value, column, "“是”或“否”");
+    case Type::Bytes:
+      return orRefuse(bytesFor(value), value, column, "图片等数据");
   }
   return {};
 }
@@ -134,17 +146,27 @@ Cell cell(const Value& value) {
 }
 
 Value read(const Statement& statement, int column, Type type) {
+  switch (type) {
+    case Type::Text:
+      return textual(statement.text(column), [](std::string_view text) { return Value(text); });
+    case Type::Date:
+      return textual(statement.text(column), dateValue);
+    case Type::DateTime:
+      return textual(statement.text(column), momentValue);
+    case Type::Bytes:
+      return textual(statement.text(column), bytesOf);
+    default:
+      break;
+  }
   if (statement.isNull(column)) return {};
   switch (type) {
-    case Type::Text: return statement.text(column);
-    case Type::Number: return statement.real(column);
-    case Type::Money: return base::Money::ofUnits(statement.integer(column));
-    case Type::Date: return dateValue(statement.text(column));
-    case Type::DateTime: return momentValue(statement.text(column));
-    case Type::YesNo: return statement.integer(column) != 0;
-    case Type::Bytes: return bytesOf(statement.text(column));
+    case Type::Number:
+      return statement.real(column);
+    case Type::Money:
+      return base::Money::ofUnits(statement.integer(column));
+    default:
+      return statement.integer(column) != 0;
   }
-  return {};
 }
 
 }  // namespace store

@@ -9,8 +9,8 @@
 
 namespace store {
 
-// The value as the column holds it: "2008-9-1" becomes a date. Raises Fault::Statement, naming the column, for what does
-// not fit. Null stays Null; the empty text stays in text and date columns and is Null in all others.
+// The value as the column holds it: "2008-9-1" becomes a date. Raises Fault::Statement, naming the column, for what
+// does not fit. Null stays Null; the empty text stays in text and date columns and is Null in all others.
 Value typed(const Value& value, const Column& column);
 
 Cell cell(const Value& typed);

@@ -80,7 +80,8 @@ bool Wait::again(int round) {
     if (onWait_) onWait_(true);
   }
   const int longest = std::min(longestPause, shortestPause + 2 * (round + 1));
-  std::this_thread::sleep_for(std::chrono::milliseconds(std::uniform_int_distribution(shortestPause, longest)(random_)));
+  std::this_thread::sleep_for(
+      std::chrono::milliseconds(std::uniform_int_distribution(shortestPause, longest)(random_)));
   return true;
 }
 

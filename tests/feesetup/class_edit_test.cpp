@@ -41,19 +41,12 @@ TEST(MajorEdit, ProposesElevenFirstAndThenTheLastCodePlusOne) {
 TEST(MajorEdit, RefusesInOrder) {
   EditDesk desk;
   auto s = desk.adding<Formszzymc>();
-  const struct {
-    std::string code, name, message;
-  } cases[] = {{"123456", times(31, "专"), "专业编号不能大于五个字符 ！　　"},
-               {"x", times(31, "专"), "专业名称不能大于30个字符 ！　　"},
-               {"x", "  ", "专业编号与专业名称均不能为空 ！　　"},
-               {" ", "专", "专业编号与专业名称均不能为空 ！　　"},
-               {"x", times(30, "专"), "请输入数字 ！     "}};
-  for (const auto& one : cases) {
-    s->zybh.type(one.code);
-    s->zymc.type(one.name);
-    desk.refused(one.message);
-    s->confirm.press();
-  }
+  desk.refuses(s->confirm, {&s->zybh, &s->zymc},
+               {{"123456", times(31, "专"), "专业编号不能大于五个字符 ！　　"},
+                {"x", times(31, "专"), "专业名称不能大于30个字符 ！　　"},
+                {"x", "  ", "专业编号与专业名称均不能为空 ！　　"},
+                {" ", "专", "专业编号与专业名称均不能为空 ！　　"},
+                {"x", times(30, "专"), "请输入数字 ！     "}});
   EXPECT_EQ(desk.dump("zymcb", "zymc"), "");
 }
 
@@ -113,22 +106,13 @@ TEST(ClassEdit, RefusesInOrderAndARepeatedNameOnAdding) {
   ClassDesk desk;
   auto s = desk.adding<Formszbjzl>();
   const std::string many = times(51, "长");
-  const struct {
-    std::string major, code, name, teacher, message;
-  } cases[] = {{many, "12345678901", many, many, "专业名称不能大于30个字符 ！　　"},
-               {"会计", "12345678901", many, many, "班级代号不能大于10个字符 ！　　"},
-               {"会计", "x", many, many, "班级名称不能大于50个字符 ！　　"},
-               {"会计", "x", "", many, "教师姓名不能大于20个字符 ！　　"},
-               {"会计", "x", " ", "", "专业名称、班级代号及班级名称三项不能为空 ！　　"},
-               {"会计", "x", "丙班", "", "班级代号应该是数字 ！     "}};
-  for (const auto& one : cases) {
-    s->zymc.set(one.major);
-    s->bjdh.type(one.code);
-    s->bjmc.type(one.name);
-    s->jsxm.type(one.teacher);
-    desk.refused(one.message);
-    s->confirm.press();
-  }
+  desk.refuses(s->confirm, {&s->zymc, &s->bjdh, &s->bjmc, &s->jsxm},
+               {{many, "12345678901", many, many, "专业名称不能大于30个字符 ！　　"},
+                {"会计", "12345678901", many, many, "班级代号不能大于10个字符 ！　　"},
+                {"会计", "x", many, many, "班级名称不能大于50个字符 ！　　"},
+                {"会计", "x", "", many, "教师姓名不能大于20个字符 ！　　"},
+                {"会计", "x", " ", "", "专业名称、班级代号及班级名称三项不能为空 ！　　"},
+                {"会计", "x", "丙班", "", "班级代号应该是数字 ！     "}});
   s->bjdh.type("12001");
   s->bjmc.type("甲班");
   desk.told("系统中已存在相同的班级名称 ！     ");

@@ -25,6 +25,15 @@ struct EditDesk : TestDesk {
   }
   void told(const std::string& text) { person.expect(kit::Box::Information, text, "信息提示"); }
   void refused(const std::string& text) { person.expect(kit::Box::Stop, text, "错误提示"); }
+  // Each case is a text for each field and the message that the confirm button then gives.
+  void refuses(kit::Action& confirm, const std::vector<kit::Field*>& fields,
+               const std::vector<std::vector<std::string>>& cases) {
+    for (const auto& texts : cases) {
+      for (std::size_t i = 0; i < fields.size(); ++i) fields[i]->set(texts[i]);
+      refused(texts.back());
+      confirm.press();
+    }
+  }
 };
 
 inline std::string times(int count, const std::string& text) {

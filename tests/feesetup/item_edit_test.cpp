@@ -44,22 +44,16 @@ TEST(FeeItemEdit, ProposesTheLastStoredCodePlusOne) {
 }
 
 TEST(FeeItemEdit, RefusesInOrderWhateverTheMode) {
-  const struct {
-    std::string code, name, message;
-  } cases[] = {{"1011", times(31, "费"), "收费项目编号为3个字符,您让它默认就可以 ！　　"},
-               {"", "", "收费项目编号为3个字符,您让它默认就可以 ！　　"},
-               {"abc", times(31, "费"), "收费项目名称不能大于30个字符 ！　　"},
-               {"abc", " ", "收费项目编号与收费项目名称均不能为空 ！　　"},
-               {"abc", "杂费", "请输入数字 ！     "}};
+  const std::vector<std::vector<std::string>> cases{
+      {"1011", times(31, "费"), "收费项目编号为3个字符,您让它默认就可以 ！　　"},
+      {"", "", "收费项目编号为3个字符,您让它默认就可以 ！　　"},
+      {"abc", times(31, "费"), "收费项目名称不能大于30个字符 ！　　"},
+      {"abc", " ", "收费项目编号与收费项目名称均不能为空 ！　　"},
+      {"abc", "杂费", "请输入数字 ！     "}};
   for (const Mode mode : {Mode::Add, Mode::Modify}) {
     ItemDesk desk;
     auto s = desk.atTuition(mode);
-    for (const auto& one : cases) {
-      s->sfxmbh.type(one.code);
-      s->sfxmmc.type(one.name);
-      desk.refused(one.message);
-      s->confirm.press();
-    }
+    desk.refuses(s->confirm, {&s->sfxmbh, &s->sfxmmc}, cases);
   }
 }
 

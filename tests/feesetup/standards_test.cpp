@@ -46,23 +46,14 @@ TEST(ClassStandards, RefusesInOrder) {
   EXPECT_FALSE(s->selection.visible());
   s->scope.choose(2);
   const std::string many = times(31, "长");
-  const struct {
-    std::string xq, item, amount, selection, message;
-  } cases[] = {{many, many, "", many, "学年学期不能大于30个字符 ！　　"},
-               {term, many, "", many, "班级代号不能大于30个字符 ！　　"},
-               {term, "", "", many, "班级名称不能大于30个字符 ！　　"},
-               {term, "学费", "", "", "学年学期、收费项目及收费金额不能为空 ！　　"},
-               {term, "学费", "x", " ", "请选择一个专业或班级 ！　　"},
-               {term, "学费", "x", "甲班", "收费金额应该是数字 ！     "},
-               {term, "学费", "99999999999999999999", "甲班", "收费金额应该是数字 ！     "}};
-  for (const auto& one : cases) {
-    s->xq.type(one.xq);
-    s->sfxmmc.set(one.item);
-    s->je.type(one.amount);
-    s->selection.type(one.selection);
-    desk.refused(one.message);
-    s->confirm.press();
-  }
+  desk.refuses(s->confirm, {&s->xq, &s->sfxmmc, &s->je, &s->selection},
+               {{many, many, "", many, "学年学期不能大于30个字符 ！　　"},
+                {term, many, "", many, "班级代号不能大于30个字符 ！　　"},
+                {term, "", "", many, "班级名称不能大于30个字符 ！　　"},
+                {term, "学费", "", "", "学年学期、收费项目及收费金额不能为空 ！　　"},
+                {term, "学费", "x", " ", "请选择一个专业或班级 ！　　"},
+                {term, "学费", "x", "甲班", "收费金额应该是数字 ！     "},
+                {term, "学费", "99999999999999999999", "甲班", "收费金额应该是数字 ！     "}});
   EXPECT_EQ(desk.standards(), "");
 }
 
@@ -253,6 +244,10 @@ TEST(FormStandards, RefusesInOrder) {
   s->lines[10].sfxmmc.type("书费");
   s->lines[10].sfxmmc.type("");
   EXPECT_EQ(s->lines[10].je.text(), "") << "goes with its item";
+  s->lines[0].sfxmmc.enter();
+  EXPECT_EQ(s->focused, &s->lines[0].je);
+  s->lines[1].sfxmmc.enter();
+  EXPECT_EQ(s->focused, &s->confirm) << "an empty line ends the entry";
 }
 
 TEST(FormStandards, ReplacesAFormAsAWholeWithoutAsking) {

@@ -22,8 +22,7 @@ void Conformance::step() {
   if (GetParam().reopens) store_->close();
 }
 
-void Conformance::add(Sql table, const std::vector<std::string>& columns,
-                      const std::vector<std::vector<Value>>& rows) {
+void Conformance::add(Sql table, const std::vector<std::string>& columns, const std::vector<std::vector<Value>>& rows) {
   RecordSet set(*store_, Sql("select * from ") + table);
   Unit unit(*store_);
   for (const auto& row : rows) {

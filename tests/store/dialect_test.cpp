@@ -92,14 +92,22 @@ TEST_P(Dialect, ConditionsOverMoments) {
        {"c", base::DateTime{{2008, 8, 2}, 0, 0, 1}, "2008-8-2 8:00:00"},
        {"d", "", Value()}});
   const std::vector<Case> cases{
-      {"kjsj='2008-8-1 9:05:03'", {"a"}},  {"kjsj='2008-08-01 09:05:03'", {"a"}},
-      {"kjsj='2008-8-1'", {"b"}},          {"kjsj=#2008-8-1#", {"a", "b"}},
-      {"kjsj<>#2008-8-1#", {"c"}},         {"kjsj>#2008-8-1#", {"c"}},
-      {"kjsj<=#2008-8-1#", {"a", "b"}},    {"kjsj<#2008-8-2#", {"a", "b"}},
-      {"kjsj>=#2008-8-2#", {"c"}},         {"kjsj=#2008-8-1 23:00:00#", {"a", "b"}},
-      {"gjsj=''", {"a"}},                  {"kjsj like '2008-8-1%'", {"a", "b"}},
-      {"kjsj like '%9:05:03'", {"a"}},     {"month(gjsj)='8' and gjsj>=#2008-8-2#", {"c"}},
-      {"kjsj<'2008-8-1 9:05:03'", {"b"}},  {"gjsj is null", {"d"}},
+      {"kjsj='2008-8-1 9:05:03'", {"a"}},
+      {"kjsj='2008-08-01 09:05:03'", {"a"}},
+      {"kjsj='2008-8-1'", {"b"}},
+      {"kjsj=#2008-8-1#", {"a", "b"}},
+      {"kjsj<>#2008-8-1#", {"c"}},
+      {"kjsj>#2008-8-1#", {"c"}},
+      {"kjsj<=#2008-8-1#", {"a", "b"}},
+      {"kjsj<#2008-8-2#", {"a", "b"}},
+      {"kjsj>=#2008-8-2#", {"c"}},
+      {"kjsj=#2008-8-1 23:00:00#", {"a", "b"}},
+      {"gjsj=''", {"a"}},
+      {"kjsj like '2008-8-1%'", {"a", "b"}},
+      {"kjsj like '%9:05:03'", {"a"}},
+      {"month(gjsj)='8' and gjsj>=#2008-8-2#", {"c"}},
+      {"kjsj<'2008-8-1 9:05:03'", {"b"}},
+      {"gjsj is null", {"d"}},
   };
   for (const Case& expected : cases) {
     const Sql sql = Sql("select yhxm from czjl where ") + expected.where;
@@ -109,11 +117,11 @@ TEST_P(Dialect, ConditionsOverMoments) {
 
 TEST_P(Dialect, ConditionsOverSettings) {
   const std::vector<std::pair<Sql, bool>> cases{
-      {"fn='KQD'", true},       {"qfmr=true", true},    {"qfmr=1", true},       {"qfmr=-1", true},
-      {"qfmr='True'", true},    {"qfmr", true},         {"not qfmr", false},    {"qfcejz=true", false},
-      {"qfcejz=0", true},       {"qfmr<>false", true},  {"qfts='7'", true},     {"qfts='07'", true},
-      {"qfts=7.0", true},       {"qfts>10", false},     {"qfts like '7%'", true}, {"qfts<>''", true},
-      {"qfts='seven'", false},  {"tspz=1", true},       {"qfts/2=3.5", true},   {"qfts/xssf=1", false},
+      {"fn='KQD'", true},      {"qfmr=true", true},   {"qfmr=1", true},         {"qfmr=-1", true},
+      {"qfmr='True'", true},   {"qfmr", true},        {"not qfmr", false},      {"qfcejz=true", false},
+      {"qfcejz=0", true},      {"qfmr<>false", true}, {"qfts='7'", true},       {"qfts='07'", true},
+      {"qfts=7.0", true},      {"qfts>10", false},    {"qfts like '7%'", true}, {"qfts<>''", true},
+      {"qfts='seven'", false}, {"tspz=1", true},      {"qfts/2=3.5", true},     {"qfts/xssf=1", false},
   };
   for (const auto& [where, expected] : cases) {
     RecordSet set(*store_, Sql("select * from morvanedjpzb where ") + where, Connection::Config);
@@ -178,7 +186,8 @@ TEST_P(Dialect, RefusesWithWords) {
 
 TEST_P(Dialect, ValuesStayInTheirPlaces) {
   const std::string odd = std::string("a\x01\t\n\0b", 6);
-  const std::vector<std::string> harmless{"100%", "a\"b", "a;--", "😀学生", odd, "\\", "#", std::string(10000, 'x'), " a "};
+  const std::vector<std::string> harmless{"100%", "a\"b", "a;--", "😀学生", odd, "\\", "#", std::string(10000, 'x'),
+                                          " a "};
   std::vector<std::vector<Value>> students;
   for (const std::string& name : harmless) students.push_back({name});
   students.push_back({"last"});
@@ -211,9 +220,11 @@ TEST_P(Dialect, ValuesStayInTheirPlaces) {
 // Whatever words stand in a row: an answer or a StoreError, never anything else.
 TEST(DialectSoup, NeverCrashes) {
   const std::vector<std::string> words{
-      "select ", "* ", "from ", "xs ", "jfjl ", "where ", "and ", "or ", "not ", "( ", ") ", ", ", "= ", "<> ", "<= ", "=> ",
-      "+ ", "- ", "* ", "/ ", "like ", "is ", "null ", "'a%' ", "'' ", "'12' ", "3 ", "0.5 ", "#2008-1-1# ", "#x# ", "true ",
-      "xm ", "je ", "xm='a' ", "and je>3 ", "jfrq ", "xh ", "left(", "month(", "year(", "group ", "by ", "order ", "desc ", "' ", "# ", "! ", "名 "};
+      "select ", "* ",  "from ",  "xs ",     "jfjl ",     "where ", "and ", "or ",   "not ",        "( ",
+      ") ",      ", ",  "= ",     "<> ",     "<= ",       "=> ",    "+ ",   "- ",    "* ",          "/ ",
+      "like ",   "is ", "null ",  "'a%' ",   "'' ",       "'12' ",  "3 ",   "0.5 ",  "#2008-1-1# ", "#x# ",
+      "true ",   "xm ", "je ",    "xm='a' ", "and je>3 ", "jfrq ",  "xh ",  "left(", "month(",      "year(",
+      "group ",  "by ", "order ", "desc ",   "' ",        "# ",     "! ",   "名 "};
   Store store;
   std::minstd_rand random(7);
   int answered = 0;

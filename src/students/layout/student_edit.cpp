@@ -7,9 +7,10 @@ kit::Layout Formzctxs::layout() {
   return {.root = column({
               row({
                   column({
-                      group("基本资料", {form({xh, xm, xb, spanning(bjmc, 2), mz, csrq, sfzhm, rxrq}, 3)}),
-                      group("联系与收费",
-                            {form({zzmm, lxdh, sjhm, rxxs, sfbz, spanning(jtzz, 3), yzbm, eml, byxx, yhkh, zymc}, 3)}),
+                      group("基本资料", {form({wide(xh, 16), wide(xm, 16), xb, bjmc, mz, csrq, sfzhm, rxrq}, 2)}),
+                      group("联系与收费", {form({wide(zzmm, 16), wide(lxdh, 16), sjhm, rxxs, sfbz, jtzz, yzbm, eml,
+                                                 byxx, yhkh, spanning(zymc, 2)},
+                                                2)}),
                   }),
                   group("照片", {column({xp, choosePhoto, stretch()})}),
               }),

@@ -1,0 +1,155 @@
+// Several computers at one store, and computers that die while they write.
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <map>
+#include <random>
+#include <thread>
+
+#include "store/configurations.h"
+#include "store/sqlite_engine.h"
+
+namespace store {
+namespace {
+
+using namespace std::chrono_literals;
+
+struct Receipt {  // what a writer reports once it is saved
+  long long number;
+  int lines;
+};
+
+// Saves receipts as the fee window does: the number comes from the last row, inside the unit.
+Receipt save(Store& store, int lines) {
+  Unit unit(store);
+  RecordSet last(store, "select * from jfjl order by lsh");
+  last.last();
+  const long long number = last.atEnd() ? 1000000001 : static_cast<long long>(last.get("lsh").number()) + 1;
+  RecordSet set(store, "select * from jfjl");
+  for (int line = 0; line < lines; ++line) {
+    set.addNew();
+    set.set("lsh", std::to_string(number));
+    set.set("fpbh", std::to_string(number));
+    set.set("bz", lines);
+    set.update();
+  }
+  unit.finish();
+  return {number, lines};
+}
+
+// A computer of its own: writes until it is killed or its time is over, and reports each receipt through a pipe.
+class Computer {
+ public:
+  Computer(const std::filesystem::path& folder, std::chrono::milliseconds time, unsigned seed) {
+    int ends[2];
+    if (pipe(ends) != 0) throw std::runtime_error("no pipe");
+    process_ = fork();
+    if (process_ == 0) run(folder, time, seed, ends[1]);
+    ::close(ends[1]);
+    reports_ = ends[0];
+  }
+  ~Computer() { ::close(reports_); }
+  Computer(const Computer&) = delete;
+  Computer& operator=(const Computer&) = delete;
+
+  void awaitReport() {
+    pollfd until{reports_, POLLIN, 0};
+    ::poll(&until, 1, 10000);
+  }
+  void die() { kill(process_, SIGKILL); }
+  std::vector<Receipt> reports() {  // waits for its end
+    std::vector<Receipt> result;
+    Receipt receipt{};
+    while (read(reports_, &receipt, sizeof receipt) == sizeof receipt) result.push_back(receipt);
+    int status = 0;
+    waitpid(process_, &status, 0);
+    EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
+    return result;
+  }
+
+ private:
+  [[noreturn]] static void run(const std::filesystem::path& folder, std::chrono::milliseconds time, unsigned seed,
+                               int to) {
+    try {
+      Store store(folder);
+      std::minstd_rand random(seed);
+      const auto end = std::chrono::steady_clock::now() + time;
+      while (std::chrono::steady_clock::now() < end) {
+        const Receipt receipt = save(store, 1 + static_cast<int>(random() % 10));
+        if (write(to, &receipt, sizeof receipt) != sizeof receipt) _exit(3);
+      }
+    } catch (const std::exception&) {
+      _exit(4);
+    }
+    _exit(0);
+  }
+
+  pid_t process_ = 0;
+  int reports_ = 0;
+};
+
+// Every receipt is wholly there; the answer is number to lines.
+std::map<long long, int> receipts(const std::filesystem::path& folder) {
+  Store store(folder);
+  std::map<long long, int> found, wanted;
+  RecordSet set(store, "select * from jfjl");
+  forEach(set, [&](RecordSet& at) {
+    const auto number = static_cast<long long>(at.get("lsh").number());
+    ++found[number];
+    wanted[number] = static_cast<int>(at.get("bz").number());
+  });
+  EXPECT_EQ(found, wanted);
+  return found;
+}
+
+std::string integrity(const Folder& folder) {
+  const auto engine = openSqlite({folder.file(Connection::Main), std::string(mainPassword)});
+  const auto check = engine->prepare("pragma integrity_check");
+  return check->step() ? std::string(check->text(0)) : "";
+}
+
+TEST(Computers, WhatWasReportedSurvivesAnyDeath) {
+  const Folder folder;
+  Store(folder.path()).database(Connection::Main);
+  std::minstd_rand random(11);
+  std::map<long long, int> reported;
+  for (unsigned round = 0; round < 120; ++round) {
+    Computer computer(folder.path(), 10s, round);
+    if (round % 10) computer.awaitReport();  // the others may die while they open the store
+    std::this_thread::sleep_for(std::chrono::microseconds(random() % 30000));
+    computer.die();
+    for (const Receipt& receipt : computer.reports()) reported[receipt.number] = receipt.lines;
+    if (round % 20 == 19) {
+      const auto found = receipts(folder.path());
+      for (const auto& [number, lines] : reported) {
+        const auto receipt = found.find(number);
+        ASSERT_TRUE(receipt != found.end() && receipt->second == lines) << number << " was reported as saved";
+      }
+      EXPECT_EQ(integrity(folder), "ok");
+    }
+  }
+  EXPECT_GT(reported.size(), 100u) << "the deaths should come in the middle of writing";
+}
+
+TEST(Computers, TwoGreedyWritersBothGetOn) {
+  const Folder folder;
+  Store(folder.path()).database(Connection::Main);
+  Computer first(folder.path(), 4s, 1), second(folder.path(), 4s, 2);
+  const auto a = first.reports(), b = second.reports();
+  std::map<long long, int> reported;
+  for (const auto* reports : {&a, &b}) {
+    for (const Receipt& receipt : *reports) reported[receipt.number] = receipt.lines;
+  }
+  EXPECT_EQ(reported.size(), a.size() + b.size()) << "no number was given twice";
+  EXPECT_EQ(receipts(folder.path()), reported);
+  RecordProperty("first", static_cast<int>(a.size()));
+  RecordProperty("second", static_cast<int>(b.size()));
+  EXPECT_GT(std::min(a.size(), b.size()) * 4, std::max(a.size(), b.size()));
+}
+
+}  // namespace
+}  // namespace store
