@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QPrinter>
 #include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QTimer>
 
 #include "collection/receipt.h"
 #include "platform/desktop.h"
@@ -29,14 +29,10 @@ class Printing : public testing::Test {
     static QApplication application(count, arguments);
   }
 
-  // The pages of the drawing's PDF, through another program's eyes.
-  QImage pdfPage(const Drawing& drawing, int page, int dotsPerInch) {
-    const QString pdf = folder.filePath("drawing.pdf"), picture = folder.filePath("page");
-    qt::savePdf(drawing, pdf.toStdString());
-    const QString number = QString::number(page + 1);
-    EXPECT_EQ(QProcess::execute("pdftoppm", {"-r", QString::number(dotsPerInch), "-f", number, "-l", number, "-png",
-                                             "-singlefile", pdf, picture}),
-              0);
+  // The first page of a PDF, through another program's eyes.
+  QImage pictureOf(const QString& pdf, int dotsPerInch) {
+    const QString picture = folder.filePath("page"), dots = QString::number(dotsPerInch);
+    EXPECT_EQ(QProcess::execute("pdftoppm", {"-r", dots, "-png", "-singlefile", pdf, picture}), 0);
     return QImage(picture + ".png").convertToFormat(QImage::Format_RGB32);
   }
   QTemporaryDir folder;
@@ -118,12 +114,21 @@ TEST_F(Printing, MarksLieWhereTheyWereAskedForAtEveryDensity) {
     proveLines(image, dots);
     proveTexts(image, dots, finest, finestDots);
   }
-  SCOPED_TRACE("PDF");
-  const QImage pdf = pdfPage(sheet, 0, 300);
-  EXPECT_NEAR(pdf.width() * 25.4 / 300, 210, 0.2);
-  EXPECT_NEAR(pdf.height() * 25.4 / 300, 140, 0.2);
-  proveLines(pdf, 300);
-  proveTexts(pdf, 300, finest, finestDots);
+  const QString saved = folder.filePath("saved.pdf"), printed = folder.filePath("printed.pdf");
+  qt::savePdf(sheet, saved.toStdString());
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(printed);
+  qt::setPaper(printer, sheet);
+  ASSERT_TRUE(qt::paintPages(printer, sheet, 1, 1));
+  for (const QString& pdf : {saved, printed}) {
+    SCOPED_TRACE(pdf.toStdString());
+    const QImage image = pictureOf(pdf, 300);
+    EXPECT_NEAR(image.width() * 25.4 / 300, 210, 0.2);
+    EXPECT_NEAR(image.height() * 25.4 / 300, 140, 0.2);
+    proveLines(image, 300);
+    proveTexts(image, 300, finest, finestDots);
+  }
 }
 
 collection::PrintedReceipt receiptOf(std::size_t rows, bool longTexts) {

@@ -95,7 +95,9 @@ void paintPage(QPainter& painter, const platform::Page& page) {
 
 void setPaper(QPagedPaintDevice& device, const platform::Drawing& drawing) {
   const QPageSize paper(QSizeF(drawing.width, drawing.height), QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
-  device.setPageLayout(QPageLayout(paper, QPageLayout::Portrait, QMarginsF(), QPageLayout::Millimeter, QMarginsF()));
+  QPageLayout layout(paper, QPageLayout::Portrait, QMarginsF(), QPageLayout::Millimeter, QMarginsF());
+  layout.setMode(QPageLayout::FullPageMode);  // places count from the paper's corner, whatever the printer cannot reach
+  device.setPageLayout(layout);
 }
 
 bool paintPages(QPagedPaintDevice& device, const platform::Drawing& drawing, int first, int last) {

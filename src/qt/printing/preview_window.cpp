@@ -149,7 +149,6 @@ void PreviewWindow::print() {
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(toQt(drawing_.title));
   setPaper(printer, drawing_);
-  printer.setFullPage(true);
   QPrintDialog dialog(&printer, this);
   dialog.setWindowTitle("打印");
   dialog.setMinMax(1, static_cast<int>(drawing_.pages.size()));
