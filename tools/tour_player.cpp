@@ -4,9 +4,9 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
-#include <QComboBox>
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QTabBar>
@@ -116,15 +116,16 @@ void key(QWidget& window, int key) {
 }
 
 void pick(QWidget& window, const char* member, const std::string& choice) {
-  auto* box = qobject_cast<QComboBox*>(&find(window, member));
-  if (!box) box = find(window, member).findChild<QComboBox*>();
-  if (!box) throw std::runtime_error(std::string(member) + " drops no list down");
-  box->setFocus();
-  box->showPopup();
-  const int index = box->findText(QString::fromStdString(choice));
-  if (index < 0) throw std::runtime_error(std::string(member) + " does not offer " + choice);
-  box->view()->setCurrentIndex(box->model()->index(index, 0));
-  QTest::keyClick(box->view(), Qt::Key_Return);
+  QWidget& entry = entryOf(find(window, member));
+  entry.setFocus();
+  QTest::keyClick(&entry, Qt::Key_F4);
+  QWidget* popup = QApplication::activePopupWidget();
+  auto* list = popup ? popup->findChild<QListWidget*>() : nullptr;
+  if (!list) throw std::runtime_error(std::string(member) + " drops no list down");
+  const auto found = list->findItems(QString::fromStdString(choice), Qt::MatchExactly);
+  if (found.isEmpty()) throw std::runtime_error(std::string(member) + " does not offer " + choice);
+  list->setCurrentItem(found.first());
+  QTest::keyClick(list, Qt::Key_Return);
 }
 
 void chooseRow(QWidget& window, const char* list, int row) {

@@ -7,6 +7,7 @@
 #include "qt/computer.h"
 #include "qt/navigator.h"
 #include "qt/person.h"
+#include "qt/printing/qt_printer.h"
 #include "qt/progress.h"
 #include "qt/text.h"
 #include "qt/theme.h"
@@ -21,15 +22,19 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);  // the navigator ends the program
   qt::applyTheme(application);
   const QStringList words = QApplication::arguments();
-  const QString folder = words.size() > 1 ? words[1] : QApplication::applicationDirPath();
+  const std::filesystem::path folder =
+      qt::fromQt(QDir(words.size() > 1 ? words[1] : QApplication::applicationDirPath()).absolutePath());
 
-  store::Store store(qt::fromQt(QDir(folder).absolutePath()));
+  store::Store store(folder);
   kit::Session session;
   qt::QtPerson person(shell::productTitle);
   qt::QtNavigator navigator(app::views());
   qt::QtClock clock;
-  qt::QtDesktop desktop(qt::fromQt(QDir(folder).absolutePath()));
+  qt::QtPrinter printer;
+  qt::QtDesktop desktop(folder);
   qt::QtProgress progress;
   store.onWait = [&](bool waiting) { progress.waiting(waiting); };
-  return 0;
+  kit::Desk desk{session, store, person, navigator, clock, printer, desktop, progress};
+  navigator.stand<shell::Form1>(desk);
+  return navigator.standing().empty() ? 0 : QApplication::exec();
 }

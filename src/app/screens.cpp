@@ -7,6 +7,7 @@
 #include "shell/console.h"
 #include "shell/login.h"
 #include "shell/splash.h"
+#include "shell/view/shell_views.h"
 #include "students/student_edit.h"
 #include "students/student_view.h"
 #include "upkeep/first_run.h"
@@ -46,7 +47,7 @@ const std::vector<Entry>& screens() {
 }
 
 const qt::Views& views() {
-  static const qt::Views all;
+  static const qt::Views all = {{"console", shell::buildConsole}, {"login", shell::buildLogin}};
   return all;
 }
 
