@@ -1,7 +1,16 @@
 #include "app/screens.h"
 
 #include "collection/fee_window.h"
+#include "feesetup/class_edit.h"
+#include "feesetup/class_standard_change.h"
+#include "feesetup/class_standard_delete.h"
+#include "feesetup/class_standards.h"
 #include "feesetup/desk_settings.h"
+#include "feesetup/enrolment_form_edit.h"
+#include "feesetup/fee_item_edit.h"
+#include "feesetup/form_standard_delete.h"
+#include "feesetup/form_standards.h"
+#include "feesetup/major_edit.h"
 #include "feesetup/setup.h"
 #include "shell/about.h"
 #include "shell/console.h"
@@ -39,6 +48,15 @@ const std::vector<Entry>& screens() {
       screen<students::Formzctxs>("Formzctxs"),
       screen<students::Formzctxsll>("Formzctxsll"),
       screen<feesetup::Formsz>("Formsz"),
+      screen<feesetup::Formszzymc>("Formszzymc"),
+      screen<feesetup::Formszbjzl>("Formszbjzl"),
+      screen<feesetup::Formszsfxm>("Formszsfxm"),
+      screen<feesetup::Formszsfbz>("Formszsfbz"),
+      screen<feesetup::Formszsfbz1>("Formszsfbz1"),
+      screen<feesetup::Formszsfbz2>("Formszsfbz2"),
+      screen<feesetup::Formszsfbz3>("Formszsfbz3"),
+      screen<feesetup::Formszsfbz4>("Formszsfbz4"),
+      screen<feesetup::Formszrxxs>("Formszrxxs"),
       screen<feesetup::Formszqt>("Formszqt"),
       screen<collection::Formzctsf4>("Formzctsf4"),
   };
