@@ -20,7 +20,8 @@ struct Wish {
   sample::Plan plan;
 };
 
-template <class Number> bool read(std::string_view text, Number& number) {
+template <class Number>
+bool read(std::string_view text, Number& number) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   return error == std::errc() && end == text.data() + text.size();
 }
@@ -74,7 +75,8 @@ int main(int count, char** words) {
     std::cout << wish.folder.string() << ": " << written.classes << " classes, " << written.students << " students, "
               << written.payments << " payments on " << written.receipts << " receipts, " << written.arrears
               << " arrears, up to " << wish.plan.today.iso() << "\n"
-              << "users " << sample::superUser << " and " << sample::deskUser << ", password " << sample::password << "\n";
+              << "users " << sample::superUser << " and " << sample::deskUser << ", password " << sample::password
+              << "\n";
   } catch (const std::exception& error) {
     return fail(error.what());
   }

@@ -8,10 +8,10 @@
 namespace sample {
 namespace {
 
-constexpr int collectingDays = 77;       // of a term, without Sundays: most pay early, the last ones late
+constexpr int collectingDays = 77;  // of a term, without Sundays: most pay early, the last ones late
 constexpr std::size_t mostLines = 5;
-constexpr long long fullDay = 9000;      // the running number of a day has four digits
-constexpr int fullArrearsDay = 900;      // the one of arrears has three
+constexpr long long fullDay = 9000;  // the running number of a day has four digits
+constexpr int fullArrearsDay = 900;  // the one of arrears has three
 
 struct Term {
   base::Date start;
@@ -69,7 +69,8 @@ class Cashier {
   std::vector<Visit> makeVisits(long long payments) {
     std::vector<Visit> visits;
     for (std::size_t term = 0; term < terms_.size(); ++term) {
-      const double linesEach = static_cast<double>(payments) / static_cast<double>(std::max<std::size_t>(visits.size(), 1));
+      const double linesEach =
+          static_cast<double>(payments) / static_cast<double>(std::max<std::size_t>(visits.size(), 1));
       const double share = visits.empty() ? 1.0 : shareWhoPaid(terms_[term], std::max(linesEach, 1.0) + 1);
       for (std::size_t student = 0; student < school_.students.size(); ++student) {
         if (school_.students[student].rxrq > terms_[term].start) continue;
@@ -87,7 +88,8 @@ class Cashier {
   void shareOut(std::vector<Visit>& visits, long long payments) {
     const auto count = static_cast<long long>(visits.size());
     for (long long i = 0; i < count; ++i) {
-      visits[static_cast<std::size_t>(i)].lines = static_cast<std::size_t>((i + 1) * payments / count - i * payments / count);
+      visits[static_cast<std::size_t>(i)].lines =
+          static_cast<std::size_t>((i + 1) * payments / count - i * payments / count);
     }
     for (std::size_t i = 0; i + 1 < visits.size(); i += 2) {
       const std::size_t most = std::min<std::size_t>(2, visits[i].lines > 0 ? visits[i].lines - 1 : 0);
@@ -133,19 +135,25 @@ class Cashier {
     if (!random_.percent(9) || arrearsOf_[receipt.date] >= fullArrearsDay) return 0;
     Line& paid = receipt.lines.front();
     const base::Money owed = base::Money::yuan(100 * random_.between(3, 12));
-    Arrears arrears{receipt.date, receipt.date.plusDays(30 * random_.between(1, 3)), visit.student, visit.term, owed, {},
-                    Arrears::State::Open, {}};
+    Arrears arrears{receipt.date,
+                    receipt.date.plusDays(30 * random_.between(1, 3)),
+                    visit.student,
+                    visit.term,
+                    owed,
+                    {},
+                    Arrears::State::Open,
+                    {}};
     paid.amount -= owed;
     base::Date later = arrears.since.plusDays(random_.between(10, 80));
     if (later.weekday() == 7) later = later.plusDays(1);
     const int fate = random_.below(100);
     const bool payable = left > 0 && later <= today_ && taken_[later] < fullDay + 500;
-    if (fate < 15 && later <= today_) {
+    if (fate < 12 && later <= today_) {
       arrears.state = Arrears::State::Waived;
       arrears.paid = owed;
-    } else if (fate < 80 && payable) {
-      arrears.state = fate < 60 ? Arrears::State::Settled : Arrears::State::Short;
-      arrears.paid = fate < 60 ? owed : base::Money::yuan(100 * random_.between(1, 2));
+    } else if (fate < 85 && payable) {
+      arrears.state = fate < 50 ? Arrears::State::Settled : Arrears::State::Short;
+      arrears.paid = fate < 50 ? owed : base::Money::yuan(100 * random_.between(1, 2));
       ++taken_[later];
       ledger_.receipts.push_back({later, visit.student, visit.term, {{tuition, arrears.paid}}});
     }

@@ -8,22 +8,32 @@ namespace sample {
 namespace {
 
 constexpr std::array<District, 18> districts{{
-    {"360102", "南昌市", "东湖区", "330006", "0791"}, {"360103", "南昌市", "西湖区", "330009", "0791"},
-    {"360111", "南昌市", "青山湖区", "330029", "0791"}, {"360121", "南昌市", "南昌县", "330200", "0791"},
-    {"360124", "南昌市", "进贤县", "331700", "0791"}, {"360202", "景德镇市", "昌江区", "333000", "0798"},
-    {"360302", "萍乡市", "安源区", "337000", "0799"}, {"360402", "九江市", "濂溪区", "332005", "0792"},
-    {"360428", "九江市", "都昌县", "332600", "0792"}, {"360502", "新余市", "渝水区", "338025", "0790"},
-    {"360602", "鹰潭市", "月湖区", "335000", "0701"}, {"360702", "赣州市", "章贡区", "341000", "0797"},
-    {"360731", "赣州市", "于都县", "342300", "0797"}, {"360802", "吉安市", "吉州区", "343000", "0796"},
-    {"360902", "宜春市", "袁州区", "336000", "0795"}, {"360981", "宜春市", "丰城市", "331100", "0795"},
-    {"361002", "抚州市", "临川区", "344000", "0794"}, {"361128", "上饶市", "鄱阳县", "333100", "0793"},
+    {"360102", "南昌市", "东湖区", "330006", "0791"},
+    {"360103", "南昌市", "西湖区", "330009", "0791"},
+    {"360111", "南昌市", "青山湖区", "330029", "0791"},
+    {"360121", "南昌市", "南昌县", "330200", "0791"},
+    {"360124", "南昌市", "进贤县", "331700", "0791"},
+    {"360202", "景德镇市", "昌江区", "333000", "0798"},
+    {"360302", "萍乡市", "安源区", "337000", "0799"},
+    {"360402", "九江市", "濂溪区", "332005", "0792"},
+    {"360428", "九江市", "都昌县", "332600", "0792"},
+    {"360502", "新余市", "渝水区", "338025", "0790"},
+    {"360602", "鹰潭市", "月湖区", "335000", "0701"},
+    {"360702", "赣州市", "章贡区", "341000", "0797"},
+    {"360731", "赣州市", "于都县", "342300", "0797"},
+    {"360802", "吉安市", "吉州区", "343000", "0796"},
+    {"360902", "宜春市", "袁州区", "336000", "0795"},
+    {"360981", "宜春市", "丰城市", "331100", "0795"},
+    {"361002", "抚州市", "临川区", "344000", "0794"},
+    {"361128", "上饶市", "鄱阳县", "333100", "0793"},
 }};
 
 // The more common a surname, the further in front.
 constexpr std::array<std::string_view, 60> surnames{
-    "王", "李", "张", "刘", "陈", "杨", "黄", "赵", "吴", "周", "徐", "孙", "马", "朱", "胡", "郭", "何", "高", "林", "罗",
-    "郑", "梁", "谢", "宋", "唐", "许", "韩", "冯", "邓", "曹", "彭", "曾", "肖", "田", "董", "袁", "潘", "于", "蒋", "蔡",
-    "余", "杜", "叶", "程", "苏", "魏", "吕", "丁", "任", "沈", "姚", "卢", "姜", "崔", "钟", "谭", "陆", "汪", "欧阳", "熊"};
+    "王", "李", "张", "刘", "陈", "杨", "黄", "赵", "吴", "周", "徐", "孙", "马", "朱",   "胡",
+    "郭", "何", "高", "林", "罗", "郑", "梁", "谢", "宋", "唐", "许", "韩", "冯", "邓",   "曹",
+    "彭", "曾", "肖", "田", "董", "袁", "潘", "于", "蒋", "蔡", "余", "杜", "叶", "程",   "苏",
+    "魏", "吕", "丁", "任", "沈", "姚", "卢", "姜", "崔", "钟", "谭", "陆", "汪", "欧阳", "熊"};
 constexpr std::array<std::string_view, 40> maleNames{"伟", "强", "磊", "军", "洋", "勇", "杰", "涛", "明", "超",
                                                      "刚", "平", "辉", "鹏", "飞", "宇", "浩", "凯", "健", "俊",
                                                      "帆", "博", "文", "志", "子", "建", "家", "天", "嘉", "晨",
@@ -38,21 +48,21 @@ constexpr std::array<std::string_view, 10> mobilePrefixes{"130", "135", "136", "
 constexpr std::array<std::string_view, 10> streets{"人民路", "建设路", "文教路", "解放大道", "滨江路",
                                                    "站前路", "育才路", "青年街", "和平巷",   "沿河街"};
 
+constexpr std::array<std::string_view, 9> ordinals{"一", "二", "三", "四", "五", "六", "七", "八", "九"};
+
 }  // namespace
 
-const District& district(Random& random) { return random.pick(std::span<const District>(districts)); }
+const District& district(Random& random) { return random.pick(districts); }
 
 std::string personName(Random& random, bool male) {
   const auto rank = static_cast<std::size_t>(random.share() * random.share() * surnames.size());
-  const std::span<const std::string_view> given = male ? maleNames : femaleNames;
+  const std::array<std::string_view, 40>& given = male ? maleNames : femaleNames;
   std::string name(surnames[rank]);
   if (random.percent(70)) name += random.pick(given);
   return name.append(random.pick(given));
 }
 
-std::string nationality(Random& random) {
-  return random.percent(96) ? "汉族" : std::string(random.pick(std::span<const std::string_view>(minorities)));
-}
+std::string nationality(Random& random) { return random.percent(96) ? "汉族" : std::string(random.pick(minorities)); }
 
 std::string digits(Random& random, int count) {
   std::string result;
@@ -60,12 +70,14 @@ std::string digits(Random& random, int count) {
   return result;
 }
 
-std::string mobileNumber(Random& random) {
-  return std::string(random.pick(std::span<const std::string_view>(mobilePrefixes))) + digits(random, 8);
-}
+std::string mobileNumber(Random& random) { return std::string(random.pick(mobilePrefixes)) + digits(random, 8); }
 
 std::string street(Random& random) {
-  return std::string(random.pick(std::span<const std::string_view>(streets))) + std::to_string(random.between(1, 399)) + "号";
+  return std::string(random.pick(streets)) + std::to_string(random.between(1, 399)) + "号";
+}
+
+std::string formerSchool(Random& random, const District& home) {
+  return std::string(home.name) + "第" + std::string(random.pick(ordinals)) + "中学";
 }
 
 char identityCheck(std::string_view firstSeventeen) {

@@ -19,6 +19,7 @@ std::string nationality(Random& random);
 std::string mobileNumber(Random& random);
 std::string digits(Random& random, int count);
 std::string street(Random& random);
+std::string formerSchool(Random& random, const District& home);
 
 // A number of 18 characters: district, birth date, three digits of which the last is odd for men, check character.
 std::string identityNumber(Random& random, std::string_view districtCode, base::Date birth, bool male);

@@ -95,7 +95,7 @@ Bitmap encodedRows(const std::vector<Ellipse>& parts) {
 
 store::Bytes portrait(bool male, int look) {
   const auto choice = static_cast<std::size_t>(look);
-  const std::array<Colour, colours> palette{backgrounds[choice % 3], skins[choice % 3], Colour{206, 160, 130},
+  const std::array<Colour, colours> palette{backgrounds[choice % 3], skins[choice % 3],      Colour{206, 160, 130},
                                             hairs[choice % 2],       shirts[choice / 2 % 3], Colour{250, 250, 250},
                                             Colour{38, 32, 32},      Colour{178, 92, 88}};
   const Bitmap rows = encodedRows(drawing(male, look));
@@ -108,11 +108,11 @@ store::Bytes portrait(bool male, int look) {
   file.number(40, 4);
   file.number(width, 4);
   file.number(height, 4);
-  file.number(1, 2);                                         // planes
-  file.number(8, 2);                                         // bits a pixel
-  file.number(1, 4);                                         // run lengths
+  file.number(1, 2);  // planes
+  file.number(8, 2);  // bits a pixel
+  file.number(1, 4);  // run lengths
   file.number(static_cast<std::uint32_t>(rows.size()), 4);
-  file.number(11811, 4);                                     // pixels a metre: 300 dpi
+  file.number(11811, 4);  // pixels a metre: 300 dpi
   file.number(11811, 4);
   file.number(entries, 4);
   file.number(0, 4);

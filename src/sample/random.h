@@ -1,8 +1,8 @@
 // Chance that is the same on every machine: the standard library's distributions are not.
 #pragma once
 
+#include <array>
 #include <cstdint>
-#include <span>
 
 namespace sample {
 
@@ -20,7 +20,10 @@ class Random {
   int between(int from, int to) { return from + below(to - from + 1); }
   bool percent(int chance) { return below(100) < chance; }
   double share() { return static_cast<double>(bits() >> 11) * 0x1.0p-53; }  // from 0 to just under 1
-  template <class T> const T& pick(std::span<const T> from) { return from[static_cast<std::size_t>(below(static_cast<int>(from.size())))]; }
+  template <class T, std::size_t N>
+  const T& pick(const std::array<T, N>& from) {
+    return from[static_cast<std::size_t>(below(N))];
+  }
 
  private:
   std::uint64_t state_;

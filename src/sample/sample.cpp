@@ -26,7 +26,10 @@ constexpr int openingHour = 8, workingSeconds = 9 * 3600;
 class Writer {
  public:
   Writer(store::Store& store, const Plan& plan)
-      : store_(store), today_(plan.today), random_(plan.seed), school_(makeSchool(random_, plan.students, today_)),
+      : store_(store),
+        today_(plan.today),
+        random_(plan.seed),
+        school_(makeSchool(random_, plan.students, today_)),
         ledger_(makeLedger(random_, school_, plan.payments.value_or(usualPayments(plan.students)), today_)) {}
 
   Written run() {
@@ -57,10 +60,12 @@ class Writer {
     rows.update();
   }
 
-  std::string setupMoment() const { return base::DateTime{{newestYear(today_) - 3, 7, 1}, 9, 30, 0}.plain(); }
+  // What is set up for a school year is keyed in the summer before.
+  static base::DateTime summer(int year) { return {{year, 7, 1}, 9, 0, 0}; }
+  std::string firstSummer() const { return summer(newestYear(today_) - 2).plain(); }
 
   void writeUsers() {
-    const base::DateTime then{{newestYear(today_) - 3, 7, 1}, 9, 0, 0};
+    const base::DateTime then = summer(newestYear(today_) - 2);
     upkeep::addUser(store_, superUser, upkeep::superLevel, password, then);
     upkeep::addUser(store_, deskUser, "一般操作员", password, then);
     store::Unit unit(store_);
@@ -82,7 +87,7 @@ class Writer {
   }
 
   void writeSetup() {
-    const std::string bsh = setupMoment();
+    const std::string bsh = firstSummer();
     RecordSet majors(store_, Sql("select * from zymcb"));
     int id = 0;
     for (const Major& major : school_.majors) {
@@ -93,9 +98,16 @@ class Writer {
     int number = 1000;
     for (const SchoolClass& one : school_.classes) {
       const Major& major = school_.majorOf(one);
-      add(classes, {{"zybh", major.code}, {"zymc", major.name}, {"bjdh", one.code}, {"bjmc", one.name},
-                    {"jsxm", one.teacher}, {"bsh", bsh}});
-      add(teachers, {{"gh", std::to_string(++number)}, {"jsxm", one.teacher}, {"zymc", major.name}, {"zw", "班主任"},
+      add(classes, {{"zybh", major.code},
+                    {"zymc", major.name},
+                    {"bjdh", one.code},
+                    {"bjmc", one.name},
+                    {"jsxm", one.teacher},
+                    {"bsh", summer(one.year).plain()}});
+      add(teachers, {{"gh", std::to_string(++number)},
+                     {"jsxm", one.teacher},
+                     {"zymc", major.name},
+                     {"zw", "班主任"},
                      {"bsh", bsh}});
     }
     RecordSet items(store_, Sql("select * from sfxmb"));
@@ -106,14 +118,19 @@ class Writer {
 
   void writeStandards() {
     const std::string& term = ledger_.terms.back();
-    const std::string bsh = setupMoment();
+    const std::string bsh = summer(newestYear(today_)).plain();
     RecordSet byClass(store_, Sql("select * from sfbzb"));
     for (const SchoolClass& one : school_.classes) {
       const bool firstTerm = one.year == newestYear(today_);
       for (const int item : chargedItems(firstTerm)) {
         const FeeItem& named = feeItems[static_cast<std::size_t>(item)];
-        add(byClass, {{"xq", term}, {"zymc", school_.majorOf(one).name}, {"bjmc", one.name}, {"sfxmbh", named.code},
-                      {"sfxmmc", named.name}, {"je", school_.charge(one, item)}, {"bsh", bsh}});
+        add(byClass, {{"xq", term},
+                      {"zymc", school_.majorOf(one).name},
+                      {"bjmc", one.name},
+                      {"sfxmbh", named.code},
+                      {"sfxmmc", named.name},
+                      {"je", school_.charge(one, item)},
+                      {"bsh", bsh}});
       }
     }
     RecordSet byForm(store_, Sql("select * from sfbzbrxxs"));
@@ -122,8 +139,12 @@ class Writer {
       for (const int item : chargedItems(true)) {
         base::Money amount = school_.charge(typical, item);
         if (item == tuition) amount = base::Money::yuan(school_.majors.front().tuition * form.tuitionPercent / 100);
-        add(byForm, {{"xq", term}, {"rxxs", form.name}, {"sfxmbh", ""},
-                     {"sfxmmc", feeItems[static_cast<std::size_t>(item)].name}, {"je", amount}, {"bsh", bsh}});
+        add(byForm, {{"xq", term},
+                     {"rxxs", form.name},
+                     {"sfxmbh", ""},
+                     {"sfxmmc", feeItems[static_cast<std::size_t>(item)].name},
+                     {"je", amount},
+                     {"bsh", bsh}});
       }
     }
   }
@@ -173,7 +194,7 @@ class Writer {
   void writeLodgers() {
     constexpr int beds = 6, firstRoom = 101;
     const base::Money charge = school_.charge(school_.classes.front(), lodging);
-    const std::string bsh = setupMoment();
+    const std::string bsh = firstSummer();
     RecordSet all(store_, Sql("select * from zsgl1"));
     RecordSet taken(store_, Sql("select * from zsgl2"));
     std::array<int, 2> count{};
@@ -184,11 +205,26 @@ class Writer {
       const store::Value buildingName = one.male ? "男生公寓" : "女生公寓";
       const std::string room = building + std::to_string(firstRoom + place / beds);
       const std::string bed = room + "-" + std::to_string(place % beds + 1);
-      add(all, {{"loubh", building}, {"loumc", buildingName}, {"ssbh", room}, {"cws", beds}, {"zsfbz", charge},
-                {"cwh", bed}, {"bsh", bsh}});
-      add(taken, {{"xh", one.xh}, {"xm", one.xm}, {"xb", one.male ? "男" : "女"}, {"bjmc", school_.classOf(one).name},
-                  {"xtbh", one.xtbh}, {"loubh", building}, {"loumc", buildingName}, {"ssbh", room}, {"cws", beds},
-                  {"cwh", bed}, {"rq", one.rxrq}, {"zsfbz", charge}, {"bsh", bsh}});
+      add(all, {{"loubh", building},
+                {"loumc", buildingName},
+                {"ssbh", room},
+                {"cws", beds},
+                {"zsfbz", charge},
+                {"cwh", bed},
+                {"bsh", bsh}});
+      add(taken, {{"xh", one.xh},
+                  {"xm", one.xm},
+                  {"xb", one.male ? "男" : "女"},
+                  {"bjmc", school_.classOf(one).name},
+                  {"xtbh", one.xtbh},
+                  {"loubh", building},
+                  {"loumc", buildingName},
+                  {"ssbh", room},
+                  {"cws", beds},
+                  {"cwh", bed},
+                  {"rq", one.rxrq},
+                  {"zsfbz", charge},
+                  {"bsh", bsh}});
     }
   }
 
@@ -205,7 +241,7 @@ class Writer {
       day = receipt.date;
       const Student& one = school_.students[receipt.student];
       const store::Value number = std::to_string(fpbh++), name = school_.classOf(one).name;
-      const store::Value method = random_.pick(std::span<const std::string_view>(methods));
+      const store::Value method = random_.pick(methods);
       const store::Value taker = random_.percent(30) ? superUser : deskUser;
       const store::Value moment =
           base::DateTime{day, openingHour, 0, 0}.plusSeconds(running * workingSeconds / ofDay[day]).plain();
@@ -235,10 +271,14 @@ class Writer {
 
   static const char* wordOf(Arrears::State state) {
     switch (state) {
-      case Arrears::State::Short: return "不足";
-      case Arrears::State::Settled: return "结清";
-      case Arrears::State::Waived: return "减免";
-      default: return "";
+      case Arrears::State::Short:
+        return "不足";
+      case Arrears::State::Settled:
+        return "结清";
+      case Arrears::State::Waived:
+        return "减免";
+      default:
+        return "";
     }
   }
 
@@ -252,11 +292,21 @@ class Writer {
       const Student& one = school_.students[owed.student];
       const std::string bsh = base::DateTime{day, 16, 0, 0}.plusSeconds(++running).plain();
       rows.addNew();
-      for (const auto& [column, value] : Fields{
-               {"lsh", std::to_string(std::stoll(day.digits()) * 1000 + running)}, {"xh", one.xh}, {"xm", one.xm},
-               {"bjmc", school_.classOf(one).name}, {"xtbh", one.xtbh}, {"sfxm", feeItems[tuition].name},
-               {"qfrq", day}, {"xq", ledger_.terms[owed.term]}, {"bjrq", owed.due}, {"bjje", owed.amount},
-               {"sbjje", owed.paid}, {"clfs", wordOf(owed.state)}, {"qfts", 7}, {"skr", deskUser}, {"bsh", bsh}}) {
+      for (const auto& [column, value] : Fields{{"lsh", std::to_string(std::stoll(day.digits()) * 1000 + running)},
+                                                {"xh", one.xh},
+                                                {"xm", one.xm},
+                                                {"bjmc", school_.classOf(one).name},
+                                                {"xtbh", one.xtbh},
+                                                {"sfxm", feeItems[tuition].name},
+                                                {"qfrq", day},
+                                                {"xq", ledger_.terms[owed.term]},
+                                                {"bjrq", owed.due},
+                                                {"bjje", owed.amount},
+                                                {"sbjje", owed.paid},
+                                                {"clfs", wordOf(owed.state)},
+                                                {"qfts", 7},
+                                                {"skr", deskUser},
+                                                {"bsh", bsh}}) {
         rows.set(column, value);
       }
       if (owed.changed) rows.set("sbjrq", *owed.changed);
@@ -273,8 +323,11 @@ class Writer {
         const base::DateTime begin = base::DateTime{day, openingHour, 0, 0}.plusSeconds(random_.between(-600, 600));
         const base::DateTime end = begin.plusSeconds(workingSeconds + random_.between(0, 1800));
         const bool cutOff = random_.percent(4);
-        add(rows, {{"yhxm", second ? superUser : deskUser}, {"jsjmc", second ? "财务室" : "收费一号机"},
-                   {"kjsj", begin}, {"gjsj", cutOff ? std::string("强行中断") : end.plain()}, {"bsh", begin.plain()}});
+        add(rows, {{"yhxm", second ? superUser : deskUser},
+                   {"jsjmc", second ? "财务室" : "收费一号机"},
+                   {"kjsj", begin},
+                   {"gjsj", cutOff ? std::string("强行中断") : end.plain()},
+                   {"bsh", begin.plain()}});
       }
     }
   }

@@ -11,14 +11,14 @@
 namespace sample {
 
 constexpr const char* superUser = "王芳";
-constexpr const char* deskUser = "李强";  // takes the fees; may do what a front desk needs
+constexpr const char* deskUser = "李强";    // takes the fees; may do what a front desk needs
 constexpr const char* password = "123456";  // of both
 
 struct Plan {
   int students = 800;
   std::optional<long long> payments;  // rows; as many as the students usually make when nothing is said
   std::uint64_t seed = 1;
-  base::Date today{2026, 9, 7};       // the school's last day
+  base::Date today{2026, 9, 7};  // the school's last day
 };
 
 struct Written {

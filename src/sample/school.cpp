@@ -16,10 +16,16 @@ struct MajorName {
   std::string_view name;
   int tuition;
 };
-constexpr std::array<MajorName, 10> majorNames{{{"计算机应用", 1650}, {"会计事务", 1500}, {"学前教育", 1800},
-                                                {"电子商务", 1600}, {"汽车运用与维修", 1900}, {"护理", 2200},
-                                                {"旅游服务与管理", 1450}, {"数控技术应用", 1750},
-                                                {"机电技术应用", 1700}, {"工艺美术", 2100}}};
+constexpr std::array<MajorName, 10> majorNames{{{"计算机应用", 1650},
+                                                {"会计事务", 1500},
+                                                {"学前教育", 1800},
+                                                {"电子商务", 1600},
+                                                {"汽车运用与维修", 1900},
+                                                {"护理", 2200},
+                                                {"旅游服务与管理", 1450},
+                                                {"数控技术应用", 1750},
+                                                {"机电技术应用", 1700},
+                                                {"工艺美术", 2100}}};
 
 std::string padded(std::size_t number, std::size_t width) {
   const std::string plain = std::to_string(number);
@@ -67,7 +73,7 @@ class Admission {
     one.sjhm = mobileNumber(random_);
     one.jtzz = std::string("江西省").append(home.city).append(home.name) + street(random_);
     one.yzbm = home.postalCode;
-    one.byxx = std::string(home.name) + "第" + std::to_string(random_.between(1, 9)) + "中学";
+    one.byxx = formerSchool(random_, home);
     one.yhkh = "6217" + digits(random_, 15);
     one.schoolClass = place;
     one.form = pickForm(random_);

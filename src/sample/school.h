@@ -14,15 +14,22 @@ namespace sample {
 struct FeeItem {
   std::string_view code, name;
 };
-constexpr std::array<FeeItem, 10> feeItems{{{"101", "学费"}, {"102", "书本费"}, {"103", "住宿费"}, {"104", "校服费"},
-                                            {"105", "保险费"}, {"106", "军训费"}, {"107", "体检费"},
-                                            {"108", "实习材料费"}, {"109", "证书费"}, {"110", "代办费"}}};
+constexpr std::array<FeeItem, 10> feeItems{{{"101", "学费"},
+                                            {"102", "书本费"},
+                                            {"103", "住宿费"},
+                                            {"104", "校服费"},
+                                            {"105", "保险费"},
+                                            {"106", "军训费"},
+                                            {"107", "体检费"},
+                                            {"108", "实习材料费"},
+                                            {"109", "证书费"},
+                                            {"110", "代办费"}}};
 constexpr int tuition = 0, lodging = 2;  // places in feeItems
 
 struct EnrolmentForm {
   std::string_view name;
-  int percent;          // of the students
-  int tuitionPercent;   // of the major's tuition
+  int percent;         // of the students
+  int tuitionPercent;  // of the major's tuition
 };
 constexpr std::array<EnrolmentForm, 5> enrolmentForms{
     {{"统招", 58, 100}, {"自主招生", 22, 100}, {"对口升学", 10, 90}, {"联合办学", 6, 120}, {"转学", 4, 100}}};

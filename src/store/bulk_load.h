@@ -1,6 +1,6 @@
 // Writes very many rows into one table: the table's indexes are set aside meanwhile and built at the end, which is many
-// times quicker than keeping them up row by row. For schools that are made or brought in as a whole; needs a unit of work
-// around it, so that nobody ever meets the table without its indexes.
+// times quicker than keeping them up row by row. For schools that are made or brought in as a whole; needs a unit of
+// work around it, so that nobody ever meets the table without its indexes.
 #pragma once
 
 #include <string_view>
