@@ -31,6 +31,8 @@ function(room name)
     return()
   endif()
   include_tree(${name} tree ${name} ${ROOM_DEPENDS})
+  set(ROOMS ${ROOMS} ${name} PARENT_SCOPE)  # the rooms that have sources, and what each sees
+  set(${name}_SEES ${ROOM_DEPENDS} PARENT_SCOPE)
   add_library(${name} STATIC ${sources})
   target_include_directories(${name} PRIVATE ${tree})
   target_compile_options(${name} PRIVATE ${WARNINGS})

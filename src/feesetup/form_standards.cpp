@@ -47,7 +47,7 @@ void Formszsfbz3::load() {
 
 // What stands for the form; rows beyond the eleventh have no line and go when the form is saved.
 void Formszsfbz3::loadForm() {
-  if (!modifies_) return lines.front().sfxmmc.focus();
+  if (!modifies_) return;
   for (StandardLine& line : lines) line.clear();
   auto standards = rows(Sql("select * from sfbzbrxxs where rxxs='") + rxxs.trimmed() + "'");
   if (standards.empty()) {
@@ -60,7 +60,6 @@ void Formszsfbz3::loadForm() {
     line.je.set(standards.get("je").money().fixed2());
     standards.next();
   }
-  lines.front().sfxmmc.focus();
 }
 
 std::vector<kit::Rule> Formszsfbz3::rules() {

@@ -64,6 +64,11 @@ void Field::drop() {
 
 void Field::pick(const std::string& choice) {
   drop();
+  take(choice);
+}
+
+void Field::take(const std::string& choice) {
+  mustBeReachable();
   if (std::find(choices_.begin(), choices_.end(), choice) == choices_.end())
     throw std::logic_error(name + " does not offer " + choice);
   screen_.run([&] {

@@ -42,7 +42,9 @@ class Field : public Member {
   // The person's side.
   void type(const std::string& text);  // replaces what stands there; focuses first
   void enter();                        // without a handler of its own, moves on to the next field or confirms
+  bool handlesEnter() const { return !enter_.empty(); }
   void drop();
+  void take(const std::string& choice);  // of the list that has dropped
   void pick(const std::string& choice);  // drops the list, then takes the entry
   void click();
   void doubleClick();

@@ -57,6 +57,7 @@ void Screen::run(const Handler& event) {
 }
 
 void Screen::moveOnFrom(const Member& member) {
+  if (closed_) return;
   const Layout plan = layout();
   const auto order = readingOrder(plan);
   const auto here = std::find(order.begin(), order.end(), &member);

@@ -37,6 +37,7 @@ class Screen {
   // in words, and the event ends there.
   void run(const Handler& event);
   void start() { run([this] { load(); }); }
+  bool busy() const { return depth_ > 0; }  // inside an event
 
   // Enter in a field without a handler of its own: on to the next entry field, from the last one to the confirm action.
   // Ticks and choices move on in the same way.

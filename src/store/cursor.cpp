@@ -18,7 +18,13 @@ Database& Cursor::database() {
 }
 
 void Cursor::rewind() {
+  if (stream_ && atFirst_) return;
+  drop();
+}
+
+void Cursor::drop() {
   stream_.giveBack();
+  atFirst_ = unread_ = false;
   row_.reset();
   rest_.clear();
   groups_.clear();
@@ -26,10 +32,23 @@ void Cursor::rewind() {
 }
 
 void Cursor::start(const std::string& sql, bool single) {
-  rewind();
+  drop();
   stream_ = Loan(database(), sql, query_.values);
   single_ = single;
   step();
+  atFirst_ = !single && place_ == Place::Row;
+}
+
+// Goes on behind the first row, which may not be the first any more: then all others come behind it.
+void Cursor::resume() {
+  unread_ = false;
+  stream_ = Loan(database(), query_.walk, query_.values);
+  bool row = stream_->step();
+  if (row && stream_->integer(0) == rowNo_) return;
+  for (; row; row = stream_->step()) {
+    if (stream_->integer(0) != rowNo_) rest_.push_back(stream_->integer(0));
+  }
+  stream_.giveBack();
 }
 
 void Cursor::step() {
@@ -55,6 +74,8 @@ bool Cursor::atRow() {
 
 void Cursor::next() {
   if (!atRow()) return;
+  if (unread_) resume();
+  atFirst_ = false;
   if (stream_) return step();
   row_.reset();
   if (!groups_.empty()) {
@@ -86,7 +107,7 @@ Value Cursor::value(std::size_t column) {
 }
 
 void Cursor::standOn(std::int64_t rowNo) {
-  rewind();
+  drop();
   rowNo_ = rowNo;
   place_ = Place::Row;
 }
@@ -102,7 +123,18 @@ long long Cursor::count() {
   return statement->step() ? statement->integer(0) : 0;
 }
 
+void Cursor::release() {
+  if (!stream_ || !atFirst_ || query_.grouped) return pinStream();
+  stream_.giveBack();
+  unread_ = true;
+}
+
 void Cursor::pin() {
+  if (unread_) resume();
+  pinStream();
+}
+
+void Cursor::pinStream() {
   if (!stream_) return;
   if (query_.grouped) row_ = rowOf(*stream_);
   while (!single_ && stream_->step()) {

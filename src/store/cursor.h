@@ -24,6 +24,7 @@ class Cursor {
   Database& database();
 
   void rewind();  // before the first row, to be read when it is asked for
+  void drop();    // the same, and the next look runs the statement again
   void last();
   void next();
   bool atRow();
@@ -33,7 +34,9 @@ class Cursor {
   bool empty();
   long long count();
 
-  void pin();     // needs no open statement from here on
+  void pin();  // before a write to its table: notes the rows that remain
+  void
+  release();  // holds no lock from here on; what others write may join a walk that has not gone on from its first row
   void forget();  // what it read of its current row may be old
 
  private:
@@ -42,6 +45,8 @@ class Cursor {
 
   void start(const std::string& sql, bool single);
   void step();
+  void resume();
+  void pinStream();
   std::optional<Row> fetch(std::int64_t rowNo);
   Row rowOf(const Statement& statement) const;
 
@@ -50,7 +55,9 @@ class Cursor {
   int generation_;
   Place place_ = Place::Before;
   Loan stream_;
-  bool single_ = false;  // the stream holds one row, and nothing comes behind it
+  bool single_ = false;   // the stream holds one row, and nothing comes behind it
+  bool atFirst_ = false;  // the walk stands on its first row
+  bool unread_ = false;   // and has let go of its stream there: a look at a large table costs one row
   std::int64_t rowNo_ = 0;
   std::optional<Row> row_;         // the current row of a pinned walk, once read
   std::deque<std::int64_t> rest_;  // the rows behind it

@@ -9,6 +9,12 @@ namespace store {
 namespace {
 
 constexpr std::size_t mostIdle = 200;  // prepared statements that wait for their next use
+constexpr const char* nothingSaved = "本次操作的内容全部没有保存！";
+
+struct Ending {  // of the outermost unit, whatever comes of it
+  int& depth;
+  ~Ending() { depth = 0; }
+};
 
 }  // namespace
 
@@ -58,15 +64,19 @@ void Database::replace(Opener opener) {
 }
 
 void Database::settle() {
-  for (Cursor* cursor : cursors_) cursor->pin();
+  for (Cursor* cursor : cursors_) cursor->release();
 }
 
 long long Database::write(const Table& table, const std::string& sql, const std::vector<Cell>& values) {
   failIfLost();
   // Outside a unit no read may stay under way: two computers that read while they write would wait for each other.
   for (Cursor* cursor : cursors_) {
-    if (!inUnit() || &cursor->table() == &table) cursor->pin();
-    if (&cursor->table() == &table) cursor->forget();
+    if (&cursor->table() == &table) {
+      cursor->pin();
+      cursor->forget();
+    } else if (!inUnit()) {
+      cursor->release();
+    }
   }
   Engine& to = engine();
   try {
@@ -74,7 +84,7 @@ long long Database::write(const Table& table, const std::string& sql, const std:
     statement->step();
   } catch (const StoreError& error) {
     if (!inUnit() || to.inTransaction()) throw;
-    throw StoreError(error.fault, std::string(error.what()) + "本次操作的内容全部没有保存！");
+    throw StoreError(error.fault, error.what() + std::string(nothingSaved));
   }
   const long long changes = to.changes();
   if (!inUnit()) to.committed();
@@ -94,8 +104,9 @@ void Database::finishUnit() {
     --depth_;
     return;
   }
-  depth_ = 0;
+  const Ending ending{depth_};
   commit();
+  engine_->committed();
 }
 
 void Database::abandonUnit() noexcept {
@@ -107,22 +118,21 @@ void Database::abandonUnit() noexcept {
 
 // The engine rolls back by itself when the disk is full or fails: what came before is gone too.
 void Database::failIfLost() const {
-  if (!inUnit() || engine_->inTransaction()) return;
-  throw StoreError(Fault::Other, "前面的内容未能写入磁盘，本次操作的内容全部没有保存！");
+  if (inUnit() && !engine_->inTransaction()) {
+    throw StoreError(Fault::Other, std::string("前面的内容未能写入磁盘，") + nothingSaved);
+  }
 }
 
 void Database::commit() {
-  if (!engine_->inTransaction()) {
-    throw StoreError(Fault::Other, "前面的内容未能写入磁盘，本次操作的内容全部没有保存！");
-  }
   try {
+    failIfLost();
     engine_->commit();
   } catch (const StoreError& error) {
     engine_->rollback();
     for (Cursor* cursor : cursors_) cursor->forget();
-    throw StoreError(error.fault, std::string(error.what()) + "本次操作的内容全部没有保存！");
+    const std::string words = error.what();
+    throw StoreError(error.fault, words.ends_with(nothingSaved) ? words : words + nothingSaved);
   }
-  engine_->committed();
 }
 
 void Database::dismiss(Cursor& cursor) {

@@ -67,6 +67,7 @@ struct RecordSet::State {
       values.push_back(cell(change.value));
     }
     if (editing == Editing::NewRow) {
+      at.drop();  // nothing comes behind a new row
       at.database().write(table, insertStatement(table, columns, phrases), values);
       at.standOn(at.database().engine().lastRowNo());
     } else if (!changes.empty()) {

@@ -1,5 +1,6 @@
 // Several computers at one store, and computers that die while they write.
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -55,6 +56,10 @@ class Computer {
   Computer(const Computer&) = delete;
   Computer& operator=(const Computer&) = delete;
 
+  void awaitReport() {
+    pollfd until{reports_, POLLIN, 0};
+    ::poll(&until, 1, 10000);
+  }
   void die() { kill(process_, SIGKILL); }
   std::vector<Receipt> reports() {  // waits for its end
     std::vector<Receipt> result;
@@ -114,7 +119,8 @@ TEST(Computers, WhatWasReportedSurvivesAnyDeath) {
   std::map<long long, int> reported;
   for (unsigned round = 0; round < 120; ++round) {
     Computer computer(folder.path(), 10s, round);
-    std::this_thread::sleep_for(std::chrono::microseconds(20000 + random() % 50000));
+    if (round % 10) computer.awaitReport();  // the others may die while they open the store
+    std::this_thread::sleep_for(std::chrono::microseconds(random() % 30000));
     computer.die();
     for (const Receipt& receipt : computer.reports()) reported[receipt.number] = receipt.lines;
     if (round % 20 == 19) {

@@ -178,6 +178,25 @@ TEST_P(Records, RowsThatOthersDeleteAreSkippedAndReadAfresh) {
   EXPECT_THAT(all(), ElementsAre("1", "4", "5"));
 }
 
+TEST_P(Records, AWalkGoesOnFromItsFirstRowAfterTheEvent) {
+  addNumbered(4);
+  for (const bool moved : {false, true}) {
+    RecordSet walk(*store_, "select * from jfjl order by lsh");
+    EXPECT_EQ(walk.get("lsh").text(), "1");
+    store_->settle();
+    if (moved) {  // another set puts the first row last
+      RecordSet other(*store_, "select * from jfjl where lsh='1'");
+      other.set("lsh", "9");
+      other.update();
+      store_->settle();
+    }
+    step();
+    std::vector<std::string> behind;
+    for (walk.next(); !walk.atEnd(); walk.next()) behind.push_back(walk.get("lsh").text());
+    EXPECT_THAT(behind, ElementsAre("2", "3", "4"));
+  }
+}
+
 TEST_P(Records, GroupsGoOnWhileTheTableChanges) {
   addNumbered(4);
   RecordSet names(*store_, "select xm from jfjl group by xm order by xm");

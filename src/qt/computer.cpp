@@ -1,0 +1,36 @@
+#include "qt/computer.h"
+
+#include <QDateTime>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QScreen>
+#include <QSysInfo>
+
+#include "qt/text.h"
+
+namespace qt {
+namespace {
+constexpr int longestName = 255;
+}
+
+base::DateTime QtClock::now() {
+  const QDateTime moment = QDateTime::currentDateTime();
+  const QDate date = moment.date();
+  const QTime time = moment.time();
+  return {{date.year(), date.month(), date.day()}, time.hour(), time.minute(), time.second()};
+}
+
+platform::WorkArea QtDesktop::workArea() {
+  const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+  return {area.x(), area.y(), area.x() + area.width(), area.y() + area.height()};
+}
+
+std::string QtDesktop::computerName() { return fromQt(QSysInfo::machineHostName().left(longestName)); }
+
+void QtDesktop::SetDisplayMode(int width, int height, int depth, int rate) { wishedMode = {width, height, depth, rate}; }
+
+bool QtDesktop::startProgram(const std::filesystem::path& program) {
+  return QProcess::startDetached(toQt(program.string()), {}, toQt(program.parent_path().string()));
+}
+
+}  // namespace qt

@@ -1,0 +1,34 @@
+// The real clock and the real computer.
+#pragma once
+
+#include <optional>
+
+#include "platform/clock.h"
+#include "platform/desktop.h"
+
+namespace qt {
+
+class QtClock : public platform::Clock {
+ public:
+  base::DateTime now() override;
+};
+
+class QtDesktop : public platform::Desktop {
+ public:
+  explicit QtDesktop(std::filesystem::path programFolder) : folder_(std::move(programFolder)) {}
+  platform::WorkArea workArea() override;
+  std::string computerName() override;
+  std::filesystem::path programFolder() override { return folder_; }
+  void SetDisplayMode(int width, int height, int depth, int rate) override;
+  bool startProgram(const std::filesystem::path& program) override;
+
+  struct DisplayMode {
+    int width, height, depth, rate;
+  };
+  std::optional<DisplayMode> wishedMode;  // the last one asked for; the desktop keeps its own
+
+ private:
+  std::filesystem::path folder_;
+};
+
+}  // namespace qt

@@ -1,0 +1,28 @@
+// A line edit with something that drops down: a list of choices or a calendar. Opens with its button, F4 or Alt+Down.
+#pragma once
+
+#include <QLineEdit>
+#include <QStringList>
+#include <functional>
+
+namespace qt {
+
+class DropEdit : public QLineEdit {
+  Q_OBJECT
+ public:
+  DropEdit(const QString& iconName, QWidget* parent);
+
+ signals:
+  void dropWanted();
+  void stepped(int by);               // Up and Down without the list
+  void searched(const QString& text);  // typed where nothing can be typed
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+};
+
+void dropChoices(QLineEdit& below, const QStringList& choices, std::function<void(const QString&)> chosen);
+void dropCalendar(QLineEdit& below, std::function<void(const QString&)> chosen);
+
+}  // namespace qt

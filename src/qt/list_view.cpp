@@ -1,0 +1,92 @@
+#include "qt/list_view.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QTimer>
+
+#include "qt/theme.h"
+
+namespace qt {
+namespace {
+constexpr int searchPause = 1500;  // milliseconds after which typing starts a new search
+}
+
+ListView::ListView(QWidget* parent) : QTableView(parent), notice_(new QLabel(this)) {
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(SingleSelection);
+  setEditTriggers(NoEditTriggers);
+  setAlternatingRowColors(true);
+  setTabKeyNavigation(false);
+  setWordWrap(false);
+  setHorizontalScrollMode(ScrollPerPixel);
+  setAttribute(Qt::WA_InputMethodEnabled);
+  verticalHeader()->hide();
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 9);
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setStretchLastSection(true);
+  horizontalHeader()->setMinimumSectionSize(30);
+  notice_->setStyleSheet("background: #fffff0; border: 1px solid #9dbfbf; border-radius: 4px; padding: 4px 8px;");
+  notice_->hide();
+}
+
+void ListView::keyboardSearch(const QString& text) {
+  const bool further = !typed_.isEmpty() && sinceTyped_.isValid() && sinceTyped_.elapsed() < searchPause;
+  typed_ = further ? typed_ + text : text;
+  sinceTyped_.start();
+  emit searched(typed_, further);
+  notice_->setText("查找：" + typed_);
+  notice_->adjustSize();
+  notice_->move(width() - notice_->width() - 20, height() - notice_->height() - 20);
+  notice_->show();
+  QTimer::singleShot(searchPause, this, [this] {
+    if (sinceTyped_.elapsed() >= searchPause) forget();
+  });
+}
+
+void ListView::forget() {
+  typed_.clear();
+  notice_->hide();
+}
+
+void ListView::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (currentIndex().isValid() && !event->isAutoRepeat()) emit opened(currentIndex().row());
+    return;
+  }
+  QTableView::keyPressEvent(event);
+}
+
+void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
+  QTableView::mouseDoubleClickEvent(event);
+  const QModelIndex index = indexAt(event->position().toPoint());
+  if (index.isValid() && event->button() == Qt::LeftButton) emit opened(index.row());
+}
+
+void ListView::inputMethodEvent(QInputMethodEvent* event) {
+  if (!event->commitString().isEmpty()) keyboardSearch(event->commitString());
+  event->accept();
+}
+
+QVariant ListView::inputMethodQuery(Qt::InputMethodQuery query) const {
+  if (query == Qt::ImEnabled) return true;
+  if (query == Qt::ImCursorRectangle) return visualRect(currentIndex());
+  return QTableView::inputMethodQuery(query);
+}
+
+void ListView::focusOutEvent(QFocusEvent* event) {
+  forget();
+  QTableView::focusOutEvent(event);
+}
+
+void ListView::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  if (!model() || model()->rowCount() > 0) return;
+  QPainter painter(viewport());
+  painter.setPen(theme::faint);
+  painter.drawText(viewport()->rect(), Qt::AlignCenter, "暂无记录");
+}
+
+}  // namespace qt

@@ -1,0 +1,112 @@
+#include <QHeaderView>
+#include <QMenu>
+#include <QScopedValueRollback>
+#include <memory>
+
+#include "qt/list_model.h"
+#include "qt/list_view.h"
+#include "qt/member_widgets.h"
+#include "qt/text.h"
+#include "qt/theme.h"
+
+namespace qt {
+namespace {
+
+constexpr int cellMargins = 18;
+
+// Between one list and its view.
+class ListLink : public QObject {
+ public:
+  ListLink(kit::List& list, ListView& view, Renderer& renderer)
+      : QObject(&view), list_(list), view_(view), renderer_(renderer), model_(list, this) {
+    view.setModel(&model_);
+    connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& now) { personChose(now.row()); });
+    connect(&view, &ListView::opened, this, [this](int row) {
+      if (renderer_.reachable(list_) && row < list_.count()) list_.doubleClick(row);
+    });
+    connect(&view, &ListView::searched, this, [this](const QString& start, bool further) { search(start, further); });
+    view.setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&view, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) { popUpMenu(at); });
+  }
+
+  // A list that is filled row by row tells of each: all of them are shown at once, when the event is over.
+  void changed() {
+    if (waiting_) return;
+    waiting_ = true;
+    QMetaObject::invokeMethod(this, [this] { show(); }, Qt::QueuedConnection);
+  }
+
+  void show() {
+    waiting_ = false;
+    const QScopedValueRollback quiet(showing_, true);
+    QStringList headings;
+    for (const kit::ListColumn& column : list_.columns()) headings << toQt(column.heading);
+    model_.refresh();
+    if (headings != headings_) {
+      headings_ = headings;
+      setWidths();
+    }
+    const int row = static_cast<int>(list_.selected());
+    if (row < 0) {
+      view_.setCurrentIndex({});
+      view_.clearSelection();
+    } else if (view_.currentIndex().row() != row || !view_.selectionModel()->isRowSelected(row)) {
+      view_.setCurrentIndex(model_.index(row, qMax(0, view_.currentIndex().column())));
+      view_.selectRow(row);
+    }
+  }
+
+ private:
+  void setWidths() {
+    for (int i = 0; i < static_cast<int>(list_.columns().size()); ++i) {
+      const auto& column = list_.columns()[static_cast<std::size_t>(i)];
+      const int heading = view_.horizontalHeader()->fontMetrics().horizontalAdvance(toQt(column.heading).trimmed());
+      view_.setColumnWidth(i, qMax(charactersWide(view_.fontMetrics(), column.width), heading) + cellMargins);
+    }
+  }
+
+  void personChose(int row) {
+    if (showing_) return;
+    if (row >= 0 && row < list_.count() && renderer_.reachable(list_)) list_.select(row);
+    if (list_.selected() != row) changed();
+  }
+
+  void search(const QString& start, bool further) {
+    const long long here = qMax(0, view_.currentIndex().row());
+    const long long row = list_.count() > 0 ? model_.find(start, further ? here : here + 1) : -1;
+    if (row >= 0) view_.setCurrentIndex(model_.index(static_cast<int>(row), qMax(0, view_.currentIndex().column())));
+  }
+
+  void popUpMenu(const QPoint& at) {
+    if (list_.menu.empty() || !renderer_.reachable(list_)) return;
+    auto* menu = new QMenu(&view_);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    renderer_.fillMenu(*menu, list_.menu);
+    menu->popup(view_.viewport()->mapToGlobal(at));
+  }
+
+  kit::List& list_;
+  ListView& view_;
+  Renderer& renderer_;
+  ListModel model_;
+  QStringList headings_;
+  bool waiting_ = false, showing_ = false;
+};
+
+}  // namespace
+
+QWidget* listWidget(kit::List& list, Renderer& renderer) {
+  auto* view = new ListView;
+  renderer.bind(list, view);
+  renderer.listen(list, view);
+  auto* link = new ListLink(list, *view, renderer);
+  link->show();
+  renderer.follow(list, [link] { link->changed(); });
+  for (kit::Action* entry : list.menu)
+    if (entry) renderer.action(*entry);
+  view->setMinimumHeight(view->fontMetrics().height() * 6);
+  return view;
+}
+
+}  // namespace qt

@@ -1,0 +1,74 @@
+#include "qt/person.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include "qt/icon.h"
+#include "qt/text.h"
+#include "qt/xp_button.h"
+
+namespace qt {
+namespace {
+
+constexpr int iconSide = 40;
+
+QPixmap pictureOf(kit::Box box, qreal ratio) {
+  switch (box) {
+    case kit::Box::Stop:
+    case kit::Box::AskStop: return iconPixmap("circle-x", iconSide, ratio, theme::stop);
+    case kit::Box::Warning: return iconPixmap("triangle-alert", iconSide, ratio, theme::warning);
+    case kit::Box::Ask: return iconPixmap("circle-question-mark", iconSide, ratio);
+    case kit::Box::Information:
+    case kit::Box::AskInfo: return iconPixmap("info", iconSide, ratio);
+  }
+  return {};
+}
+
+XPButton* addButton(QMessageBox& box, const char* caption, QMessageBox::ButtonRole role) {
+  auto* button = new XPButton(&box);
+  button->setText(caption);
+  button->setMinimumWidth(88);
+  box.addButton(button, role);
+  return button;
+}
+
+}  // namespace
+
+bool QtPerson::show(kit::Box box, const std::string& text, const std::string& title) {
+  QMessageBox message(QApplication::activeWindow());
+  message.setObjectName("message");
+  message.setWindowTitle(title.empty() ? programName_ : toQt(title));
+  message.setTextFormat(Qt::PlainText);
+  message.setText(toQt(text));
+  message.setIconPixmap(pictureOf(box, message.devicePixelRatioF()));
+  const bool question = box == kit::Box::Ask || box == kit::Box::AskStop || box == kit::Box::AskInfo;
+  XPButton* yes = addButton(message, question ? "是" : "确定", question ? QMessageBox::YesRole : QMessageBox::AcceptRole);
+  XPButton* leave = question ? addButton(message, "否", QMessageBox::NoRole) : yes;
+  if (question) {
+    yes->setShortcut(Qt::Key_Y);
+    leave->setShortcut(Qt::Key_N);
+  }
+  yes->setDefaultLook(true);
+  yes->setFocus();
+  message.setEscapeButton(leave);
+  message.exec();
+  return question && message.clickedButton() == yes;
+}
+
+QString dialogFilter(const std::string& filter) {
+  const QStringList parts = toQt(filter).split('|');
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
+    filters << parts[i].section('(', 0, 0).trimmed() + " (" + QString(parts[i + 1]).replace(';', ' ') + ")";
+  return filters.join(";;");
+}
+
+std::optional<std::string> QtPerson::chooseFile(const std::string& title, const std::string& filter) {
+  const QString path = QFileDialog::getOpenFileName(QApplication::activeWindow(), title.empty() ? programName_ : toQt(title), {},
+                                                    dialogFilter(filter), nullptr, QFileDialog::DontUseNativeDialog);
+  if (path.isEmpty()) return std::nullopt;
+  return fromQt(path);
+}
+
+}  // namespace qt

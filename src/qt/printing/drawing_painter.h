@@ -1,0 +1,28 @@
+// Paints a drawing on any paint device: screen, image, PDF and paper all show the same.
+#pragma once
+
+#include <QFont>
+#include <QPainter>
+#include <QString>
+
+#include "platform/drawing.h"
+
+class QPagedPaintDevice;
+
+namespace qt {
+
+constexpr double inchMillimetres = 25.4;
+
+// A painter that has begun and whose unit is the millimetre. A text's y is the top of its characters' square, whatever
+// the face's own measures are, so that faces stand on one line.
+void paintPage(QPainter& painter, const platform::Page& page);
+
+// Gives the device the drawing's paper, without margins.
+void setPaper(QPagedPaintDevice& device, const platform::Drawing& drawing);
+// The pages from first to last, counted from 1; false: the device took nothing.
+bool paintPages(QPagedPaintDevice& device, const platform::Drawing& drawing, int first, int last);
+
+// The characters of a text that none of the face's families can show.
+QString missingCharacters(platform::Face face, const QString& text);
+
+}  // namespace qt

@@ -1,0 +1,178 @@
+#include "qt/printing/preview_window.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QStandardPaths>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "platform/desktop.h"
+#include "qt/icon.h"
+#include "qt/printing/drawing_files.h"
+#include "qt/printing/drawing_painter.h"
+#include "qt/printing/page_view.h"
+#include "qt/text.h"
+
+namespace qt {
+
+constexpr double smallestZoom = 0.25, largestZoom = 4, zoomStep = 1.2;
+
+PreviewWindow::PreviewWindow(const platform::Drawing& drawing, QWidget* parent) : QDialog(parent), drawing_(drawing) {
+  setWindowTitle("打印预览 - " + toQt(drawing.title));
+  setWindowFlag(Qt::WindowMaximizeButtonHint);
+  auto* row = new QHBoxLayout;
+  addButton(*row, "print", "打印", "printer", {QKeySequence::Print}, &PreviewWindow::print)->setDefault(true);
+  addButton(*row, "savePdf", "另存为 PDF", "save", {QKeySequence::Save}, &PreviewWindow::savePdfAs);
+  row->addSpacing(12);
+  addButton(*row, "zoomIn", "放大", "zoom-in", {QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")}, &PreviewWindow::zoomIn);
+  addButton(*row, "zoomOut", "缩小", "zoom-out", {QKeySequence("Ctrl+-")}, &PreviewWindow::zoomOut);
+  addButton(*row, "fitWidth", "适合页宽", "move-horizontal", {QKeySequence("Ctrl+0")}, &PreviewWindow::fitWidth);
+  row->addSpacing(12);
+  previous_ = addButton(*row, "previousPage", "上一页", "chevron-left", {QKeySequence("PgUp")}, &PreviewWindow::previousPage);
+  row->addWidget(place_ = new QLabel);
+  next_ = addButton(*row, "nextPage", "下一页", "chevron-right", {QKeySequence("PgDown")}, &PreviewWindow::nextPage);
+  row->addSpacing(12);
+  row->addWidget(note_ = new QLabel, 1);
+  note_->setObjectName("note");
+  addButton(*row, "close", "关闭", "x", {}, &PreviewWindow::reject);  // Escape closes every dialog
+
+  scroll_ = new QScrollArea;
+  scroll_->setWidget(view_ = new PageView(drawing_));
+  scroll_->setWidgetResizable(true);
+  scroll_->setStyleSheet("QScrollArea, QScrollArea > QWidget > QWidget { background: #8a9596; }");
+  scroll_->viewport()->installEventFilter(this);
+  auto* all = new QVBoxLayout(this);
+  all->addLayout(row);
+  all->addWidget(scroll_, 1);
+  resize(1000, 680);
+  refresh();
+}
+
+QPushButton* PreviewWindow::addButton(QBoxLayout& row, const char* name, const QString& caption, const QString& picture,
+                                      std::initializer_list<QKeySequence> keys, void (PreviewWindow::*pressed)()) {
+  auto* button = new QPushButton(icon(picture), caption);
+  button->setObjectName(name);
+  button->setAutoDefault(false);
+  if (keys.size() > 0) button->setToolTip(caption + "  " + keys.begin()->toString(QKeySequence::NativeText));
+  connect(button, &QPushButton::clicked, this, pressed);
+  for (const QKeySequence& key : keys)
+    connect(new QShortcut(key, this), &QShortcut::activated, button, &QPushButton::click);
+  row.addWidget(button);
+  return button;
+}
+
+void PreviewWindow::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  if (fitsWidth_) fitWidth();
+}
+
+// With Ctrl the wheel zooms, without it scrolls and, at the end of a page, turns it.
+bool PreviewWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::Wheel) return QDialog::eventFilter(watched, event);
+  const auto* wheel = static_cast<QWheelEvent*>(event);
+  const bool up = wheel->angleDelta().y() > 0;
+  if (wheel->modifiers() & Qt::ControlModifier) {
+    up ? zoomIn() : zoomOut();
+    return true;
+  }
+  const QScrollBar* bar = scroll_->verticalScrollBar();
+  if (wheel->angleDelta().y() == 0 || bar->value() != (up ? bar->minimum() : bar->maximum())) return false;
+  if (up && page_ > 0) {
+    previousPage();
+    scroll_->verticalScrollBar()->setValue(bar->maximum());
+  } else if (!up) {
+    nextPage();
+  }
+  return true;
+}
+
+void PreviewWindow::zoomIn() { setZoom(zoom_ * zoomStep); }
+void PreviewWindow::zoomOut() { setZoom(zoom_ / zoomStep); }
+
+void PreviewWindow::setZoom(double zoom) {
+  fitsWidth_ = false;
+  zoom_ = std::clamp(zoom, smallestZoom, largestZoom);
+  refresh();
+}
+
+void PreviewWindow::fitWidth() {
+  // The scroll bar's width is left free, so that it does not come and go.
+  setZoom(view_->zoomForWidth(scroll_->width() - scroll_->verticalScrollBar()->sizeHint().width() - 4));
+  fitsWidth_ = true;
+}
+
+void PreviewWindow::previousPage() {
+  if (page_ > 0) turnTo(page_ - 1);
+}
+
+void PreviewWindow::nextPage() {
+  if (page_ + 1 < drawing_.pages.size()) turnTo(page_ + 1);
+}
+
+void PreviewWindow::turnTo(std::size_t page) {
+  page_ = page;
+  refresh();
+  scroll_->verticalScrollBar()->setValue(0);
+}
+
+void PreviewWindow::refresh() {
+  view_->show(page_, zoom_);
+  place_->setText(QString("第 %1 页 / 共 %2 页").arg(page_ + 1).arg(drawing_.pages.size()));
+  previous_->setEnabled(page_ > 0);
+  next_->setEnabled(page_ + 1 < drawing_.pages.size());
+}
+
+void PreviewWindow::print() {
+  if (QPrinterInfo::availablePrinterNames().isEmpty()) {
+    QMessageBox box(QMessageBox::Warning, "打印提示",
+                    "没有找到打印机。\n请检查打印机是否已接通电源，并已在系统中安装；也可以先另存为 PDF 文件，以后再打印。",
+                    QMessageBox::NoButton, this);
+    const auto* save = box.addButton("另存为 PDF", QMessageBox::AcceptRole);
+    box.addButton("取消", QMessageBox::RejectRole);
+    box.exec();
+    if (box.clickedButton() == save) savePdfAs();
+    return;
+  }
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setDocName(toQt(drawing_.title));
+  setPaper(printer, drawing_);
+  printer.setFullPage(true);
+  QPrintDialog dialog(&printer, this);
+  dialog.setWindowTitle("打印");
+  dialog.setMinMax(1, static_cast<int>(drawing_.pages.size()));
+  if (dialog.exec() == QDialog::Accepted) print(printer);
+}
+
+void PreviewWindow::print(QPrinter& printer) {
+  const bool some = printer.printRange() == QPrinter::PageRange;
+  const int first = some ? printer.fromPage() : 1;
+  const int last = some ? printer.toPage() : static_cast<int>(drawing_.pages.size());
+  if (paintPages(printer, drawing_, first, last)) return accept();
+  QMessageBox::critical(this, "打印提示", "打印没有成功，请检查打印机“" + printer.printerName() + "”后重试。");
+}
+
+void PreviewWindow::savePdfAs() {
+  const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  QString path = QFileDialog::getSaveFileName(this, "另存为 PDF", folder.filePath(toQt(drawing_.title) + ".pdf"),
+                                              "PDF 文件 (*.pdf)");
+  if (path.isEmpty()) return;
+  if (!path.endsWith(".pdf", Qt::CaseInsensitive)) path += ".pdf";
+  try {
+    savePdf(drawing_, path.toStdString());
+    note_->setText("已保存：" + QDir::toNativeSeparators(path));
+  } catch (const platform::PlatformError& error) {
+    QMessageBox::critical(this, "错误提示", toQt(error.what()));
+  }
+}
+
+}  // namespace qt

@@ -1,0 +1,52 @@
+// The preview: shows what is to be printed, prints it, saves it as PDF.
+#pragma once
+
+#include <QDialog>
+
+#include "platform/drawing.h"
+
+class QAction;
+class QBoxLayout;
+class QLabel;
+class QPrinter;
+class QPushButton;
+class QScrollArea;
+
+namespace qt {
+
+class PageView;
+
+class PreviewWindow : public QDialog {
+ public:
+  explicit PreviewWindow(const platform::Drawing& drawing, QWidget* parent = nullptr);
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QPushButton* addButton(QBoxLayout& row, const char* name, const QString& caption, const QString& icon,
+                         std::initializer_list<QKeySequence> keys, void (PreviewWindow::*pressed)());
+  void print();
+  void print(QPrinter& printer);
+  void savePdfAs();
+  void zoomIn();
+  void zoomOut();
+  void fitWidth();
+  void previousPage();
+  void nextPage();
+  void turnTo(std::size_t page);
+  void setZoom(double zoom);
+  void refresh();
+
+  const platform::Drawing& drawing_;
+  PageView* view_;
+  QScrollArea* scroll_;
+  QPushButton *previous_, *next_;
+  QLabel *place_, *note_;
+  std::size_t page_ = 0;
+  double zoom_ = 1;
+  bool fitsWidth_ = true;
+};
+
+}  // namespace qt

@@ -1,0 +1,133 @@
+#include "qt/screen_window.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QLayout>
+#include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "qt/icon.h"
+#include "qt/member_widgets.h"
+#include "qt/text.h"
+
+namespace qt {
+namespace {
+
+constexpr int margin = 16, frameHeight = 34, frameWidth = 4;
+constexpr int toolIcon = 26;
+
+// A page that needs more room than the desktop has is scrolled instead of being cut.
+QWidget* fitted(QWidget* page, const QSize& room) {
+  const QSize needed = page->minimumSizeHint();
+  if (needed.width() <= room.width() && needed.height() <= room.height()) return page;
+  auto* area = std::make_unique<QScrollArea>().release();  // the window owns what it shows
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setWidget(page);
+  return area;
+}
+
+}  // namespace
+
+ScreenWindow::ScreenWindow(kit::Screen& screen, const Views& views)
+    : screen_(screen), layout_(screen.layout()), renderer_(std::make_unique<Renderer>(screen, views)) {
+  setObjectName(toQt(screen.name));
+  setWindowIcon(icon("wallet-cards"));
+  setContextMenuPolicy(Qt::NoContextMenu);
+  if (layout_.frameless) setWindowFlag(Qt::FramelessWindowHint);
+  if (screen.backdrop) {
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, toQt(*screen.backdrop));
+    setPalette(colours);
+  }
+  addBars(layout_);
+  auto* page = std::make_unique<QWidget>().release();
+  auto* box = std::make_unique<QVBoxLayout>(page).release();
+  const int edge = layout_.root.kind == kit::Node::Kind::Custom ? 0 : margin;
+  box->setContentsMargins(edge, edge, edge, edge);
+  box->addWidget(renderer_->build(layout_.root));
+  const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+  setCentralWidget(fitted(page, area.size() - QSize(frameWidth, frameHeight)));
+  renderer_->setTabOrder(layout_);
+  renderer_->setDefault(layout_.confirm);
+
+  auto* escapeKey = new QShortcut(Qt::Key_Escape, this);
+  connect(escapeKey, &QShortcut::activated, this, [this] { escape(); });
+  const auto follow = [this] {
+    setWindowTitle(toQt(screen_.title()));
+    if (!screen_.closed()) return;
+    hide();
+    emit left();
+  };
+  screen_.view = follow;
+  follow();
+}
+
+ScreenWindow::~ScreenWindow() {
+  screen_.view = nullptr;
+  renderer_.reset();  // before the widgets go: their last events are no longer the screen's
+}
+
+void ScreenWindow::addBars(const kit::Layout& plan) {
+  for (const kit::Menu& entry : plan.menus) renderer_->fillMenu(*menuBar()->addMenu(toQt(entry.caption)), entry.entries);
+  if (!plan.toolbar.empty()) {
+    auto* bar = addToolBar("工具栏");
+    bar->setObjectName("toolbar");
+    bar->setMovable(false);
+    bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    bar->setIconSize(QSize(toolIcon, toolIcon));
+    for (kit::Action* one : plan.toolbar) bar->addAction(renderer_->action(*one));
+  }
+  for (kit::Field* field : plan.status) {
+    if (field == plan.status.front()) statusBar()->setSizeGripEnabled(false);
+    statusBar()->addWidget(renderer_->widget(*field), field == plan.status.back() ? 0 : 1);
+  }
+}
+
+QRect ScreenWindow::placeOn(const QRect& area) const {
+  const QSize wished(layout_.width, layout_.height);
+  const QSize size = sizeHint().expandedTo(wished).boundedTo(area.size() - QSize(frameWidth, frameHeight));
+  QRect place(QPoint(0, 0), size);
+  place.moveCenter(area.center() + QPoint(0, layout_.frameless ? 0 : frameHeight / 2));
+  return place;
+}
+
+void ScreenWindow::present() {
+  const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+  if (layout_.maximised && layout_.frameless) {
+    setGeometry(area);
+    show();
+  } else if (layout_.maximised) {
+    setGeometry(area.adjusted(0, frameHeight - frameWidth, 0, 0));  // for desktops that know no maximising
+    showMaximized();
+  } else {
+    setGeometry(placeOn(area));
+    show();
+  }
+  activateWindow();
+  renderer_->focusFirst(layout_);
+}
+
+void ScreenWindow::escape() {
+  if (!layout_.cancel) return leave();
+  if (renderer_->reachable(*layout_.cancel)) layout_.cancel->press();
+}
+
+void ScreenWindow::leave() {
+  screen_.run([this] {
+    if (!screen_.closed() && screen_.mayClose()) screen_.close();
+  });
+}
+
+void ScreenWindow::closeEvent(QCloseEvent* event) {
+  event->setAccepted(screen_.closed());
+  if (!screen_.closed() && !screen_.busy()) leave();
+}
+
+}  // namespace qt

@@ -1,0 +1,13 @@
+// Between the program's texts and Qt's.
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+namespace qt {
+
+inline QString toQt(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
+inline std::string fromQt(const QString& text) { return text.toStdString(); }
+
+}  // namespace qt

@@ -1,0 +1,42 @@
+// How the program looks: one calm set of colours, faces and measures for every window.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+
+#include "kit/member.h"
+#include "platform/drawing.h"
+
+class QApplication;
+class QFontMetrics;
+
+namespace qt {
+
+inline QColor toQt(const kit::Colour& colour) { return QColor(colour.red, colour.green, colour.blue); }
+
+namespace theme {
+const QColor panel = toQt(kit::panelColour);
+const QColor accent(15, 98, 104);       // deep teal: headings, focus, what is chosen
+const QColor accentDark(10, 74, 80);
+const QColor accentPale(221, 240, 239);
+const QColor ink(27, 42, 46);
+const QColor quiet(84, 108, 112);       // labels and notes
+const QColor faint(134, 156, 159);      // what is disabled
+const QColor rule(176, 203, 203);
+const QColor paper(255, 255, 255);
+const QColor paperAlternate(244, 250, 250);
+const QColor stop(186, 45, 45);
+const QColor warning(176, 112, 8);
+constexpr int pointSize = 10;
+}  // namespace theme
+
+// The face's family with its fall-backs: the named one first, then those that have the rare characters of names.
+QFont faceFont(platform::Face face, double points);
+
+// Width of so many Chinese characters.
+int charactersWide(const QFontMetrics& metrics, int characters);
+
+// Style, palette, fonts, the toolkit's own texts in Chinese.
+void applyTheme(QApplication& application);
+
+}  // namespace qt
