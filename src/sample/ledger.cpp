@@ -116,7 +116,7 @@ class Cashier {
         receipt.lines.push_back({item, school_.charge(one, item)});
       }
       left -= lines;
-      if (place == lines) left -= payShort(visit, receipt, left);
+      if (place == lines) payShort(visit, receipt, left);
       ledger_.receipts.push_back(std::move(receipt));
       wanted += static_cast<std::size_t>(random_.between(1, 20));
     }
@@ -130,9 +130,9 @@ class Cashier {
     return term.days[day];
   }
 
-  // Some pay part of the tuition only. Gives back how many of the lines left it used up for a later payment.
-  std::size_t payShort(const Visit& visit, Receipt& receipt, std::size_t left) {
-    if (!random_.percent(9) || arrearsOf_[receipt.date] >= fullArrearsDay) return 0;
+  // Some pay part of the tuition only; when they bring more later, one of the visit's lines goes to that day.
+  void payShort(const Visit& visit, Receipt& receipt, std::size_t& left) {
+    if (!random_.percent(9) || arrearsOf_[receipt.date] >= fullArrearsDay) return;
     Line& paid = receipt.lines.front();
     const base::Money owed = base::Money::yuan(100 * random_.between(3, 12));
     Arrears arrears{receipt.date,
@@ -147,7 +147,7 @@ class Cashier {
     base::Date later = arrears.since.plusDays(random_.between(10, 80));
     if (later.weekday() == 7) later = later.plusDays(1);
     const int fate = random_.below(100);
-    const bool payable = left > 0 && later <= today_ && taken_[later] < fullDay + 500;
+    const bool payable = left + receipt.lines.size() > 1 && later <= today_ && taken_[later] < fullDay + 500;
     if (fate < 12 && later <= today_) {
       arrears.state = Arrears::State::Waived;
       arrears.paid = owed;
@@ -155,13 +155,17 @@ class Cashier {
       arrears.state = fate < 50 ? Arrears::State::Settled : Arrears::State::Short;
       arrears.paid = fate < 50 ? owed : base::Money::yuan(100 * random_.between(1, 2));
       ++taken_[later];
+      if (left > 0) {
+        --left;
+      } else {
+        receipt.lines.pop_back();
+        --taken_[receipt.date];
+      }
       ledger_.receipts.push_back({later, visit.student, visit.term, {{tuition, arrears.paid}}});
     }
-    const bool paidLater = arrears.state == Arrears::State::Settled || arrears.state == Arrears::State::Short;
     if (arrears.state != Arrears::State::Open) arrears.changed = later;
     ++arrearsOf_[arrears.since];
     ledger_.arrears.push_back(arrears);
-    return paidLater ? 1 : 0;
   }
 
   Random& random_;
