@@ -161,7 +161,7 @@ SharingFrame::SharingFrame(kit::Screen& screen, kit::Desk& desk)
       list(screen, "sharing_list",
            {{"用户", "yhxm", kit::Format::Text, 4},
             {"计算机", "jsjmc", kit::Format::Text, 6},
-            {"开始时间", "kjsj", kit::Format::Text, 9}}),
+            {"开始时间", "kjsj", kit::Format::Text, 11}}),
       desk_(desk) {}
 
 void SharingFrame::refresh() {
