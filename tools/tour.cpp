@@ -182,7 +182,10 @@ int main(int argc, char** argv) {
   append(again, {{"Formzct", "次日控制台", [](QWidget& w) {
                     menu(w, "k2");
                   }},
-                 {"Formzct", "学籍总览", [](QWidget& w) { press(w, "students_back"); }}});
+                 {"Formzct/students_back", "学籍总览", [](QWidget& w) { press(w, "students_back"); }},
+                 {"Formzct/class_strip", "返回控制台", [](QWidget& w) { press(w, "class_strip"); }},
+                 {"Formzct/classes", "专业及班级", [](QWidget& w) { clickNode(w, "class_tree", "计算机应用11001班"); }},
+                 {"Formzct/classes", "班级学生", [](QWidget&) {}}});
   append(again, leave());
   Player next(again, folder, day.pictures());
   app::Office(program).run();

@@ -13,6 +13,7 @@
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
+#include <QTreeWidget>
 #include <cstdio>
 #include <stdexcept>
 
@@ -57,11 +58,14 @@ Player::Player(std::vector<Step> steps, std::string pictures, int numberedFrom)
 QWidget* Player::inFront(const std::string& name) const {
   QWidget* top = QApplication::activeModalWidget();
   if (name == "?") return qobject_cast<QMessageBox*>(top);
-  const QString wanted = QString::fromStdString(name);
-  if (top) return top->objectName() == wanted ? top : nullptr;
-  for (QWidget* window : QApplication::topLevelWidgets())
-    if (window->isVisible() && window->objectName() == wanted) return window;
-  return nullptr;
+  const QStringList wanted = QString::fromStdString(name).split('/');
+  if (!top)
+    for (QWidget* window : QApplication::topLevelWidgets())
+      if (window->isVisible() && window->objectName() == wanted[0]) top = window;
+  if (!top || top->objectName() != wanted[0]) return nullptr;
+  if (wanted.size() == 1) return top;
+  const auto* part = top->findChild<QWidget*>(wanted[1]);
+  return part && part->isVisible() ? top : nullptr;
 }
 
 void Player::tick() {
@@ -139,6 +143,14 @@ void chooseRow(QWidget& window, const char* list, int row) {
   if (row >= view.model()->rowCount()) throw std::runtime_error(std::string(list) + " has no row " + std::to_string(row));
   view.setFocus();
   view.setCurrentIndex(view.model()->index(row, 0));
+}
+
+void clickNode(QWidget& window, const char* tree, const std::string& text) {
+  auto& view = dynamic_cast<QTreeWidget&>(find(window, tree));
+  const auto found = view.findItems(QString::fromStdString(text), Qt::MatchExactly | Qt::MatchRecursive);
+  if (found.isEmpty()) throw std::runtime_error(std::string(tree) + " has no node " + text);
+  view.scrollToItem(found.first());
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualItemRect(found.first()).center());
 }
 
 void chooseOption(QWidget& window, const std::string& caption) {

@@ -9,7 +9,7 @@
 #include <vector>
 
 struct Step {
-  std::string window;                  // name of the window that must stand in front; "?" a message box
+  std::string window;                  // the window that must stand in front; "?" a message box; "a/b": b visible in it
   std::string what;                    // names the picture and the failure
   std::function<void(QWidget&)> act;   // what the person does there; may open further windows
 };
@@ -39,6 +39,7 @@ void press(QWidget& window, const char* member);                          // cli
 void key(QWidget& window, int key);                                       // on what has the focus
 void pick(QWidget& window, const char* member, const std::string& choice);
 void chooseRow(QWidget& window, const char* list, int row);
+void clickNode(QWidget& window, const char* tree, const std::string& text);
 void chooseOption(QWidget& window, const std::string& caption);            // the option button that begins so
 void setTick(QWidget& window, const char* check, bool on);
 void chooseTab(QWidget& window, const std::string& title);
