@@ -72,7 +72,7 @@ TEST(PaymentLedger, APaymentMovesTheArrearsOn) {
 
 // Computers on one shared folder, each a process of its own, that collect at the same time.
 TEST(PaymentLedger, TwoDesksNeverShareANumber) {
-  constexpr std::size_t receipts = 25;
+  constexpr std::size_t receipts = 12;
   support::FakeDesktop office;
   const auto connect = [&](store::Store& own) {
     own.connect(store::Connection::Main,
