@@ -28,6 +28,7 @@ namespace qt {
 constexpr double smallestZoom = 0.25, largestZoom = 4, zoomStep = 1.2;
 
 PreviewWindow::PreviewWindow(const platform::Drawing& drawing, QWidget* parent) : QDialog(parent), drawing_(drawing) {
+  setObjectName("preview");
   setWindowTitle("打印预览 - " + toQt(drawing.title));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   auto* row = new QHBoxLayout;
