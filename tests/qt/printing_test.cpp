@@ -1,6 +1,7 @@
 // Printing proof: what is drawn lies where it was asked for, at every density and in the PDF.
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QPrinter>
 #include <QProcess>
 #include <QPushButton>
