@@ -1,7 +1,7 @@
 // Printing proof: what is drawn lies where it was asked for, at every density and in the PDF.
 #include <gtest/gtest.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QPrinter>
 #include <QProcess>
 #include <QPushButton>
@@ -9,6 +9,7 @@
 
 #include "collection/receipt.h"
 #include "platform/desktop.h"
+#include "qt_test.h"
 #include "qt/printing/drawing_files.h"
 #include "qt/printing/drawing_painter.h"
 #include "qt/printing/preview_window.h"
@@ -21,13 +22,7 @@ using platform::Text;
 
 class Printing : public testing::Test {
  protected:
-  static void SetUpTestSuite() {
-    if (qApp) return;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int count = 1;
-    static char name[] = "test", *arguments[] = {name, nullptr};
-    static QApplication application(count, arguments);
-  }
+  static void SetUpTestSuite() { support::application(); }
 
   // The first page of a PDF, through another program's eyes.
   QImage pictureOf(const QString& pdf, int dotsPerInch) {
