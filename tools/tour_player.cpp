@@ -13,6 +13,7 @@
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
+#include <QTreeWidget>
 #include <cstdio>
 #include <stdexcept>
 
@@ -142,6 +143,14 @@ void chooseRow(QWidget& window, const char* list, int row) {
   if (row >= view.model()->rowCount()) throw std::runtime_error(std::string(list) + " has no row " + std::to_string(row));
   view.setFocus();
   view.setCurrentIndex(view.model()->index(row, 0));
+}
+
+void clickNode(QWidget& window, const char* tree, const std::string& text) {
+  auto& view = dynamic_cast<QTreeWidget&>(find(window, tree));
+  const auto found = view.findItems(QString::fromStdString(text), Qt::MatchExactly | Qt::MatchRecursive);
+  if (found.isEmpty()) throw std::runtime_error(std::string(tree) + " has no node " + text);
+  view.scrollToItem(found.first());
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualItemRect(found.first()).center());
 }
 
 void chooseOption(QWidget& window, const std::string& caption) {

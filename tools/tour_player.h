@@ -39,6 +39,7 @@ void press(QWidget& window, const char* member);                          // cli
 void key(QWidget& window, int key);                                       // on what has the focus
 void pick(QWidget& window, const char* member, const std::string& choice);
 void chooseRow(QWidget& window, const char* list, int row);
+void clickNode(QWidget& window, const char* tree, const std::string& text);
 void chooseOption(QWidget& window, const std::string& caption);            // the option button that begins so
 void setTick(QWidget& window, const char* check, bool on);
 void chooseTab(QWidget& window, const std::string& title);

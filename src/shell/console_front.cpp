@@ -27,19 +27,19 @@ constexpr CardLine cardLines[] = {
     {Whole, "sfzhm", "身份证号", &StudentCard::sfzhm},
     {Whole, "bjmc", "院校班级", &StudentCard::bjmc},
     {Whole, "zymc", "所学专业", &StudentCard::zymc},
-    {Whole, "rxrq", "入学日期", &StudentCard::rxrq},
+    {Half, "rxrq", "入学日期", &StudentCard::rxrq},
     {Half, "rxxs", "入学形式", &StudentCard::rxxs},
-    {Half, "sfbz", "收费标准", &StudentCard::sfbz},
     {Half, "lxdh", "联系电话", &StudentCard::lxdh},
     {Half, "sjhm", "手机号码", &StudentCard::sjhm},
     {Whole, "jtzz", "家庭住址", &StudentCard::jtzz},
     {Whole, "byxx", "原毕业校", &StudentCard::byxx},
     {Whole, "yhkh", "信用卡号", &StudentCard::yhkh},
+    {Half, "sfbz", "收费标准", &StudentCard::sfbz},
     {Half, "yzbm", "邮政编码", &StudentCard::yzbm},
     {Half, "loumc", "楼名称", &StudentCard::loumc},
     {Half, "ssbh", "宿舍编号", &StudentCard::ssbh},
     {Half, "cwh", "床位号", &StudentCard::cwh},
-    {Whole, "rq", "入住日期", &StudentCard::rq},
+    {Half, "rq", "入住日期", &StudentCard::rq},
 };
 
 const std::vector<kit::ListColumn> paymentColumns{
@@ -160,8 +160,8 @@ SharingFrame::SharingFrame(kit::Screen& screen, kit::Desk& desk)
     : frame(screen, "sharing", "系统共享状态："),
       list(screen, "sharing_list",
            {{"用户", "yhxm", kit::Format::Text, 4},
-            {"计算机", "jsjmc", kit::Format::Text, 6},
-            {"开始时间", "kjsj", kit::Format::Text, 9}}),
+            {"计算机", "jsjmc", kit::Format::Text, 5},
+            {"开始时间", "kjsj", kit::Format::Text, 10}}),
       desk_(desk) {}
 
 void SharingFrame::refresh() {

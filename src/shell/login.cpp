@@ -17,6 +17,7 @@ using store::RecordSet;
 using store::Sql;
 
 Formcsh5::Formcsh5(kit::Desk& all) : Screen(all, "Formcsh5", "") {
+  school.prominent = true;
   yhxm.onDrop([this] { fillUsers(); });
   yhxm.onChange([this] { storedPassword_.clear(), level_.clear(); });
   yhxm.onPick([this] { chooseUser(); });

@@ -2,24 +2,27 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
+#include <algorithm>
 #include <QSplitter>
 
+#include "qt/theme.h"
 #include "shell/console.h"
 #include "shell/view/shell_views.h"
 
 namespace shell {
 namespace {
 
-constexpr int classPanelWidth = 380, cardWidth = 400, sharingWidth = 300;
+constexpr int classPanelWidth = 380, cardWidth = 400, sharingWidth = 345;
 
 // The strip at the window's left edge, its words one below the other.
 class Strip : public QAbstractButton {
  public:
   Strip() {
-    setFixedWidth(26);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
   }
+  QSize sizeHint() const override { return QSize(26, 160); }
 
  protected:
   void paintEvent(QPaintEvent*) override {
@@ -53,8 +56,8 @@ class ConsoleArea : public QWidget {
   ConsoleArea(Formzct& console, QWidget* front, std::vector<QWidget*> covers, QWidget* classes, QWidget* strip)
       : console_(console), front_(front), covers_(std::move(covers)), classes_(classes), strip_(strip) {
     for (QWidget* part : parts()) part->setParent(this);
-    for (QWidget* cover : covers_) cover->setAutoFillBackground(true);
-    classes_->setAutoFillBackground(true);
+    for (QWidget* cover : covers_) cover->installEventFilter(this);
+    classes_->setStyleSheet("#classes { background: " + qt::theme::panel.name() + "; }");
     strip_->installEventFilter(this);
     front_->installEventFilter(this);
   }
@@ -74,6 +77,9 @@ class ConsoleArea : public QWidget {
     const bool open = console_.classes.frame.visible();
     if (enters && console_.class_strip.enabled() && ((object == strip_ && !open) || (object == front_ && open)))
       console_.class_strip.press();
+    // A shown overview stands alone: what it covers must neither shine through nor take the focus.
+    if ((event->type() == QEvent::Show || event->type() == QEvent::Hide) && object != strip_ && object != front_)
+      front_->setVisible(std::none_of(covers_.begin(), covers_.end(), [](QWidget* cover) { return cover->isVisibleTo(cover->parentWidget()); }));
     return QWidget::eventFilter(object, event);
   }
 

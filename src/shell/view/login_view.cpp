@@ -1,6 +1,7 @@
 #include <QPainter>
 #include <QPixmap>
 
+#include "qt/text.h"
 #include "qt/theme.h"
 #include "shell/login.h"
 #include "shell/view/shell_views.h"
