@@ -146,7 +146,7 @@ QWidget* dateField(kit::Field& field, Renderer& renderer) {
   QObject::connect(edit, &DropEdit::dropWanted, &renderer, [edit, &field, &renderer] {
     if (!renderer.reachable(field)) return;
     dropCalendar(*edit, [&](const QString& date) {
-      if (renderer.reachable(field)) field.type(fromQt(date));
+      if (renderer.reachable(field)) field.take(fromQt(date));
     });
   });
   return edit;
