@@ -32,6 +32,10 @@ double DebtLine::amount(std::size_t place) const { return base::leadingNumber(in
 Formqfcl::Formqfcl(kit::Desk& all) : Screen(all, "Formqfcl", "学生欠费信息编辑") {
   xh.onEnter([this] { findByNumber(); });
   xm.onEnter([this] { findByName(); });
+  // A name is looked up by Enter; left in any other way it stays the name of the student whose number stands there.
+  xm.onLeave([this] {
+    if (!bjmc.blank()) xm.set(takenName_);
+  });
   for (DebtLine& line : lines) wire(line);
   confirm.onPress([this] { save(); });
   cancel.onPress([this] {
@@ -87,6 +91,7 @@ void Formqfcl::take(store::RecordSet& student) {
   xm.set(student.get("xm").trimmed());
   bjmc.set(student.get("bjmc").trimmed());
   xtbh = student.get("xtbh").trimmed();
+  takenName_ = xm.text();
   desk.session.current_xh = xh.text();
 }
 

@@ -62,6 +62,8 @@ class Formqfcl : public kit::Screen {  // 学生欠费信息编辑
   std::vector<kit::Rule> rules();
   ArrearsEntry entry() const;
   void remind();
+
+  std::string takenName_;
 };
 
 }  // namespace arrears
