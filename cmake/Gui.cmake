@@ -1,5 +1,5 @@
 # The windows: the room `qt`, the hand-made views of the rooms, the register of screens, the program.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport Svg)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport Svg Test)
 
 # The icons of src/qt/icons.txt, out of the pinned icon set, as one compiled-in resource.
 set(ICON_SET ${CMAKE_SOURCE_DIR}/node_modules/lucide-static/icons)
@@ -43,11 +43,19 @@ foreach(name ${ROOMS})
   endif()
 endforeach()
 
-gui_library(screens SEES app qt ${ROOMS} SOURCES ${CMAKE_SOURCE_DIR}/src/app/screens.cpp LINK views qt ${ROOMS})
+gui_library(screens SEES app qt ${ROOMS} SOURCES ${CMAKE_SOURCE_DIR}/src/app/screens.cpp ${CMAKE_SOURCE_DIR}/src/app/office.cpp LINK views qt ${ROOMS})
 
-include_tree(fee-office tree app qt ${ROOMS})
-add_executable(fee-office ${CMAKE_SOURCE_DIR}/src/app/main.cpp)
-target_include_directories(fee-office PRIVATE ${tree})
-target_compile_options(fee-office PRIVATE ${WARNINGS})
-target_link_libraries(fee-office PRIVATE screens)
-set_target_properties(fee-office PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+# gui_program(NAME sources... LINK libraries...): the program itself and the tools that open windows.
+function(gui_program name)
+  cmake_parse_arguments(PROGRAM "" "" "SOURCES;LINK" ${ARGN})
+  include_tree(${name} tree app qt ${ROOMS})
+  add_executable(${name} ${PROGRAM_SOURCES})
+  target_include_directories(${name} PRIVATE ${tree})
+  target_compile_options(${name} PRIVATE ${WARNINGS})
+  target_link_libraries(${name} PRIVATE ${PROGRAM_LINK})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+endfunction()
+
+gui_program(fee-office SOURCES src/app/main.cpp LINK screens)
+gui_program(tour SOURCES tools/tour.cpp tools/tour_player.cpp LINK screens Qt6::Test)
+gui_program(pictures SOURCES tools/pictures.cpp LINK Qt6::Gui)

@@ -3,15 +3,9 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "app/screens.h"
-#include "qt/computer.h"
-#include "qt/navigator.h"
-#include "qt/person.h"
-#include "qt/progress.h"
+#include "app/office.h"
 #include "qt/text.h"
 #include "qt/theme.h"
-#include "shell/splash.h"
-#include "shell/start.h"
 
 int main(int argc, char** argv) {
   // Printing and the clipboard need a folder of the session; a bare desktop may have none.
@@ -22,14 +16,6 @@ int main(int argc, char** argv) {
   qt::applyTheme(application);
   const QStringList words = QApplication::arguments();
   const QString folder = words.size() > 1 ? words[1] : QApplication::applicationDirPath();
-
-  store::Store store(qt::fromQt(QDir(folder).absolutePath()));
-  kit::Session session;
-  qt::QtPerson person(shell::productTitle);
-  qt::QtNavigator navigator(app::views());
-  qt::QtClock clock;
-  qt::QtDesktop desktop(qt::fromQt(QDir(folder).absolutePath()));
-  qt::QtProgress progress;
-  store.onWait = [&](bool waiting) { progress.waiting(waiting); };
-  return 0;
+  app::Office office(qt::fromQt(QDir(folder).absolutePath()));
+  return office.run();
 }

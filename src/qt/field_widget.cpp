@@ -16,6 +16,7 @@ namespace {
 using kit::Entry;
 
 constexpr int usualWidth = 10, dateWidth = 7, leastShown = 3, memoLines = 3;  // characters; lines
+constexpr double prominentScale = 1.5;
 
 // A text that can be selected for copying, but not changed. One too long for its place ends with a mark and is told in
 // full by its tip.
@@ -63,6 +64,14 @@ void colour(QWidget& widget, const kit::Field& field) {
     for (const auto group : {QPalette::Active, QPalette::Inactive})
       for (const auto role : {QPalette::Text, QPalette::WindowText}) palette.setColor(group, role, toQt(*field.colour()));
   widget.setPalette(palette);
+}
+
+void enlarge(QWidget& widget, const kit::Field& field) {
+  if (!field.prominent) return;
+  QFont font = widget.font();
+  font.setPointSizeF(font.pointSizeF() * prominentScale);
+  font.setBold(true);
+  widget.setFont(font);
 }
 
 // The edit shows what the field holds; typing goes to the field, which may change the very text that is being typed.
@@ -180,6 +189,7 @@ QWidget* lineField(kit::Field& field, Renderer& renderer) {
 
 QWidget* shownField(kit::Field& field, Renderer& renderer) {
   auto* edit = new ShownEdit(nullptr);
+  enlarge(*edit, field);
   keepInStep(*edit, field, renderer);
   renderer.follow(field, [edit, &field] {
     edit->tip = field.tip();
@@ -211,6 +221,7 @@ QWidget* fieldWidget(kit::Field& field, Renderer& renderer) {
 
 QWidget* shownText(kit::Field& field, Renderer& renderer) {
   auto* label = new QLabel;
+  enlarge(*label, field);
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
   label->setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -5,6 +5,9 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+// The icons lie in a static library, which the linker leaves out unless they are asked for.
+static void keepIcons() { Q_INIT_RESOURCE(icons); }
+
 namespace qt {
 namespace {
 
@@ -37,6 +40,7 @@ class TintedEngine : public QIconEngine {
 }  // namespace
 
 QIcon icon(const QString& name, const QColor& colour) {
+  keepIcons();
   QFile file(pathOf(name));
   if (name.isEmpty() || !file.open(QIODevice::ReadOnly)) return {};
   return QIcon(std::make_unique<TintedEngine>(file.readAll(), colour).release());

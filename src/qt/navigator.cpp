@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QPointer>
 #include <QWindow>
 #include <algorithm>
 
@@ -19,7 +20,7 @@ std::vector<kit::Screen*> QtNavigator::standing() {
 void QtNavigator::run(kit::Screen& screen) {
   screen.start();
   if (screen.closed()) return;
-  const QWidget* below = QApplication::activeWindow();
+  const QPointer<QWidget> below = QApplication::activeWindow();
   ScreenWindow window(screen, views_);
   window.setWindowModality(Qt::ApplicationModal);
   window.setWindowFlag(Qt::Dialog);
@@ -30,6 +31,7 @@ void QtNavigator::run(kit::Screen& screen) {
   window.present();
   if (onShown) onShown(window);
   if (!screen.closed()) loop.exec();
+  if (below) below->activateWindow();  // a bare display does not do it by itself
   sweepSoon();
 }
 

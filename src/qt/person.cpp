@@ -36,7 +36,8 @@ XPButton* addButton(QMessageBox& box, const char* caption, QMessageBox::ButtonRo
 }  // namespace
 
 bool QtPerson::show(kit::Box box, const std::string& text, const std::string& title) {
-  QMessageBox message(QApplication::activeWindow());
+  QWidget* const below = QApplication::activeWindow();
+  QMessageBox message(below);
   message.setObjectName("message");
   message.setWindowTitle(title.empty() ? programName_ : toQt(title));
   message.setTextFormat(Qt::PlainText);
@@ -53,6 +54,7 @@ bool QtPerson::show(kit::Box box, const std::string& text, const std::string& ti
   yes->setFocus();
   message.setEscapeButton(leave);
   message.exec();
+  if (below) below->activateWindow();
   return question && message.clickedButton() == yes;
 }
 

@@ -18,7 +18,8 @@ namespace qt {
 using kit::Entry;
 using kit::MemberKind;
 
-Renderer::Renderer(kit::Screen& screen, const Views& views) : screen_(screen), views_(views) {
+Renderer::Renderer(kit::Screen& screen, const Views& views, QObject* window)
+    : QObject(window), screen_(screen), views_(views) {
   screen_.focusWanted = [this](kit::Member& member) { focus(member); };
   for (kit::Member* one : screen_.members())
     if (one->kind == MemberKind::Timer) runTimer(static_cast<kit::Timer&>(*one), screen_, *this);

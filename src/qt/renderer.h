@@ -27,7 +27,7 @@ using Views = std::map<std::string, ViewBuilder>;  // by the custom node's text
 
 class Renderer : public QObject {
  public:
-  Renderer(kit::Screen& screen, const Views& views);
+  Renderer(kit::Screen& screen, const Views& views, QObject* window);
   ~Renderer() override;
 
   QWidget* build(const kit::Node& node);  // a part of the layout with all that stands in it

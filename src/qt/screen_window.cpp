@@ -36,7 +36,7 @@ QWidget* fitted(QWidget* page, const QSize& room) {
 }  // namespace
 
 ScreenWindow::ScreenWindow(kit::Screen& screen, const Views& views)
-    : screen_(screen), layout_(screen.layout()), renderer_(std::make_unique<Renderer>(screen, views)) {
+    : screen_(screen), layout_(screen.layout()), renderer_(std::make_unique<Renderer>(screen, views, this)) {
   setObjectName(toQt(screen.name));
   setWindowIcon(icon("wallet-cards"));
   setContextMenuPolicy(Qt::NoContextMenu);

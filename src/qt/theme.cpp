@@ -84,6 +84,11 @@ QStatusBar::item { border: none; }
 QStatusBar QLineEdit[shown="true"] { border: none; color: #45696c; }
 QCheckBox, QRadioButton { spacing: 7px; padding: 2px 1px; }
 QCheckBox:focus, QRadioButton:focus { border: 1px dotted #0f6268; border-radius: 3px; padding: 1px 0; }
+QPushButton { background: #f7fbfb; border: 1px solid #8cb2b3; border-radius: 4px; padding: 5px 14px; min-width: 60px; }
+QPushButton:hover { border-color: #0f6268; background: #ddf0ef; }
+QPushButton:pressed { background: #c4dedd; }
+QPushButton:focus { border: 2px solid #0f6268; padding: 4px 13px; }
+QPushButton:disabled { background: #e2ecec; border-color: #bed0d0; color: #869c9f; }
 QProgressBar { border: 1px solid #9dbfbf; border-radius: 4px; background: #ffffff; text-align: center; min-height: 16px; }
 QProgressBar::chunk { background: #4d9c9d; border-radius: 3px; }
 QToolTip { background: #fffff0; color: #1b2a2e; border: 1px solid #9dbfbf; padding: 4px; }

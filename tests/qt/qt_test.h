@@ -1,0 +1,36 @@
+// What the tests of windows share: the application on a screen of 1366 by 768, a desk whose person never objects, a
+// window over a screen.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "qt/screen_window.h"
+#include "support/test_desk.h"
+
+class QApplication;
+
+namespace support {
+
+QApplication& application();
+
+// Says 否 to everything and keeps what was said.
+struct QuietPerson : kit::Person {
+  std::vector<std::string> told;
+  void tell(kit::Box, const std::string& text, const std::string&) override { told.push_back(text); }
+  bool ask(kit::Box, const std::string& text, const std::string&) override { told.push_back(text); return false; }
+  std::optional<std::string> chooseFile(const std::string&, const std::string&) override { return std::nullopt; }
+};
+
+struct WindowDesk {
+  WindowDesk() { application(); }
+  TestDesk parts;
+  QuietPerson person;
+  kit::Desk desk{parts.session, parts.store, person, parts.navigator, parts.clock, parts.printer, parts.desktop, parts.progress};
+};
+
+void settle();  // handles all events there are
+
+// Under PICTURES (a folder in the environment) windows are saved for looking at; without it nothing happens.
+void keepPicture(QWidget& window, const std::string& name);
+
+}  // namespace support

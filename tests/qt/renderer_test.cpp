@@ -1,0 +1,233 @@
+// A person at the widgets of a window: what reaches the members, and what the members' changes show.
+#include <gmock/gmock.h>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QRadioButton>
+#include <QTest>
+#include <QTreeWidget>
+
+#include "demo_screen.h"
+#include "qt/xp_button.h"
+#include "qt_test.h"
+#include "window_checks.h"
+
+namespace {
+
+using support::DemoScreen;
+using testing::ElementsAre;
+
+class RendererTest : public testing::Test {
+ protected:
+  RendererTest() {
+    window.present();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    support::settle();
+    screen.log.clear();
+  }
+  template <class W = QWidget>
+  W& find(const char* member) {
+    auto* found = window.findChild<W*>(member);
+    if (!found) throw std::runtime_error(std::string("no widget ") + member);
+    return *found;
+  }
+  void focus(const char* member) {
+    find(member).setFocus();
+    support::settle();
+  }
+  QListWidget& dropped() {
+    QWidget* popup = QApplication::activePopupWidget();
+    auto* list = popup ? popup->findChild<QListWidget*>() : nullptr;
+    if (!list) throw std::runtime_error("nothing dropped down");
+    return *list;
+  }
+
+  support::WindowDesk desk;
+  DemoScreen screen{desk.desk};
+  qt::Views views;
+  qt::ScreenWindow window{screen, views};
+};
+
+TEST_F(RendererTest, theDemoIsAWholeWindow) {
+  support::keepPicture(window, "demo");
+  EXPECT_THAT(support::faults(window), testing::IsEmpty());
+}
+
+TEST_F(RendererTest, startsInTheFirstFieldAndEnterMovesOnToTheConfirmButton) {
+  EXPECT_EQ(QApplication::focusWidget(), &find("xh"));
+  std::vector<std::string> passed;
+  for (int i = 0; i < 10; ++i) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    passed.push_back(QApplication::focusWidget()->objectName().toStdString());
+  }
+  EXPECT_THAT(passed, ElementsAre("xm", "password", "xb", "bjmc", "rxrq", "item1", "amount1", "item2", "amount2", "bz"));
+  screen.log.clear();
+  QTest::keyClick(&find("bz"), Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_THAT(screen.log, ElementsAre("confirm"));
+}
+
+TEST_F(RendererTest, aFieldIsLeftOnceWhicheverWayItIsLeft) {
+  QTest::keyClick(&find("xh"), Qt::Key_Return);
+  EXPECT_THAT(screen.log, ElementsAre("xh leave"));
+  focus("xh");
+  QTest::keyClick(&find("xh"), Qt::Key_Tab);
+  EXPECT_THAT(screen.log, ElementsAre("xh leave", "xh focus", "xh leave"));
+}
+
+TEST_F(RendererTest, aHandlerMayChangeWhatIsBeingTyped) {
+  screen.xh.onChange([this] {
+    if (screen.xh.text().ends_with("x")) screen.xh.set("X");
+  });
+  QTest::keyClicks(&find("xh"), "12x");
+  EXPECT_EQ(screen.xh.text(), "X");
+  EXPECT_EQ(find<QLineEdit>("xh").text(), "X");
+}
+
+TEST_F(RendererTest, widgetsFollowTheirMembers) {
+  screen.xm.set("王芳");
+  screen.xm.enable(false);
+  screen.password.show(false);
+  screen.confirm.setCaption("保存");
+  screen.frame.setTitle("欠费记录");
+  screen.scope.set(2);
+  screen.scope.set(-1);
+  EXPECT_EQ(find<QLineEdit>("xm").text(), "王芳");
+  EXPECT_FALSE(find("xm").isEnabled());
+  EXPECT_FALSE(find("password").isVisible());
+  EXPECT_EQ(find<qt::XPButton>("confirm").text(), "保存");
+  for (auto* option : find("scope").findChildren<QRadioButton*>()) EXPECT_FALSE(option->isChecked());
+  EXPECT_EQ(find<QLineEdit>("amount2").palette().color(QPalette::Text), QColor(200, 0, 0));
+}
+
+TEST_F(RendererTest, typesIntoAMemoAndShowsDotsForAPassword) {
+  QTest::keyClicks(&find("bz"), "ab");
+  QTest::keyClick(&find("bz"), Qt::Key_Return);
+  EXPECT_EQ(screen.bz.text(), "ab\n");
+  QTest::keyClicks(&find("password"), "geheim");
+  EXPECT_EQ(screen.password.text(), "geheim");
+  EXPECT_NE(find<QLineEdit>("password").displayText(), "geheim");
+}
+
+TEST_F(RendererTest, aListDropsDownFilledAndAnEntryIsTaken) {
+  focus("bjmc");
+  QTest::keyClick(&find("bjmc"), Qt::Key_F4);
+  EXPECT_EQ(dropped().count(), 3);
+  QTest::keyClick(&dropped(), Qt::Key_Down);
+  QTest::keyClick(&dropped(), Qt::Key_Return);
+  EXPECT_EQ(screen.bjmc.text(), "计算机二班");
+  EXPECT_EQ(screen.log, std::vector<std::string>{"bjmc pick"});
+  QTest::keyClick(&find("bjmc"), Qt::Key_Down);
+  EXPECT_EQ(find<QLineEdit>("bjmc").text(), "会计一班");
+  QTest::keyClicks(&find("xb"), "x");
+  EXPECT_EQ(screen.xb.text(), "") << "a list that takes no typing";
+}
+
+TEST_F(RendererTest, aDayIsTakenFromTheCalendar) {
+  screen.rxrq.set("2026-9-7");
+  QTest::keyClick(&find("rxrq"), Qt::Key_Down, Qt::AltModifier);
+  auto* calendar = QApplication::activePopupWidget()->findChild<QCalendarWidget*>();
+  ASSERT_TRUE(calendar);
+  EXPECT_EQ(calendar->selectedDate(), QDate(2026, 9, 7));
+  emit calendar->clicked(QDate(2026, 10, 1));
+  EXPECT_EQ(screen.rxrq.text(), "2026-10-1");
+}
+
+TEST_F(RendererTest, upAndDownMoveBetweenTheLines) {
+  focus("amount1");
+  QTest::keyClick(&find("amount1"), Qt::Key_Down);
+  EXPECT_EQ(QApplication::focusWidget(), &find("amount2"));
+  QTest::keyClick(&find("amount2"), Qt::Key_Up);
+  EXPECT_EQ(QApplication::focusWidget(), &find("amount1"));
+}
+
+TEST_F(RendererTest, ticksAndOptionsTellTheirMembers) {
+  QTest::mouseClick(&find("paid"), Qt::LeftButton, {}, QPoint(8, find("paid").height() / 2));
+  auto* option = find("scope").findChildren<QRadioButton*>().at(1);
+  QTest::mouseClick(option, Qt::LeftButton, {}, QPoint(8, option->height() / 2));
+  EXPECT_TRUE(screen.paid.on());
+  EXPECT_EQ(screen.scope.chosen(), 1);
+  EXPECT_EQ(screen.log, (std::vector<std::string>{"paid", "scope"}));
+}
+
+TEST_F(RendererTest, rowsAreChosenFoundByTypingAndOpened) {
+  auto& view = find<QAbstractItemView>("rows_shown");
+  EXPECT_EQ(view.model()->headerData(0, Qt::Horizontal).toString(), "学号");
+  focus("rows_shown");
+  QTest::keyClicks(&view, "1007");
+  EXPECT_EQ(screen.rows_shown.selected(), 6);
+  QTest::keyClick(&view, Qt::Key_Return);
+  EXPECT_EQ(screen.log.back(), "open");
+  screen.rows_shown.setSelected(20);
+  support::settle();
+  EXPECT_EQ(view.currentIndex().row(), 20);
+  screen.rows_shown.clear();
+  support::settle();
+  EXPECT_EQ(view.model()->rowCount(), 0);
+  EXPECT_FALSE(view.currentIndex().isValid());
+}
+
+TEST_F(RendererTest, thePopUpMenuHoldsTheListsActions) {
+  auto& view = find<QAbstractItemView>("rows_shown");
+  emit view.customContextMenuRequested(QPoint(5, 5));
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_TRUE(menu);
+  ASSERT_EQ(menu->actions().size(), 3);
+  EXPECT_FALSE(menu->actions().at(0)->isEnabled());
+  menu->actions().at(2)->trigger();
+  menu->close();
+  EXPECT_EQ(screen.log, std::vector<std::string>{"print"});
+}
+
+TEST_F(RendererTest, theTreeTellsOfTheNodeThatWasClicked) {
+  auto& tree = find<QTreeWidget>("tree");
+  QTreeWidgetItem* leaf = tree.topLevelItem(0)->child(1);
+  QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualItemRect(leaf).center());
+  ASSERT_TRUE(screen.tree.selected());
+  EXPECT_EQ(screen.tree.selected()->key, "b2");
+  EXPECT_EQ(screen.log, std::vector<std::string>{"tree"});
+}
+
+TEST_F(RendererTest, aTimerTicksWhileItRunsAndNeverInsideAnEvent) {
+  int ticks = 0;
+  screen.timer.onTick([&] { ++ticks; });
+  screen.timer.start();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 1; }, 2000));
+  screen.run([&] {
+    const int before = ticks;
+    QTest::qWait(40);
+    EXPECT_EQ(ticks, before);
+  });
+  screen.timer.stop();
+  const int before = ticks;
+  QTest::qWait(40);
+  EXPECT_EQ(ticks, before);
+}
+
+TEST_F(RendererTest, escapePressesCancelAndTheWindowGoes) {
+  QTest::keyClick(&find("xh"), Qt::Key_Escape);
+  EXPECT_TRUE(screen.closed());
+  EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(RendererTest, aMillionRowsAreQuicklyShown) {
+  std::vector<std::string> cells{"1001", "王小明", "学费", "1200.00"};
+  screen.rows_shown.view = nullptr;
+  for (int i = 0; i < 1'000'000; ++i) screen.rows_shown.addRow(cells);
+  qt::ScreenWindow second(screen, views);
+  QElapsedTimer time;
+  time.start();
+  second.present();
+  support::settle();
+  auto* view = second.findChild<QAbstractItemView*>("rows_shown");
+  view->setCurrentIndex(view->model()->index(999'999, 0));
+  view->viewport()->grab();
+  EXPECT_EQ(screen.rows_shown.selected(), 999'999);
+  EXPECT_LT(time.elapsed(), 3000);
+}
+
+}  // namespace
