@@ -28,7 +28,10 @@ TEST(ArrearsLedger, NumbersGoOnWithTheDayAndLeaveOnePerItemWithoutRows) {
   for (const auto& one : cases) {
     support::TestDesk desk;
     if (!one.last.empty()) desk.add("qfjl", {{"lsh", one.last}, {"xh", "1"}});
-    addArrears(desk.store, {.xh = "20260001", .debts = one.debts}, today);
+    ArrearsEntry entry;
+    entry.xh = "20260001";
+    entry.debts = one.debts;
+    addArrears(desk.store, entry, today);
     std::string numbers;
     store::RecordSet added(desk.store, "select * from qfjl where xh='20260001'");
     store::forEach(added, [&](store::RecordSet& row) {
