@@ -1,5 +1,8 @@
 #include "app/screens.h"
 
+#include "arrears/arrears_delete.h"
+#include "arrears/arrears_edit.h"
+#include "arrears/arrears_entry.h"
 #include "collection/fee_window.h"
 #include "collection/fee_window_wait.h"
 #include "collection/receipt_form.h"
@@ -65,6 +68,9 @@ const std::vector<Entry>& screens() {
       screen<feesetup::Formszrxxs>("Formszrxxs"),
       screen<feesetup::Formszsfbz3>("Formszsfbz3"),
       screen<feesetup::Formszsfbz4>("Formszsfbz4"),
+      screen<arrears::Formqfcl>("Formqfcl"),
+      screen<arrears::Formqf>("Formqf"),
+      screen<arrears::Formqfcl5>("Formqfcl5"),
       screen<collection::Formzctsf4>("Formzctsf4"),
       screen<collection::Formzctsf6>("Formzctsf6"),
       screen<collection::Formzctsf8>("Formzctsf8"),

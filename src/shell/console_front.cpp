@@ -1,6 +1,7 @@
 #include "shell/console_front.h"
 
 #include "base/text.h"
+#include "kit/settings.h"
 
 namespace shell {
 
@@ -62,6 +63,8 @@ const std::vector<kit::ListColumn> arrearsColumns{
     {"拟补交日期", "bjrq", kit::Format::Date, 7}, {"欠费余额", "", kit::Format::Padded, 7},
     {"当前状态", "clfs", kit::Format::Text, 5},
 };
+
+base::Money balanceOf(RecordSet& row) { return row.get("bjje").money() - row.get("sbjje").money(); }
 
 }  // namespace
 
@@ -142,16 +145,39 @@ ArrearsFrame::ArrearsFrame(kit::Screen& screen, kit::Desk& desk)
 void ArrearsFrame::show(const std::string& xh) {
   clear();
   RecordSet owed(desk_.store, Sql("select * from qfjl where xh='") + xh + "' and bjje-sbjje>0 and clfs<>'减免' order by bjrq");
-  store::forEach(owed, [&](RecordSet& row) {
-    std::vector<std::string> cells;
-    for (const kit::ListColumn& column : arrearsColumns)
-      cells.push_back(column.column.empty() ? base::paddedAmount(row.get("bjje").money() - row.get("sbjje").money())
-                                            : kit::formatted(row.get(column.column), column.format));
-    list.addRow(cells);
-  });
+  store::forEach(owed, [&](RecordSet& row) { addRow(row, balanceOf(row)); });
+}
+
+void ArrearsFrame::showDue() {
+  clear();
+  holdsDue_ = true;
+  frame.setTitle("今日到期应交欠费信息");
+  kit::loadReminderDays(desk_);
+  const base::Date today = desk_.clock.today();
+  RecordSet open(desk_.store, "select * from qfjl where  bjje-sbjje>0 and clfs<>'减免' order by bjrq");
+  base::Money total;
+  for (; !open.atEnd(); open.next()) {
+    const auto planned = open.get("bjrq").date();
+    if (!planned) continue;
+    if (today.daysUntil(*planned) >= desk_.session.reminder_days) break;  // all behind it are due later still
+    const base::Money balance = balanceOf(open);
+    addRow(open, balance);
+    total += balance;
+  }
+  bar.set(list.count() == 0 ? "没有到期的欠费记录！"
+                            : "欠费到期应交记录数：" + base::caption(list.count()) + " 条，总额为：" + total.fixed2() + "元 ！");
+}
+
+void ArrearsFrame::addRow(RecordSet& row, base::Money balance) {
+  std::vector<std::string> cells;
+  for (const kit::ListColumn& column : arrearsColumns)
+    cells.push_back(column.column.empty() ? base::paddedAmount(balance)
+                                          : kit::formatted(row.get(column.column), column.format));
+  list.addRow(cells);
 }
 
 void ArrearsFrame::clear() {
+  holdsDue_ = false;
   list.clear();
   bar.clear();
 }
