@@ -76,7 +76,9 @@ TEST_P(EveryField, TakesIt) {
       if (member->kind == kit::MemberKind::Action && usable(member)) static_cast<kit::Action*>(member)->press();
     for (const store::Table& table : store::tables())
       EXPECT_GE(store::RecordSet(test.store, store::Sql::table(table.name), table.connection).count(), 0);
-    if (!yes) EXPECT_EQ(test.dump("xs", "xh|xm|bjmc"), "1001|王小明|甲班\n");  // nobody agreed to a change
+    if (!yes) {  // nobody agreed to a change
+      EXPECT_EQ(test.dump("xs", "xh|xm|bjmc"), "1001|王小明|甲班\n");
+    }
     test.session.edited = nullptr;
   }
 }

@@ -14,6 +14,9 @@
 #include "qt/printing/drawing_painter.h"
 #include "qt/printing/preview_window.h"
 
+// The search for a face that has a character leaves patterns of the font library behind.
+extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig"; }
+
 namespace {
 
 using platform::Drawing;
