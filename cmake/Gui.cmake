@@ -16,38 +16,34 @@ set(ICON_RESOURCE ${CMAKE_BINARY_DIR}/icons.qrc)
 file(CONFIGURE OUTPUT ${ICON_RESOURCE}
   CONTENT "<RCC>\n  <qresource prefix=\"/icons\">\n@entries@  </qresource>\n</RCC>\n" @ONLY)
 
-# gui_library(NAME tree rooms... SOURCES files... LINK libraries...): a library that may use Qt.
-function(gui_library name)
-  cmake_parse_arguments(GUI "" "" "SEES;SOURCES;LINK" ${ARGN})
+# gui_target(NAME SEES rooms... LINK libraries...): a library or program that may use Qt.
+function(gui_target name)
+  cmake_parse_arguments(GUI "" "" "SEES;LINK" ${ARGN})
   include_tree(${name} tree ${GUI_SEES})
-  add_library(${name} STATIC ${GUI_SOURCES})
-  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
   target_include_directories(${name} PRIVATE ${tree})
   target_compile_options(${name} PRIVATE ${WARNINGS})
   target_link_libraries(${name} PUBLIC ${GUI_LINK})
 endfunction()
 
 file(GLOB qt_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/qt/*.cpp ${CMAKE_SOURCE_DIR}/src/qt/printing/*.cpp)
-gui_library(qt SEES qt base store platform kit
-  SOURCES ${qt_sources} ${ICON_RESOURCE}
-  LINK base store platform kit Qt6::Widgets Qt6::PrintSupport Qt6::Svg)
+add_library(qt STATIC ${qt_sources} ${ICON_RESOURCE})
 set_target_properties(qt PROPERTIES AUTORCC ON)
+gui_target(qt SEES qt base store platform kit LINK base store platform kit Qt6::Widgets Qt6::PrintSupport Qt6::Svg)
 
 # Hand-made views: src/<room>/view/*.cpp. Each may use qt and what its room may use.
 add_library(views INTERFACE)
 foreach(name ${ROOMS})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/view/*.cpp)
   if(sources)
-    gui_library(${name}_view SEES ${name} qt ${${name}_SEES} SOURCES ${sources} LINK ${name} qt)
+    add_library(${name}_view STATIC ${sources})
+    gui_target(${name}_view SEES ${name} qt ${${name}_SEES} LINK ${name} qt)
     target_link_libraries(views INTERFACE ${name}_view)
   endif()
 endforeach()
 
-gui_library(screens SEES app qt ${ROOMS} SOURCES ${CMAKE_SOURCE_DIR}/src/app/screens.cpp LINK views qt ${ROOMS})
+add_library(screens STATIC ${CMAKE_SOURCE_DIR}/src/app/screens.cpp)
+gui_target(screens SEES app qt ${ROOMS} LINK views qt ${ROOMS})
 
-include_tree(fee-office tree app qt ${ROOMS})
 add_executable(fee-office ${CMAKE_SOURCE_DIR}/src/app/main.cpp)
-target_include_directories(fee-office PRIVATE ${tree})
-target_compile_options(fee-office PRIVATE ${WARNINGS})
-target_link_libraries(fee-office PRIVATE screens)
-set_target_properties(fee-office PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+gui_target(fee-office SEES app qt ${ROOMS} LINK screens)

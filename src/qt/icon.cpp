@@ -5,6 +5,9 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+// The linker would leave a library's resource out that nothing asks for.
+static void keepIcons() { Q_INIT_RESOURCE(icons); }
+
 namespace qt {
 namespace {
 
@@ -37,6 +40,7 @@ class TintedEngine : public QIconEngine {
 }  // namespace
 
 QIcon icon(const QString& name, const QColor& colour) {
+  [[maybe_unused]] static const bool kept = (keepIcons(), true);
   QFile file(pathOf(name));
   if (name.isEmpty() || !file.open(QIODevice::ReadOnly)) return {};
   return QIcon(std::make_unique<TintedEngine>(file.readAll(), colour).release());
