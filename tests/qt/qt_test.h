@@ -21,11 +21,19 @@ struct QuietPerson : kit::Person {
   std::optional<std::string> chooseFile(const std::string&, const std::string&) override { return std::nullopt; }
 };
 
+// Opens nothing: a window is looked at by itself.
+struct QuietNavigator : kit::Navigator {
+  std::vector<kit::Screen*> standing() override { return {}; }
+  void run(kit::Screen&) override {}
+  void keep(std::unique_ptr<kit::Screen>) override {}
+};
+
 struct WindowDesk {
   WindowDesk() { application(); }
   TestDesk parts;
   QuietPerson person;
-  kit::Desk desk{parts.session, parts.store, person, parts.navigator, parts.clock, parts.printer, parts.desktop, parts.progress};
+  QuietNavigator navigator;
+  kit::Desk desk{parts.session, parts.store, person, navigator, parts.clock, parts.printer, parts.desktop, parts.progress};
 };
 
 void settle();  // handles all events there are

@@ -2,7 +2,8 @@
 
 #include <gmock/gmock.h>
 
-#include <QPainter>
+#include <QApplication>
+#include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
 
