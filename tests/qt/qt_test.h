@@ -7,11 +7,7 @@
 #include "qt/screen_window.h"
 #include "support/test_desk.h"
 
-class QApplication;
-
 namespace support {
-
-QApplication& application();
 
 // Says 否 to everything and keeps what was said.
 struct QuietPerson : kit::Person {
@@ -29,7 +25,6 @@ struct QuietNavigator : kit::Navigator {
 };
 
 struct WindowDesk {
-  WindowDesk() { application(); }
   TestDesk parts;
   QuietPerson person;
   QuietNavigator navigator;
