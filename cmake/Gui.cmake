@@ -1,5 +1,5 @@
 # The windows: the room `qt`, the hand-made views of the rooms, the register of screens, the program.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport Svg)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport Svg Test)
 
 # The icons of src/qt/icons.txt, out of the pinned icon set, as one compiled-in resource.
 set(ICON_SET ${CMAKE_SOURCE_DIR}/node_modules/lucide-static/icons)
@@ -42,8 +42,13 @@ foreach(name ${ROOMS})
   endif()
 endforeach()
 
-add_library(screens STATIC ${CMAKE_SOURCE_DIR}/src/app/screens.cpp)
+add_library(screens STATIC ${CMAKE_SOURCE_DIR}/src/app/screens.cpp ${CMAKE_SOURCE_DIR}/src/app/office.cpp)
 gui_target(screens SEES app qt ${ROOMS} LINK views qt ${ROOMS})
 
-add_executable(fee-office ${CMAKE_SOURCE_DIR}/src/app/main.cpp)
+# The program itself and the tools that open windows.
+add_executable(fee-office src/app/main.cpp)
 gui_target(fee-office SEES app qt ${ROOMS} LINK screens)
+add_executable(tour tools/tour.cpp tools/tour_player.cpp)
+gui_target(tour SEES app qt ${ROOMS} LINK screens Qt6::Test)
+add_executable(pictures tools/pictures.cpp)
+gui_target(pictures SEES app LINK Qt6::Gui)

@@ -7,10 +7,13 @@
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QTabBar>
 #include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
 #include <cstdio>
 #include <stdexcept>
 
@@ -47,23 +50,29 @@ void send(QWidget& entry, const QString& text) {
 
 }  // namespace
 
-Player::Player(std::vector<Step> steps, std::string pictures) : steps_(std::move(steps)), folder_(std::move(pictures)) {
-  connect(&timer_, &QTimer::timeout, this, [this] { tick(); });
-  timer_.start(tickLength);
+Player::Player(std::vector<Step> steps, std::string pictures, int numberedFrom)
+    : steps_(std::move(steps)), folder_(std::move(pictures)), pictureNumber_(numberedFrom) {
+  QTimer::singleShot(tickLength, this, [this] { tick(); });
 }
 
 QWidget* Player::inFront(const std::string& name) const {
   QWidget* top = QApplication::activeModalWidget();
   if (name == "?") return qobject_cast<QMessageBox*>(top);
-  const QString wanted = QString::fromStdString(name);
-  if (top) return top->objectName() == wanted ? top : nullptr;
-  for (QWidget* window : QApplication::topLevelWidgets())
-    if (window->isVisible() && window->objectName() == wanted) return window;
-  return nullptr;
+  const QStringList wanted = QString::fromStdString(name).split('/');
+  if (!top)
+    for (QWidget* window : QApplication::topLevelWidgets())
+      if (window->isVisible() && window->objectName() == wanted[0]) top = window;
+  if (!top || top->objectName() != wanted[0]) return nullptr;
+  if (wanted.size() == 1) return top;
+  const auto* part = top->findChild<QWidget*>(wanted[1]);
+  return part && part->isVisible() ? top : nullptr;
 }
 
 void Player::tick() {
   if (next_ == steps_.size() || !failure_.empty()) return;
+  // The next tick is set before acting: an action that opens a window returns only when that has been closed.
+  QTimer::singleShot(tickLength, this, [this] { tick(); });
+  if (acting_) return;
   QWidget* window = inFront(steps_[next_].window);
   if (!window) {
     waited_ += tickLength;
@@ -76,9 +85,10 @@ void Player::tick() {
   waited_ = 0;
   const Step step = steps_[next_++];
   try {
+    acting_ = true;  // the wait below lets ticks through
     QTest::qWait(60);  // let it paint
-    char number[8];
-    std::snprintf(number, sizeof number, "%02d", ++pictureNumber_);
+    acting_ = false;
+    const std::string number = std::to_string(100 + ++pictureNumber_).substr(1);
     const std::string file = folder_ + "/" + number + "-" + step.what + ".png";
     if (!window->grab().save(QString::fromStdString(file))) throw std::runtime_error("cannot save " + file);
     step.act(*window);
@@ -118,7 +128,7 @@ void key(QWidget& window, int key) {
 void pick(QWidget& window, const char* member, const std::string& choice) {
   QWidget& entry = entryOf(find(window, member));
   entry.setFocus();
-  QTest::keyClick(&entry, Qt::Key_F4);
+  QTest::keyClick(&entry, Qt::Key_F4);  // drops the list down
   QWidget* popup = QApplication::activePopupWidget();
   auto* list = popup ? popup->findChild<QListWidget*>() : nullptr;
   if (!list) throw std::runtime_error(std::string(member) + " drops no list down");
@@ -133,6 +143,27 @@ void chooseRow(QWidget& window, const char* list, int row) {
   if (row >= view.model()->rowCount()) throw std::runtime_error(std::string(list) + " has no row " + std::to_string(row));
   view.setFocus();
   view.setCurrentIndex(view.model()->index(row, 0));
+}
+
+void clickNode(QWidget& window, const char* tree, const std::string& text) {
+  auto& view = dynamic_cast<QTreeWidget&>(find(window, tree));
+  const auto found = view.findItems(QString::fromStdString(text), Qt::MatchExactly | Qt::MatchRecursive);
+  if (found.isEmpty()) throw std::runtime_error(std::string(tree) + " has no node " + text);
+  view.scrollToItem(found.first());
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualItemRect(found.first()).center());
+}
+
+void chooseOption(QWidget& window, const std::string& caption) {
+  for (auto* option : window.findChildren<QAbstractButton*>())
+    if (option->isVisible() && option->isCheckable() && option->text().startsWith(QString::fromStdString(caption)))
+      return QTest::mouseClick(option, Qt::LeftButton, {}, QPoint(8, option->height() / 2));
+  throw std::runtime_error("no option " + caption);
+}
+
+void setTick(QWidget& window, const char* check, bool on) {
+  auto* box = dynamic_cast<QAbstractButton*>(&find(window, check));
+  if (!box) throw std::runtime_error(std::string(check) + " is no tick box");
+  if (box->isChecked() != on) press(window, check);
 }
 
 void chooseTab(QWidget& window, const std::string& title) {

@@ -3,21 +3,20 @@
 #pragma once
 
 #include <QObject>
-#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <string>
 #include <vector>
 
 struct Step {
-  std::string window;                  // name of the window that must stand in front; "?" a message box
+  std::string window;                  // the window that must stand in front; "?" a message box; "a/b": b visible in it
   std::string what;                    // names the picture and the failure
   std::function<void(QWidget&)> act;   // what the person does there; may open further windows
 };
 
 class Player : public QObject {
  public:
-  Player(std::vector<Step> steps, std::string pictures);
+  Player(std::vector<Step> steps, std::string pictures, int numberedFrom = 0);
   bool finished() const { return next_ == steps_.size() && failure_.empty(); }
   const std::string& failure() const { return failure_; }
   int pictures() const { return pictureNumber_; }
@@ -31,7 +30,7 @@ class Player : public QObject {
   std::string folder_, failure_;
   std::size_t next_ = 0;
   int waited_ = 0, pictureNumber_ = 0;
-  QTimer timer_;
+  bool acting_ = false;
 };
 
 // What a person does to the member's widget of that name; each throws std::runtime_error when it is not to be had.
@@ -40,6 +39,9 @@ void press(QWidget& window, const char* member);                          // cli
 void key(QWidget& window, int key);                                       // on what has the focus
 void pick(QWidget& window, const char* member, const std::string& choice);
 void chooseRow(QWidget& window, const char* list, int row);
+void clickNode(QWidget& window, const char* tree, const std::string& text);
+void chooseOption(QWidget& window, const std::string& caption);            // the option button that begins so
+void setTick(QWidget& window, const char* check, bool on);
 void chooseTab(QWidget& window, const std::string& title);
 void menu(QWidget& window, const char* entry);                            // an entry of the menu bar or a pop-up
 void answer(QWidget& box, const std::string& part, bool yes);             // a message box whose text holds part

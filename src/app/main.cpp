@@ -3,16 +3,9 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "app/screens.h"
-#include "qt/computer.h"
-#include "qt/navigator.h"
-#include "qt/person.h"
-#include "qt/printing/qt_printer.h"
-#include "qt/progress.h"
+#include "app/office.h"
 #include "qt/text.h"
 #include "qt/theme.h"
-#include "shell/splash.h"
-#include "shell/start.h"
 
 int main(int argc, char** argv) {
   // Printing and the clipboard need a folder of the session; a bare desktop may have none.
@@ -22,19 +15,7 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);  // the navigator ends the program
   qt::applyTheme(application);
   const QStringList words = QApplication::arguments();
-  const std::filesystem::path folder =
-      qt::fromQt(QDir(words.size() > 1 ? words[1] : QApplication::applicationDirPath()).absolutePath());
-
-  store::Store store(folder);
-  kit::Session session;
-  qt::QtPerson person(shell::productTitle);
-  qt::QtNavigator navigator(app::views());
-  qt::QtClock clock;
-  qt::QtPrinter printer;
-  qt::QtDesktop desktop(folder);
-  qt::QtProgress progress;
-  store.onWait = [&](bool waiting) { progress.waiting(waiting); };
-  kit::Desk desk{session, store, person, navigator, clock, printer, desktop, progress};
-  navigator.stand<shell::Form1>(desk);
-  return navigator.standing().empty() ? 0 : QApplication::exec();
+  const QString folder = words.size() > 1 ? words[1] : QApplication::applicationDirPath();
+  app::Office office(qt::fromQt(QDir(folder).absolutePath()));
+  return office.run();
 }

@@ -1,10 +1,27 @@
 #include "app/screens.h"
 
+#include "arrears/arrears_delete.h"
+#include "arrears/arrears_edit.h"
+#include "arrears/arrears_entry.h"
 #include "collection/fee_window.h"
+#include "collection/fee_window_wait.h"
+#include "collection/receipt_form.h"
+#include "collection/receipt_notes.h"
+#include "collection/receipt_print.h"
+#include "feesetup/class_edit.h"
+#include "feesetup/class_standard_change.h"
+#include "feesetup/class_standard_delete.h"
+#include "feesetup/class_standards.h"
 #include "feesetup/desk_settings.h"
+#include "feesetup/enrolment_form_edit.h"
+#include "feesetup/fee_item_edit.h"
+#include "feesetup/form_standard_delete.h"
+#include "feesetup/form_standards.h"
+#include "feesetup/major_edit.h"
 #include "feesetup/setup.h"
 #include "shell/about.h"
 #include "shell/console.h"
+#include "shell/loading.h"
 #include "shell/login.h"
 #include "shell/splash.h"
 #include "shell/view/shell_views.h"
@@ -30,6 +47,7 @@ const std::vector<Entry>& screens() {
   static const std::vector<Entry> all = {
       screen<shell::Form1>("Form1"),
       screen<shell::Formcsh5>("Formcsh5"),
+      screen<shell::Formcsh1>("Formcsh1"),
       screen<shell::Formcsh2>("Formcsh2"),
       screen<shell::Formzct>("Formzct"),
       screen<upkeep::Formyhxx4>("Formyhxx4"),
@@ -41,13 +59,29 @@ const std::vector<Entry>& screens() {
       screen<students::Formzctxsll>("Formzctxsll"),
       screen<feesetup::Formsz>("Formsz"),
       screen<feesetup::Formszqt>("Formszqt"),
+      screen<feesetup::Formszzymc>("Formszzymc"),
+      screen<feesetup::Formszbjzl>("Formszbjzl"),
+      screen<feesetup::Formszsfxm>("Formszsfxm"),
+      screen<feesetup::Formszsfbz>("Formszsfbz"),
+      screen<feesetup::Formszsfbz1>("Formszsfbz1"),
+      screen<feesetup::Formszsfbz2>("Formszsfbz2"),
+      screen<feesetup::Formszrxxs>("Formszrxxs"),
+      screen<feesetup::Formszsfbz3>("Formszsfbz3"),
+      screen<feesetup::Formszsfbz4>("Formszsfbz4"),
+      screen<arrears::Formqfcl>("Formqfcl"),
+      screen<arrears::Formqf>("Formqf"),
+      screen<arrears::Formqfcl5>("Formqfcl5"),
       screen<collection::Formzctsf4>("Formzctsf4"),
+      screen<collection::Formzctsf6>("Formzctsf6"),
+      screen<collection::Formzctsf8>("Formzctsf8"),
+      screen<collection::Formzctsf5>("Formzctsf5"),
+      screen<collection::Formzctsf2>("Formzctsf2"),
   };
   return all;
 }
 
 const qt::Views& views() {
-  static const qt::Views all = {{"console", shell::buildConsole}, {"login", shell::buildLogin}};
+  static const qt::Views all{{"console", shell::buildConsole}, {"login", shell::buildLogin}};
   return all;
 }
 

@@ -48,8 +48,9 @@ void Formzctsf4::load() {
   focusFirst();
 }
 
-// The window opens where the money is: the space bar ticks all lines, Enter takes it. The student's data stand before it
-// in the reading order and are seldom changed. A student without standards starts in the first amount that can be typed.
+// The window opens where the money is: the space bar ticks all lines, Enter takes it. The student's data stand before
+// it in the reading order and are seldom changed. A student without standards starts in the first amount that can be
+// typed.
 void Formzctsf4::focusFirst() {
   const auto first = std::find_if(lines.begin(), lines.end(), [](const FeeLine& line) { return line.hasItem(); });
   if (allLines.enabled())
@@ -62,8 +63,10 @@ void Formzctsf4::focusFirst() {
 
 void Formzctsf4::moveOnFrom(const kit::Member& member) {
   // With all lines ticked there is nothing left to type.
-  if (&member == &allLines && allLines.on() && confirm.enabled()) confirm.press();
-  else Screen::moveOnFrom(member);
+  if (&member == &allLines && allLines.on() && confirm.enabled())
+    confirm.press();
+  else
+    Screen::moveOnFrom(member);
 }
 
 void Formzctsf4::switchMode() {
@@ -77,7 +80,7 @@ void Formzctsf4::switchMode() {
 void Formzctsf4::showMode() {
   const bool normal = desk.session.fee_normal_mode;
   arrearsMode.setCaption(normal ? "加载欠费" : "正常收费");
-  modeHeading.set(normal ? "正常收费（按收费标准）" : "补交欠费（按欠费记录）");
+  modeHeading.set(normal ? "正常收费" : "补交欠费");
   modeHeading.setColour(normal ? normalHeading : arrearsHeading);
 }
 

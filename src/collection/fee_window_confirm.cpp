@@ -1,6 +1,7 @@
 // From the confirm button to the last row and the receipt.
 #include <algorithm>
 
+#include "arrears/arrears_entry.h"
 #include "base/text.h"
 #include "collection/fee_window.h"
 #include "collection/receipt_notes.h"
@@ -56,7 +57,10 @@ void Formzctsf4::handToArrearsEntry() {
     session.fee_lines[index] = {lines[index].sfxm.trimmed(), lines[index].dueAmount(), lines[index].paidAmount()};
 }
 
-void Formzctsf4::openArrearsEntry() { notYet("欠费录入"); }
+void Formzctsf4::openArrearsEntry() {
+  open<arrears::Formqfcl>();
+  desk.session.current_xh = xh.trimmed();  // another student may have been looked up there
+}
 
 bool Formzctsf4::valid() {
   const auto nothingPaid = [this] { return base::Money::leading(totalPaid.text()).zero(); };

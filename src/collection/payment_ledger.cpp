@@ -1,6 +1,8 @@
 #include "collection/payment_ledger.h"
 
+#include "arrears/arrears_ledger.h"
 #include "base/text.h"
+#include "kit/rows.h"
 
 namespace collection {
 
@@ -9,12 +11,7 @@ using store::Sql;
 
 std::string nextRecordNumber(store::Store& store, base::Date today) {
   RecordSet ledger(store, Sql("select * from jfjl order by lsh"));
-  if (!ledger.empty()) {
-    ledger.last();
-    const std::string last = ledger.get("lsh").trimmed();
-    if (base::left(last, 8) == today.digits()) return base::nextNumber(last);
-  }
-  return today.digits() + "0001";
+  return kit::numberOfDay(ledger, "lsh", today, "0001");
 }
 
 std::string nextReceiptNumber(store::Store& store) {
@@ -22,19 +19,6 @@ std::string nextReceiptNumber(store::Store& store) {
   if (ledger.empty()) return "10000001";
   ledger.last();
   return base::nextNumber(ledger.get("fpbh").trimmed());
-}
-
-void settleArrears(store::Store& store, const std::string& lsh, base::Money paid, base::Date today) {
-  RecordSet row(store, Sql("select * from qfjl where lsh='") + lsh + "'");
-  if (row.empty()) return;
-  const base::Money due = row.get("bjje").money();
-  const base::Money settled = row.get("sbjje").money() + paid;
-  row.set("sbjrq", today);
-  row.set("sbjje", settled);
-  // An overpaid row keeps the state it had.
-  if (due > settled) row.set("clfs", "不足");
-  if (due == settled) row.set("clfs", "结清");
-  row.update();
 }
 
 std::string saveReceipt(store::Store& store, const Receipt& receipt, base::DateTime now) {
@@ -63,7 +47,7 @@ std::string saveReceipt(store::Store& store, const Receipt& receipt, base::DateT
     ledger.update();
   }
   if (receipt.settlesArrears)
-    for (const PaidLine& line : receipt.lines) settleArrears(store, line.arrearsLsh, line.je, now.date);
+    for (const PaidLine& line : receipt.lines) arrears::settleArrears(store, line.arrearsLsh, line.je, now.date);
   unit.finish();
   return fpbh;
 }

@@ -30,7 +30,4 @@ std::string nextReceiptNumber(store::Store& store);
 // under the store's write lock, so that two computers never print one receipt number.
 std::string saveReceipt(store::Store& store, const Receipt& receipt, base::DateTime now);
 
-// Adds a payment to an arrears row and moves its state on; a row that is gone meanwhile is left out.
-void settleArrears(store::Store& store, const std::string& lsh, base::Money paid, base::Date today);
-
 }  // namespace collection

@@ -78,7 +78,8 @@ platform::Drawing Formzctsf2::drawing() const {
   platform::Drawing drawing{.title = title_, .width = paperWidth, .height = paperHeight, .pages = {{}}};
   for (const FormLabel* label : labels())
     put(drawing.pages.front(),
-        {millimetres(label->left), millimetres(label->top), label->size, room(*label), platform::Face::Song, label->lines},
+        {millimetres(label->left), millimetres(label->top), label->size, room(*label), platform::Face::Song,
+         label->lines},
         label->text());
   return drawing;
 }

@@ -1,5 +1,5 @@
-// The preprinted receipt form: a template of labels positioned over the form's fields, which is filled and printed as it
-// stands. Places are twips, 1/1440 inch, from the form's origin.
+// The preprinted receipt form: a template of labels positioned over the form's fields, which is filled and printed as
+// it stands. Places are twips, 1/1440 inch, from the form's origin.
 #pragma once
 
 #include <deque>
@@ -15,8 +15,8 @@ struct FormLabel : kit::Field {
   const int left;
   int top;
   const int width;
-  int lines = 1;       // of the label's height
-  double size = 9;     // points
+  int lines = 1;    // of the label's height
+  double size = 9;  // points
 };
 
 class Formzctsf2 : public kit::Screen {  // 江西省学校专用收据

@@ -27,6 +27,7 @@ constexpr double labelSize = 12, valueSize = 11, rowSize = 10, titleSize = 20;
 constexpr double thin = 0.15, thick = 0.6, rule = 0.2;
 constexpr double frameTop = 41, firstRow = 47, pitch = 5;  // of the table; each row ends with a rule
 constexpr double underRule = 0.8;                          // from a rule to the text below it
+constexpr double beforeRule = 0.7;                         // from a text to the column rule to its right
 constexpr double bottomMargin = 8;
 constexpr double itemX = 45, unitX = 81, amountX = 97, totalX = 98, remarkX = 121;
 
@@ -131,13 +132,13 @@ void table(Page& page, const Form& form, std::size_t rows, double bottom) {
 double rowY(std::size_t row) { return firstRow + pitch * static_cast<double>(row) + underRule; }
 
 void cell(Page& page, double x, double y, double to, const std::string& text) {
-  put(page, TextPlace{x, y, rowSize, to - x - 0.5}, text);
+  put(page, TextPlace{x, y, rowSize, to - x - beforeRule}, text);
 }
 
 void payment(Page& page, double y, const ReceiptRow& row) {
   cell(page, itemX, y, 78, row.sfxm);
   page.marks.push_back(Text{unitX, y, "  元", Face::Kai, rowSize});
-  page.marks.push_back(Text{amountX, y, base::paddedAmount(row.je), Face::Kai, rowSize, 118 - amountX});
+  page.marks.push_back(Text{amountX, y, base::paddedAmount(row.je), Face::Kai, rowSize, 118 - amountX - beforeRule});
 }
 
 void total(Page& page, const Form& form, const PrintedReceipt& receipt, double y) {
@@ -149,7 +150,7 @@ void total(Page& page, const Form& form, const PrintedReceipt& receipt, double y
 
 void footer(Page& page, const Form& form, const PrintedReceipt& receipt, double y) {
   cell(page, form.printedX, y, form.cashierX, "打印时间：" + receipt.printed.plain());
-  cell(page, form.cashierX, y, paperWidth - 4, "收款人：" + receipt.cashier);
+  cell(page, form.cashierX, y, form.right(), "收款人：" + receipt.cashier);
 }
 
 Drawing onPaper(const PrintedReceipt& receipt, double height) {

@@ -7,8 +7,9 @@
 namespace collection {
 namespace {
 
-constexpr double smallest = 4.4;  // points; nobody reads less
-constexpr double tighter = 1.1;   // small lines may stand closer than full ones
+constexpr double smallest = 4.4;                // points; nobody reads less
+constexpr double tighter = 1.1;                 // the pitch of small lines, in their size
+constexpr double oneLineShrinks = tighter / 2;  // below it two lines are larger
 
 // In ems of a face whose Latin letters are half as wide as the Chinese characters.
 double width(const std::string& character) { return character.size() == 1 ? 0.5 : 1; }
@@ -34,7 +35,7 @@ void put(platform::Page& page, const TextPlace& place, const std::string& text) 
   const int most = std::max(place.lines + 1, static_cast<int>(place.size * place.lines * tighter / smallest));
   double size = place.size;
   std::vector<std::string> lines = linesAt(size);
-  if (lines.size() > 1 && linesAt(size * 0.75).size() == 1) lines = {text};  // the fit makes it smaller
+  if (linesAt(size * oneLineShrinks).size() == 1 && place.lines == 1) lines = {text};
   for (int count = place.lines; static_cast<int>(lines.size()) > count && count < most;) {
     ++count;
     size = place.size * place.lines * tighter / count;
@@ -44,10 +45,14 @@ void put(platform::Page& page, const TextPlace& place, const std::string& text) 
     lines.resize(static_cast<std::size_t>(most));
     lines.back() += "……";
   }
-  double y = place.y;
+  // What stands in more lines than it should is centred on that height.
+  const double pitch = size * pointMillimetres * tighter;
+  const double taken = pitch * static_cast<double>(lines.size() - 1) + size * pointMillimetres;
+  const double excess = size < place.size ? taken - place.size * place.lines * pointMillimetres : 0;
+  double y = place.y - std::max(0.0, excess) / 2;
   for (const std::string& line : lines) {
     page.marks.push_back(platform::Text{place.x, y, line, place.face, size, place.room});
-    y += size * pointMillimetres * tighter;
+    y += pitch;
   }
 }
 

@@ -1,5 +1,5 @@
-// Texts of a receipt that keep to their places: a long one gets smaller, then stands in several small lines in the height
-// of one.
+// Texts of a receipt that keep to their places: a long one gets smaller, then stands in several small lines in the
+// height of one.
 #pragma once
 
 #include <string>

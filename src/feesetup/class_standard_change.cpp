@@ -16,9 +16,11 @@ Formszsfbz2::Formszsfbz2(kit::Desk& desk) : Screen(desk, "Formszsfbz2", "收费�
 }
 
 void Formszsfbz2::load() {
-  term_ = row().get("xq").trimmed();
-  item_ = row().get("sfxmmc").trimmed();
-  amount_ = row().get("je").trimmed();
+  if (desk.session.edited) {
+    term_ = row().get("xq").trimmed();
+    item_ = row().get("sfxmmc").trimmed();
+    amount_ = row().get("je").trimmed();
+  }
   show();
 }
 

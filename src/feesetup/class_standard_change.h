@@ -1,6 +1,7 @@
 // The amount of a class's standard is changed here, or that of the item everywhere, or the term of the rows shown.
 #pragma once
 
+#include "feesetup/edited_row.h"
 #include "kit/screen.h"
 
 namespace feesetup {
@@ -21,7 +22,7 @@ class Formszsfbz2 : public kit::Screen {  // 收费标准信息修改
 
  private:
   bool changesTerm() const { return what.chosen() == 1; }
-  store::RecordSet& row() { return *desk.session.edited; }
+  store::RecordSet& row() { return editedRow(desk); }
   void show();
   void save();
   void saveTerm();

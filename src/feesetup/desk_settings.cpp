@@ -50,6 +50,7 @@ void Formszqt::load() {
   todamc1.set(session.custom_form);
   qfjz.set(session.arrears_item);
   qfts.set(std::to_string(session.reminder_days));
+  dysz.focus();
 }
 
 void Formszqt::storeText(std::string_view column, const store::Value& value) {

@@ -2,6 +2,7 @@
 // on.
 #pragma once
 
+#include "feesetup/edited_row.h"
 #include "kit/screen.h"
 #include "kit/validation.h"
 
@@ -30,7 +31,7 @@ class EditScreen : public kit::Screen {
   virtual void modify() = 0;
   virtual void remove() = 0;
 
-  store::RecordSet& row() { return *desk.session.edited; }
+  store::RecordSet& row() { return editedRow(desk); }
   std::string now() { return desk.clock.now().plain(); }
 
  private:

@@ -10,6 +10,7 @@ using store::Sql;
 Formszsfxm::Formszsfxm(kit::Desk& all) : EditScreen(all, "Formszsfxm", "收费项目名称编辑") {}
 
 void Formszsfxm::propose() {
+  sfxmmc.focus();
   auto items = rows("select * from sfxmb");
   if (items.empty()) return sfxmbh.set("101");
   items.last();

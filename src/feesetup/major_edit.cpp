@@ -10,6 +10,7 @@ using store::Sql;
 Formszzymc::Formszzymc(kit::Desk& all) : EditScreen(all, "Formszzymc", "专业及班级分类编辑") {}
 
 void Formszzymc::propose() {
+  zymc.focus();
   auto majors = rows("select * from zymcb");
   if (majors.empty()) return zybh.set("11");
   majors.last();

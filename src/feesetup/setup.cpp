@@ -23,16 +23,16 @@ namespace {
 
 const std::vector<ListColumn> majorColumns{
     {"序号", "id", Format::Text, 6}, {"专业代号", "zybh", Format::Text, 10}, {"专业名称", "zymc", Format::Text, 30}};
-const std::vector<ListColumn> classColumns{{"专业名称", "zymc", Format::Text, 16},
-                                           {"班级代号", "bjdh", Format::Text, 10},
-                                           {"班级名称", "bjmc", Format::Text, 24},
+const std::vector<ListColumn> classColumns{{"专业名称", "zymc", Format::Text, 14},
+                                           {"班级代号", "bjdh", Format::Text, 9},
+                                           {"班级名称", "bjmc", Format::Text, 22},
                                            {"教师姓名", "jsxm", Format::Text, 10}};
 const std::vector<ListColumn> itemColumns{{"收费项目编号", "sfxmbh", Format::Text, 10},
                                           {"收费项目名称", "sfxmmc", Format::Text, 30}};
 const std::vector<ListColumn> classStandardColumns{
-    {"学年学期", "xq", Format::Text, 12},     {"专业名称", "zymc", Format::Text, 12},
-    {"班级名称", "bjmc", Format::Text, 18},   {"收费项目编号", "sfxmbh", Format::Text, 8},
-    {"收费项目", "sfxmmc", Format::Text, 12}, {"收费金额", "je", Format::Money, 8}};
+    {"学年学期", "xq", Format::Text, 11},     {"专业名称", "zymc", Format::Text, 11},
+    {"班级名称", "bjmc", Format::Text, 16},   {"收费项目编号", "sfxmbh", Format::Text, 7},
+    {"收费项目", "sfxmmc", Format::Text, 10}, {"收费金额", "je", Format::Money, 7}};
 const std::vector<ListColumn> formStandardColumns{{"学年学期", "xq", Format::Text, 14},
                                                   {"入学形式", "rxxs", Format::Text, 18},
                                                   {"收费项目", "sfxmmc", Format::Text, 18},
@@ -43,9 +43,9 @@ const std::vector<ListColumn> bandColumns{{"课程类别", "fl", Format::Text, 1
                                           {"考试成绩", "kscj", Format::Text, 8},
                                           {"平时成绩", "pscj", Format::Text, 8}};
 const std::vector<ListColumn> logColumns{{"用户姓名", "yhxm", Format::Text, 12},
-                                         {"计算机名", "jsjmc", Format::Text, 16},
-                                         {"开始时间", "kjsj", Format::Text, 16},
-                                         {"结束时间", "gjsj", Format::Text, 16}};
+                                         {"计算机名", "jsjmc", Format::Text, 14},
+                                         {"开始时间", "kjsj", Format::Text, 15},
+                                         {"结束时间", "gjsj", Format::Text, 15}};
 const std::vector<ListColumn> formColumns{{"入学形式", "rxxs", Format::Text, 30}};
 
 }  // namespace

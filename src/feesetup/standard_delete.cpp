@@ -1,5 +1,6 @@
 #include "feesetup/standard_delete.h"
 
+#include "feesetup/edited_row.h"
 #include "kit/rows.h"
 
 namespace feesetup {
@@ -19,7 +20,7 @@ void StandardDelete::remove() {
     std::string report;
   };
   const Step steps[] = {
-      {"您确认是要删除选定记录吗 ？    ", "删除提示", [this] { desk.session.edited->remove(); },
+      {"您确认是要删除选定记录吗 ？    ", "删除提示", [this] { editedRow(desk).remove(); },
        "选定记录已删除 ！     "},
       {own_.question, "删除提示",
        [this] {

@@ -69,7 +69,7 @@ void Field::pick(const std::string& choice) {
 
 void Field::take(const std::string& choice) {
   mustBeReachable();
-  if (std::find(choices_.begin(), choices_.end(), choice) == choices_.end())
+  if (entry != Entry::Date && std::find(choices_.begin(), choices_.end(), choice) == choices_.end())
     throw std::logic_error(name + " does not offer " + choice);
   screen_.run([&] {
     replace(choice);

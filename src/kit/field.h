@@ -44,8 +44,8 @@ class Field : public Member {
   void enter();                        // without a handler of its own, moves on to the next field or confirms
   bool handlesEnter() const { return !enter_.empty(); }
   void drop();
-  void take(const std::string& choice);  // of the list that has dropped
-  void pick(const std::string& choice);  // drops the list, then takes the entry
+  void take(const std::string& choice);  // of the list or the calendar that has dropped
+  void pick(const std::string& choice);  // drops it, then takes the entry or the day
   void click();
   void doubleClick();
 

@@ -1,5 +1,7 @@
 #include "kit/rows.h"
 
+#include "base/text.h"
+
 namespace kit {
 
 std::vector<std::string> columnTexts(store::Store& store, const store::Sql& sql, std::string_view column) {
@@ -24,6 +26,15 @@ void removeEach(store::Store& store, const store::Sql& sql) {
   store::RecordSet set(store, sql);
   store::forEach(set, [](store::RecordSet& row) { row.remove(); });
   unit.finish();
+}
+
+std::string numberOfDay(store::RecordSet& ordered, std::string_view column, base::Date today, std::string_view first) {
+  if (!ordered.empty()) {
+    ordered.last();
+    const std::string last = ordered.get(column).trimmed();
+    if (base::left(last, 8) == today.digits()) return base::nextNumber(last);
+  }
+  return today.digits().append(first);
 }
 
 }  // namespace kit

@@ -1,4 +1,4 @@
-// What many screens do to the rows of a statement: read one column, set it, delete them.
+// What many screens do to the rows of a statement: read one column, set it, delete them, number the next one.
 #pragma once
 
 #include <string>
@@ -15,5 +15,9 @@ std::vector<std::string> columnTexts(store::Store& store, const store::Sql& sql,
 // Both write in one unit of the main database.
 void setEach(store::Store& store, const store::Sql& sql, std::string_view column, const store::Value& value);
 void removeEach(store::Store& store, const store::Sql& sql);
+
+// The running number behind the last row of an ordered set: one more when that row is of today, otherwise today's eight
+// digits and the first number of a day. Good only inside the unit of work that writes it.
+std::string numberOfDay(store::RecordSet& ordered, std::string_view column, base::Date today, std::string_view first);
 
 }  // namespace kit

@@ -35,6 +35,8 @@ struct Session {
   bool shortfall_opens_arrears = false;  // qfcejz
   bool standard_basis_class = false;   // bjsf1
 
+  bool first_user_added = false;  // the first-run screen did its work; the program starts anew for the login
+
   // What an edit screen is opened for, and the record set whose current row it works on (null: none).
   Mode EditMode = Mode::Add;
   store::RecordSet* edited = nullptr;

@@ -90,6 +90,8 @@ bool loadSettings(Desk& desk) {
 
 bool loadArrearsSettings(Desk& desk) { return loadOnly(desk, {"qfjz", "qfcejz"}); }
 
+bool loadReminderDays(Desk& desk) { return loadOnly(desk, {"qfts"}); }
+
 bool loadStandardBasis(Desk& desk) { return loadOnly(desk, {"bjsf1"}); }
 
 bool storeSetting(Desk& desk, std::string_view column, const store::Value& value) {

@@ -11,6 +11,8 @@ namespace kit {
 bool loadSettings(Desk& desk);
 // The same for qfjz and qfcejz alone: the fee window reads them again at each confirmation.
 bool loadArrearsSettings(Desk& desk);
+// The same for qfts alone: the lead of the reminders.
+bool loadReminderDays(Desk& desk);
 // The same for bjsf1 alone: the basis of the fee standards.
 bool loadStandardBasis(Desk& desk);
 

@@ -17,6 +17,7 @@ using kit::Entry;
 
 constexpr int usualWidth = 10, dateWidth = 7, leastShown = 3, memoLines = 3;  // characters; lines
 constexpr int shownMargins = 4;
+constexpr double prominentScale = 1.5;
 
 // A text that can be selected for copying, but not changed. One too long for its place ends with a mark and is told in
 // full by its tip.
@@ -64,6 +65,14 @@ void colour(QWidget& widget, const kit::Field& field) {
     for (const auto group : {QPalette::Active, QPalette::Inactive})
       for (const auto role : {QPalette::Text, QPalette::WindowText}) palette.setColor(group, role, toQt(*field.colour()));
   widget.setPalette(palette);
+}
+
+void enlarge(QWidget& widget, const kit::Field& field) {
+  if (!field.prominent) return;
+  QFont font = widget.font();
+  font.setPointSizeF(font.pointSizeF() * prominentScale);
+  font.setBold(true);
+  widget.setFont(font);
 }
 
 // The edit shows what the field holds; typing goes to the field, which may change the very text that is being typed.
@@ -138,7 +147,7 @@ QWidget* dateField(kit::Field& field, Renderer& renderer) {
   QObject::connect(edit, &DropEdit::dropWanted, &renderer, [edit, &field, &renderer] {
     if (!renderer.reachable(field)) return;
     dropCalendar(*edit, [&](const QString& date) {
-      if (renderer.reachable(field)) field.type(fromQt(date));
+      if (renderer.reachable(field)) field.take(fromQt(date));
     });
   });
   return edit;
@@ -181,6 +190,7 @@ QWidget* lineField(kit::Field& field, Renderer& renderer) {
 
 QWidget* shownField(kit::Field& field, Renderer& renderer) {
   auto* edit = new ShownEdit(nullptr);
+  enlarge(*edit, field);
   keepInStep(*edit, field, renderer);
   renderer.follow(field, [edit, &field] {
     edit->tip = field.tip();
@@ -212,6 +222,7 @@ QWidget* fieldWidget(kit::Field& field, Renderer& renderer) {
 
 QWidget* shownText(kit::Field& field, Renderer& renderer, bool wraps) {
   auto* label = new QLabel;
+  enlarge(*label, field);
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(wraps);
   label->setTextInteractionFlags(Qt::TextSelectableByMouse);

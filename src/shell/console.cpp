@@ -33,6 +33,8 @@ void Formzct::load() {
                 {cd31, {Users}},
                 {cd33, {GrantRights}},
                 {cd34, {Initialise}},
+                {cd91, {WaiveArrears}},
+                {cd92, {WaiveArrears}},
                 {class_strip, {Collect}}});
   for (Overview* overview : {&students_overview, &payments_overview, &arrears_overview}) overview->settle(desk);
   loadAllSettings();
@@ -59,7 +61,7 @@ void Formzct::wireMenu() {
   opens(cd33, [this] { open<upkeep::Formyhxx1>(); });
   opens(cd43, [this] { open<Formcsh2>(); });
   for (kit::Action* entry : {&cd11, &cd121, &cd77, &cd70, &cd75, &cd71, &cd72, &cd14, &cd73, &cd76, &cd74, &cd34, &cd41,
-                             &cd42, &cd44, &cd510, &cd63, &cd61, &cd62, &cd91, &cd92})
+                             &cd42, &cd44, &cd510})
     entry->onPress([this, entry] { notYet(entry->caption()); });
 }
 

@@ -58,6 +58,9 @@ class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
   void enableArrearsEntries(bool listed);
   void showPayments();
   void showArrears();
+  void showDueArrears();
+  void leaveDueArrears();
+  void waiveOnCard(bool all);
   void reprint();
   void deletePayments(bool wholeReceipt);
 
@@ -70,6 +73,9 @@ class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
   void openPanel();
   void refillAfterQuery();
   void editStudent(kit::Mode mode);
+  void addArrears();
+  void editArrears(kit::Mode mode);
+  void waiveInOverview(bool all);
   void stampKeyedRows(const char* table);
 };
 

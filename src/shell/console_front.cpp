@@ -1,6 +1,7 @@
 #include "shell/console_front.h"
 
 #include "base/text.h"
+#include "kit/settings.h"
 
 namespace shell {
 
@@ -10,23 +11,36 @@ using students::StudentCard;
 
 namespace {
 
+enum Place { Beside, Whole, Half };  // beside the photo; below it, a whole row or half of one
+
 struct CardLine {
+  Place place;
   const char* name;
   const char* label;
   std::string StudentCard::*shows;
 };
 
 constexpr CardLine cardLines[] = {
-    {"xb", "性别", &StudentCard::xb},          {"csrq", "出生日期", &StudentCard::csrq},
-    {"sfzhm", "身份证号", &StudentCard::sfzhm}, {"zzmm", "政治面貌", &StudentCard::zzmm},
-    {"bjmc", "院校班级", &StudentCard::bjmc},   {"zymc", "所学专业", &StudentCard::zymc},
-    {"rxrq", "入学日期", &StudentCard::rxrq},   {"rxxs", "入学形式", &StudentCard::rxxs},
-    {"sfbz", "收费标准", &StudentCard::sfbz},   {"lxdh", "联系电话", &StudentCard::lxdh},
-    {"sjhm", "手机号码", &StudentCard::sjhm},   {"yzbm", "邮政编码", &StudentCard::yzbm},
-    {"jtzz", "家庭住址", &StudentCard::jtzz},   {"byxx", "原毕业校", &StudentCard::byxx},
-    {"yhkh", "信用卡号", &StudentCard::yhkh},   {"loumc", "楼名称", &StudentCard::loumc},
-    {"ssbh", "宿舍编号", &StudentCard::ssbh},   {"cwh", "床位号", &StudentCard::cwh},
-    {"rq", "入住日期", &StudentCard::rq},       {"status", "在校状态", &StudentCard::status},
+    {Beside, "xb", "性别", &StudentCard::xb},
+    {Beside, "csrq", "出生日期", &StudentCard::csrq},
+    {Beside, "zzmm", "政治面貌", &StudentCard::zzmm},
+    {Beside, "status", "在校状态", &StudentCard::status},
+    {Whole, "sfzhm", "身份证号", &StudentCard::sfzhm},
+    {Whole, "bjmc", "院校班级", &StudentCard::bjmc},
+    {Whole, "zymc", "所学专业", &StudentCard::zymc},
+    {Half, "rxrq", "入学日期", &StudentCard::rxrq},
+    {Half, "rxxs", "入学形式", &StudentCard::rxxs},
+    {Half, "lxdh", "联系电话", &StudentCard::lxdh},
+    {Half, "sjhm", "手机号码", &StudentCard::sjhm},
+    {Whole, "jtzz", "家庭住址", &StudentCard::jtzz},
+    {Whole, "byxx", "原毕业校", &StudentCard::byxx},
+    {Whole, "yhkh", "信用卡号", &StudentCard::yhkh},
+    {Half, "sfbz", "收费标准", &StudentCard::sfbz},
+    {Half, "yzbm", "邮政编码", &StudentCard::yzbm},
+    {Half, "loumc", "楼名称", &StudentCard::loumc},
+    {Half, "ssbh", "宿舍编号", &StudentCard::ssbh},
+    {Half, "cwh", "床位号", &StudentCard::cwh},
+    {Half, "rq", "入住日期", &StudentCard::rq},
 };
 
 const std::vector<kit::ListColumn> paymentColumns{
@@ -50,6 +64,8 @@ const std::vector<kit::ListColumn> arrearsColumns{
     {"当前状态", "clfs", kit::Format::Text, 5},
 };
 
+base::Money balanceOf(RecordSet& row) { return row.get("bjje").money() - row.get("sbjje").money(); }
+
 }  // namespace
 
 CardFrame::CardFrame(kit::Screen& screen)
@@ -70,9 +86,12 @@ void CardFrame::show(const StudentCard& card) {
 void CardFrame::clear() { show({}); }
 
 kit::Nodes CardFrame::layout() {
-  kit::Nodes fields{xh, xm};
-  for (kit::Field& field : details) fields.push_back(field);
-  return {kit::row({kit::form(std::move(fields)), kit::column({photo, kit::stretch()})}), kit::stretch()};
+  kit::Nodes top{xh, xm}, rest;
+  for (std::size_t i = 0; i < details.size(); ++i) {
+    if (cardLines[i].place == Beside) top.push_back(details[i]);
+    else rest.push_back(kit::spanning(details[i], cardLines[i].place == Whole ? 2 : 1));
+  }
+  return {kit::row({kit::form(std::move(top)), photo}), kit::form(std::move(rest), 2), kit::stretch()};
 }
 
 PaymentsFrame::PaymentsFrame(kit::Screen& screen, kit::Desk& desk)
@@ -126,16 +145,39 @@ ArrearsFrame::ArrearsFrame(kit::Screen& screen, kit::Desk& desk)
 void ArrearsFrame::show(const std::string& xh) {
   clear();
   RecordSet owed(desk_.store, Sql("select * from qfjl where xh='") + xh + "' and bjje-sbjje>0 and clfs<>'减免' order by bjrq");
-  store::forEach(owed, [&](RecordSet& row) {
-    std::vector<std::string> cells;
-    for (const kit::ListColumn& column : arrearsColumns)
-      cells.push_back(column.column.empty() ? base::paddedAmount(row.get("bjje").money() - row.get("sbjje").money())
-                                            : kit::formatted(row.get(column.column), column.format));
-    list.addRow(cells);
-  });
+  store::forEach(owed, [&](RecordSet& row) { addRow(row, balanceOf(row)); });
+}
+
+void ArrearsFrame::showDue() {
+  clear();
+  holdsDue_ = true;
+  frame.setTitle("今日到期应交欠费信息");
+  kit::loadReminderDays(desk_);
+  const base::Date today = desk_.clock.today();
+  RecordSet open(desk_.store, "select * from qfjl where  bjje-sbjje>0 and clfs<>'减免' order by bjrq");
+  base::Money total;
+  for (; !open.atEnd(); open.next()) {
+    const auto planned = open.get("bjrq").date();
+    if (!planned) continue;
+    if (today.daysUntil(*planned) >= desk_.session.reminder_days) break;  // all behind it are due later still
+    const base::Money balance = balanceOf(open);
+    addRow(open, balance);
+    total += balance;
+  }
+  bar.set(list.count() == 0 ? "没有到期的欠费记录！"
+                            : "欠费到期应交记录数：" + base::caption(list.count()) + " 条，总额为：" + total.fixed2() + "元 ！");
+}
+
+void ArrearsFrame::addRow(RecordSet& row, base::Money balance) {
+  std::vector<std::string> cells;
+  for (const kit::ListColumn& column : arrearsColumns)
+    cells.push_back(column.column.empty() ? base::paddedAmount(balance)
+                                          : kit::formatted(row.get(column.column), column.format));
+  list.addRow(cells);
 }
 
 void ArrearsFrame::clear() {
+  holdsDue_ = false;
   list.clear();
   bar.clear();
 }
@@ -143,9 +185,9 @@ void ArrearsFrame::clear() {
 SharingFrame::SharingFrame(kit::Screen& screen, kit::Desk& desk)
     : frame(screen, "sharing", "系统共享状态："),
       list(screen, "sharing_list",
-           {{"用户", "yhxm", kit::Format::Text, 5},
-            {"计算机", "jsjmc", kit::Format::Text, 7},
-            {"开始时间", "kjsj", kit::Format::Text, 9}}),
+           {{"用户", "yhxm", kit::Format::Text, 4},
+            {"计算机", "jsjmc", kit::Format::Text, 5},
+            {"开始时间", "kjsj", kit::Format::Text, 10}}),
       desk_(desk) {}
 
 void SharingFrame::refresh() {

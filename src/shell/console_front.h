@@ -40,11 +40,13 @@ class PaymentsFrame {
   kit::Desk& desk_;
 };
 
-// 欠费记录：what the student in hand still owes.
+// 欠费记录：what the student in hand still owes, or what the whole school should have paid by today.
 class ArrearsFrame {
  public:
   ArrearsFrame(kit::Screen& screen, kit::Desk& desk);
   void show(const std::string& xh);
+  void showDue();  // and whatever comes due within the reminder's lead
+  bool holdsDue() const { return holdsDue_; }
   void clear();
 
   kit::Frame frame;
@@ -53,6 +55,8 @@ class ArrearsFrame {
   kit::Action due, back;
 
  private:
+  void addRow(store::RecordSet& row, base::Money balance);
+  bool holdsDue_ = false;
   kit::Desk& desk_;
 };
 

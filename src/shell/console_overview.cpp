@@ -97,7 +97,7 @@ kit::Action& Overview::button(std::string_view caption) {
 kit::Nodes Overview::layout() {
   kit::Nodes actions;
   for (kit::Action& button : buttons) actions.push_back(button);
-  return {list, kit::row({bar, kit::buttons(std::move(actions))})};
+  return {list, bar, kit::buttons(std::move(actions))};
 }
 
 void Overview::clear() {

@@ -1,4 +1,8 @@
 // The console's overviews: opening, filling, and what their buttons do.
+#include "arrears/arrears_delete.h"
+#include "arrears/arrears_edit.h"
+#include "arrears/arrears_entry.h"
+#include "arrears/waiver.h"
 #include "base/text.h"
 #include "collection/fee_window.h"
 #include "kit/rows.h"
@@ -39,23 +43,20 @@ void Formzct::wireOverviews() {
     open<students::Formzctxsll>();
   });
   payments_overview.list.setTip("双击选定记录修改");
-  for (const char* caption : {"修改", "删除"}) {
+  for (const char* caption : {"修改", "删除"})
     payments_overview.button(caption).onPress([this] { notYet("交费记录编辑"); });
-    arrears_overview.button(caption).onPress([this] { notYet("欠费记录编辑"); });
-  }
   payments_overview.list.onDoubleClick([this] { notYet("交费记录编辑"); });
-  arrears_overview.list.onDoubleClick([this] { notYet("欠费记录编辑"); });
+  kit::Action& modifyArrears = arrears_overview.button("修改");
+  modifyArrears.onPress([this] { editArrears(kit::Mode::Modify); });
+  arrears_overview.button("删除").onPress([this] { editArrears(kit::Mode::Delete); });
+  arrears_overview.list.onDoubleClick([this, &modifyArrears] {
+    if (modifyArrears.enabled()) editArrears(kit::Mode::Modify);
+  });
+  cd91.onPress([this] { waiveInOverview(false); });
+  cd92.onPress([this] { waiveInOverview(true); });
   arrears_overview.list.menu = arrearsOverviewPopUp();
   arrears_overview.button("导入").onPress([this] { notYet("应交费用导入"); });
-  arrears_overview.button("添加").onPress([this] {
-    RecordSet payments_made = rows("select * from jfjl order by fpbh");
-    if (payments_made.empty())
-      return stop("您至少要通过收费前台录入一笔收费记录，才能在此添加欠费记录！   ", "操作提示");
-    payments_made.last();
-    desk.session.current_xq = payments_made.get("xq").trimmed();
-    desk.session.current_xh.clear();
-    notYet("欠费录入");
-  });
+  arrears_overview.button("添加").onPress([this] { addArrears(); });
 }
 
 Overview* Formzct::inFront() {
@@ -139,6 +140,36 @@ void Formzct::editStudent(kit::Mode mode) {
   if (mode == kit::Mode::Add)
     desk.session.student_where = Sql(" where bsh='") + base::trim(desk.session.ComputerName) + "'";
   fill(students_overview);
+}
+
+void Formzct::addArrears() {
+  RecordSet paid = rows("select * from jfjl order by fpbh");
+  if (paid.empty()) return stop("您至少要通过收费前台录入一笔收费记录，才能在此添加欠费记录！   ", "操作提示");
+  paid.last();
+  auto& session = desk.session;
+  session.current_xq = paid.get("xq").trimmed();
+  const Sql keyed = Sql(" where bsh='") + base::trim(session.ComputerName) + "'";
+  const auto keyedRows = [&] { return rows(Sql("select * from qfjl") + keyed).count(); };
+  const long long before = keyedRows();
+  const std::string onCard = std::exchange(session.current_xh, "");
+  open<arrears::Formqfcl>();
+  session.current_xh = onCard;  // the entry leaves its own student there; the card still shows the one before
+  if (keyedRows() > before) session.arrears_where = keyed;
+  fill(arrears_overview);
+}
+
+void Formzct::editArrears(kit::Mode mode) {
+  desk.session.arrears_selection = arrears_overview.list.key();
+  if (desk.session.arrears_selection.empty()) return;
+  desk.session.EditMode = mode;
+  if (mode == kit::Mode::Modify) open<arrears::Formqf>();
+  else open<arrears::Formqfcl5>();
+  fill(arrears_overview);
+}
+
+void Formzct::waiveInOverview(bool all) {
+  const auto waive = all ? arrears::waiveAll : arrears::waiveOne;
+  if (waive(desk, arrears_overview.list.key(), arrears::WaivedFrom::Overview)) fill(arrears_overview);
 }
 
 }  // namespace shell

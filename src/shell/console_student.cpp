@@ -1,4 +1,5 @@
 // The console's student in hand: finding one, the card, the payments, the arrears, and what is done from those lists.
+#include "arrears/waiver.h"
 #include "base/text.h"
 #include "collection/fee_window.h"
 #include "collection/receipt_print.h"
@@ -31,12 +32,15 @@ void Formzct::wireFront() {
   cd66.onPress([this] { openFeeWindowFor(arrears.list, "qfjl"); });
   cd64.onPress([this] { showArrears(); });
   arrears.back.onPress([this] { showArrears(); });
-  arrears.due.onPress([this] { notYet(cd63.caption()); });
+  for (kit::Action* entry : {&cd63, &arrears.due}) entry->onPress([this] { showDueArrears(); });
+  cd61.onPress([this] { waiveOnCard(false); });
+  cd62.onPress([this] { waiveOnCard(true); });
   arrears.list.onDoubleClick([this] { notYet("交费信息统计"); });
 
   class_strip.onPress([this] {
     if (inFront()) return;
     desk.session.ConsolePanel = kit::Panel::None;
+    if (arrears.holdsDue()) showArrears();
     classes.frame.show(!classes.frame.visible());
   });
   classes.students.onDoubleClick([this] { pickFromClass(); });
@@ -88,13 +92,13 @@ void Formzct::titleFrames() {
   const std::string name = card.xm.trimmed();
   card.frame.setTitle(name.empty() ? "学籍资料信息" : name + "同学学籍资料信息");
   payments.frame.setTitle(name.empty() ? "学生交费记录" : name + "同学交费记录");
-  arrears.frame.setTitle(name.empty() ? "学生欠费记录" : name + "同学欠费记录");
+  if (!arrears.holdsDue()) arrears.frame.setTitle(name.empty() ? "学生欠费记录" : name + "同学欠费记录");
 }
 
 void Formzct::clearCard() {
   card.clear();
   payments.clear();
-  arrears.clear();
+  leaveDueArrears();
   enablePaymentEntries(true);
   enableArrearsEntries(true);
 }
@@ -130,10 +134,31 @@ void Formzct::showPayments() {
   enablePaymentEntries(true);
 }
 
+void Formzct::leaveDueArrears() {
+  const bool grown = arrears.holdsDue();
+  arrears.clear();
+  if (!grown) return;
+  payments.frame.show(true);
+  titleFrames();
+}
+
 void Formzct::showArrears() {
-  if (!card.holdsStudent()) return arrears.clear();
+  leaveDueArrears();
+  if (!card.holdsStudent()) return enableArrearsEntries(true);
   arrears.show(base::trim(desk.session.current_xh));
   enableArrearsEntries(arrears.list.count() > 0);
+}
+
+void Formzct::showDueArrears() {
+  if (!may(desk, Collect)) return inform("只有收款人或超级管理员可以进行此操作！     ", "信息提示");
+  payments.frame.show(false);  // the frame grows over them
+  arrears.showDue();
+  enableArrearsEntries(arrears.list.count() > 0);
+}
+
+void Formzct::waiveOnCard(bool all) {
+  const auto waive = all ? arrears::waiveAll : arrears::waiveOne;
+  if (waive(desk, arrears.list.key(), arrears::WaivedFrom::Card)) showArrears();
 }
 
 void Formzct::refreshCard() {

@@ -17,6 +17,7 @@ using store::RecordSet;
 using store::Sql;
 
 Formcsh5::Formcsh5(kit::Desk& all) : Screen(all, "Formcsh5", "") {
+  school.prominent = true;
   yhxm.onDrop([this] { fillUsers(); });
   yhxm.onChange([this] { storedPassword_.clear(), level_.clear(); });
   yhxm.onPick([this] { chooseUser(); });
@@ -36,7 +37,10 @@ void Formcsh5::load() {
           {"\\配置文件\\morvanedjpz.mdb", store::configPassword});
   desk.session.SchoolName = schoolName;
   school.set(desk.session.SchoolName);
-  if (rows("select * from yhxx").empty()) open<upkeep::Formyhxx4>();
+  if (rows("select * from yhxx").empty()) {
+    open<upkeep::Formyhxx4>();
+    desk.session.first_user_added = false;  // the login behind it goes on
+  }
   RecordSet settings(desk.store, "select * from morvanedjpzb where fn='kqd'", Connection::Config);
   if (!settings.empty()) showPicture(static_cast<int>(settings.get("tupan").number()));
   yhxm.focus();

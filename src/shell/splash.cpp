@@ -8,6 +8,7 @@ namespace shell {
 
 Form1::Form1(kit::Desk& all) : Screen(all, "Form1", "") {
   product.set(productTitle);
+  product.prominent = true;
   timer.onTick([this] {
     if (++ticks_ < 3) return;
     desk.session.SchoolName = schoolName;

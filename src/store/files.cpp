@@ -1,5 +1,9 @@
 #include "store/files.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <array>
 
@@ -50,9 +54,28 @@ void createIn(const fs::path& programFolder, Connection which) {
   bringUp(*engine, which);
 }
 
+// Two computers may start at the same moment on an empty folder: one creates, the other waits and finds it done.
+class CreationLock {
+ public:
+  explicit CreationLock(const fs::path& programFolder)
+      : file_(::open((programFolder / ".creating").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)) {
+    if (file_ >= 0) ::flock(file_, LOCK_EX);
+  }
+  ~CreationLock() {
+    if (file_ >= 0) ::close(file_);
+  }
+  CreationLock(const CreationLock&) = delete;
+  CreationLock& operator=(const CreationLock&) = delete;
+
+ private:
+  const int file_;  // stays behind, empty: taking it away would let a third computer lock another file of the name
+};
+
 void create(const fs::path& programFolder) {
   const fs::path main = fileIn(programFolder, Connection::Main).parent_path();
   const fs::path config = fileIn(programFolder, Connection::Config).parent_path();
+  if (fs::exists(main) && fs::exists(config)) return;
+  const CreationLock lock(programFolder);
   if (!fs::exists(main) && !fs::exists(config)) {
     createIn(programFolder, Connection::Main);
     createIn(programFolder, Connection::Config);

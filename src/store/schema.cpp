@@ -67,19 +67,33 @@ void complete(Engine& engine, const Table& table) {
     if (present.empty() || std::ranges::any_of(present, same)) continue;
     engine.execute("alter table " + quoted(table.name) + " add column " + definition(column, engine.phrases()));
   }
+  createIndexes(engine, table);
+}
+
+std::string indexName(const Table& table, std::string_view index) {
+  std::string name = std::string(table.name) + "_" + std::string(index);
+  std::ranges::replace(name, ',', '_');
+  return quoted(name);
+}
+
+}  // namespace
+
+void createIndexes(Engine& engine, const Table& table) {
   for (std::string_view index : table.indexes) {
-    std::string name = std::string(table.name) + "_" + std::string(index), columns;
-    std::ranges::replace(name, ',', '_');
+    std::string columns;
     for (std::size_t from = 0; from <= index.size();) {
       const std::size_t end = std::min(index.find(',', from), index.size());
       columns += (from ? ", " : "") + quoted(index.substr(from, end - from));
       from = end + 1;
     }
-    engine.execute("create index if not exists " + quoted(name) + " on " + quoted(table.name) + " (" + columns + ")");
+    engine.execute("create index if not exists " + indexName(table, index) + " on " + quoted(table.name) + " (" +
+                   columns + ")");
   }
 }
 
-}  // namespace
+void dropIndexes(Engine& engine, const Table& table) {
+  for (std::string_view index : table.indexes) engine.execute("drop index if exists " + indexName(table, index));
+}
 
 void bringUp(Engine& engine, Connection connection) {
   const auto newer = [] {

@@ -10,4 +10,8 @@ namespace store {
 // program is refused: Fault::Other.
 void bringUp(Engine& engine, Connection connection);
 
+// Those that the catalogue names for the table.
+void createIndexes(Engine& engine, const Table& table);
+void dropIndexes(Engine& engine, const Table& table);
+
 }  // namespace store

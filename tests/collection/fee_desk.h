@@ -1,6 +1,7 @@
 // A front desk with one student, 王小明 of 计算机1班, who has three standards and no payments yet.
 #pragma once
 
+#include "arrears/arrears_entry.h"
 #include "collection/fee_window.h"
 #include "support/test_desk.h"
 
@@ -39,7 +40,9 @@ struct FeeDesk : support::TestDesk {
     row.update();
   }
   void expectSaved(bool print) { person.answer(print, Box::AskInfo, "收费操作成功！打印收据吗？      ", "操作提示"); }
-  void expectArrearsEntry() { person.expect(Box::Information, "“欠费录入”尚未开放，将在后续版本中提供。", "信息提示"); }
+  void expectArrearsEntry(std::function<void(arrears::Formqfcl&)> play = [](arrears::Formqfcl&) {}) {
+    navigator.expect<arrears::Formqfcl>(std::move(play));
+  }
 };
 
 // The lines that hold something, as a person sees them: place|item|due|tick|paid; "-" for a hidden tick box.

@@ -8,6 +8,7 @@ DemoScreen::DemoScreen(kit::Desk& all) : Screen(all, "DemoScreen", "学生资料
   xh.onLeave(logs("xh leave"));
   bjmc.onDrop([this] { bjmc.setChoices({"计算机一班", "计算机二班", "会计一班"}); });
   bjmc.onPick(logs("bjmc pick"));
+  rxrq.onPick(logs("rxrq pick"));
   paid.onChange(logs("paid"));
   scope.onChange(logs("scope"));
   photo.onDoubleClick(logs("photo"));

@@ -142,6 +142,7 @@ TEST_F(RendererTest, aDayIsTakenFromTheCalendar) {
   EXPECT_EQ(calendar->selectedDate(), QDate(2026, 9, 7));
   emit calendar->clicked(QDate(2026, 10, 1));
   EXPECT_EQ(screen.rxrq.text(), "2026-10-1");
+  EXPECT_EQ(screen.log, std::vector<std::string>{"rxrq pick"});
 }
 
 TEST_F(RendererTest, upAndDownMoveBetweenTheLines) {

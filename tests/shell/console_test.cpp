@@ -1,5 +1,8 @@
 #include "shell/console.h"
 
+#include "arrears/arrears_delete.h"
+#include "arrears/arrears_edit.h"
+#include "arrears/arrears_entry.h"
 #include "collection/fee_window.h"
 #include "feesetup/desk_settings.h"
 #include "shell/rights.h"
@@ -32,6 +35,9 @@ struct Office : TestDesk {
   }
   void pay(const char* lsh, const char* xh, const char* day, const char* receipt, const char* je, const char* sftj, const char* skr) {
     add("jfjl", {{"lsh", lsh}, {"xh", xh}, {"xm", "王小明"}, {"jfrq", day}, {"fpbh", receipt}, {"je", je}, {"sftj", sftj}, {"skr", skr}, {"sfxm", "学费"}});
+  }
+  void owe(const char* lsh, const char* xh, base::Date day, const char* bjje, const char* clfs = "") {
+    add("qfjl", {{"lsh", lsh}, {"xh", xh}, {"xm", "王小明"}, {"sfxm", "学费"}, {"bjrq", day}, {"bjje", bjje}, {"sbjje", 0}, {"clfs", clfs}});
   }
   void set(std::string_view column, store::Value value) {
     store::RecordSet settings(store, "select * from morvanedjpzb where fn='kqd'", store::Connection::Config);
@@ -174,6 +180,132 @@ TEST(Console, DeletesOnlyOwnUnsubmittedPayments) {
   EXPECT_EQ(office.count("select * from jfjl"), 4);
   s->cd572.press();  // the whole receipt
   EXPECT_EQ(office.dump("jfjl", "fpbh"), "10000000\n10000002\n");
+}
+
+void find(Formzct& s, const char* number) {
+  s.card.xh.type(number);
+  s.card.xh.enter();
+}
+
+TEST(Console, DueArrearsTakeThePlaceOfThePayments) {
+  Office office;
+  office.set("sfctsz", 0);
+  office.set("qfts", 7);
+  auto s = opened<Formzct>(office);
+  s->arrears.due.press();
+  EXPECT_EQ(s->arrears.bar.text(), "没有到期的欠费记录！");
+  s->arrears.back.press();
+  EXPECT_TRUE(s->payments.frame.visible());
+
+  office.owe("1", "1001", {2026, 9, 13}, "100");  // the sixth day from today
+  office.owe("2", "1001", {2026, 9, 14}, "200");
+  office.owe("3", "1002", {2025, 1, 1}, "12.5");  // overdue
+  office.owe("4", "1002", {2026, 9, 1}, "50", "减免");
+  find(*s, "1001");
+  EXPECT_EQ(s->arrears.list.count(), 2);
+  s->cd63.press();
+  EXPECT_EQ(s->arrears.frame.title(), "今日到期应交欠费信息");
+  EXPECT_FALSE(s->payments.frame.visible());
+  EXPECT_EQ(s->arrears.list.cell(0, 0), "3");
+  EXPECT_EQ(s->arrears.list.cell(0, 5), "    12.50");
+  EXPECT_EQ(s->arrears.bar.text(), "欠费到期应交记录数： 2 条，总额为：112.50元 ！");
+  s->cd64.press();
+  EXPECT_EQ(s->arrears.frame.title(), "王小明同学欠费记录");
+  EXPECT_TRUE(s->payments.frame.visible());
+  EXPECT_EQ(s->arrears.list.count(), 2);
+  EXPECT_EQ(s->arrears.bar.text(), "");
+
+  s->arrears.due.press();
+  s->class_strip.press();  // the panel of classes brings the student's list back
+  EXPECT_FALSE(s->arrears.holdsDue());
+  s->arrears.due.press();
+  s->card.xm.click();
+  EXPECT_EQ(s->arrears.frame.title(), "学生欠费记录");
+  EXPECT_TRUE(s->payments.frame.visible());
+
+  Office stranger{StudentQuery};
+  auto t = opened<Formzct>(stranger);
+  stranger.person.expect(Box::Information, "只有收款人或超级管理员可以进行此操作！     ", "信息提示");
+  t->arrears.due.press();
+  EXPECT_TRUE(t->payments.frame.visible());
+}
+
+TEST(Console, WaivesFromTheCardAndFromTheOverview) {
+  Office office;
+  office.set("sfctsz", 0);
+  office.set("jfjljz", true);
+  office.owe("1", "1001", {2026, 9, 13}, "100");
+  office.owe("2", "1001", {2026, 9, 14}, "200");
+  auto s = opened<Formzct>(office);
+  find(*s, "1001");
+  s->cd61.press();  // nothing is selected
+  s->arrears.list.select(0);
+  office.person.answer(true, Box::Ask, "您确认是要减免此笔欠费吗？     ", "操作提示")
+      .expect(Box::Information, "减免操作成功！     ", "信息提示")
+      .expect(Box::Information, "您操作的记录中存在减免或结清记录，请单笔进行操作！     ", "操作提示")
+      .answer(true, Box::Ask, "您确认是要减免此笔欠费吗？     ", "操作提示")
+      .expect(Box::Information, "减免操作成功！     ", "信息提示");
+  s->cd61.press();
+  EXPECT_EQ(s->arrears.list.count(), 1);
+  EXPECT_EQ(s->arrears.list.cell(0, 0), "2");
+  s->k4.press();
+  s->timer1.tick();
+  s->arrears_overview.list.select(1);
+  s->cd92.press();
+  s->cd91.press();
+  EXPECT_EQ(s->arrears_overview.list.cell(1, 10), "减免");
+  EXPECT_EQ(office.dump("qfjl", "lsh|sbjje|clfs"), "1|100|减免\n2|200|减免\n");
+
+  Office clerk{Collect, ArrearsQuery};
+  auto t = opened<Formzct>(clerk);
+  EXPECT_FALSE(t->cd91.enabled() || t->cd92.enabled());
+}
+
+TEST(Console, EditsArrearsFromTheOverview) {
+  Office office;
+  office.set("sfctsz", 0);
+  office.set("jfjljz", true);
+  office.owe("1", "1001", {2026, 9, 13}, "100");
+  auto s = opened<Formzct>(office);
+  find(*s, "1002");
+  s->k4.press();
+  s->timer1.tick();
+  Overview& overview = s->arrears_overview;
+  overview.button("修改").press();  // nothing is selected
+  overview.button("删除").press();
+  office.navigator.expect<arrears::Formqf>([](arrears::Formqf& edit) { EXPECT_EQ(edit.lsh.text(), "1"); });
+  overview.list.doubleClick(0);
+  overview.list.select(0);
+  office.navigator.expect<arrears::Formqfcl5>([&](arrears::Formqfcl5&) { EXPECT_EQ(office.session.arrears_selection, "1"); });
+  overview.button("删除").press();
+
+  office.navigator.expect<arrears::Formqfcl>();  // left without a row: all rows stay in sight
+  overview.button("添加").press();
+  EXPECT_TRUE(office.session.arrears_where.empty());
+  office.navigator.expect<arrears::Formqfcl>([](arrears::Formqfcl& entry) {
+    EXPECT_EQ(entry.xh.text(), "");
+    entry.xh.type("1001");
+    entry.xh.enter();
+    entry.lines[0].sfxm.type("书本费");
+    entry.lines[0].total.type("20");
+    entry.xq.set("2026学年");
+    entry.confirm.press();
+  });
+  office.person.expect(Box::Information, "欠费信息录入成功 ！     ", "信息提示");
+  overview.button("添加").press();
+  EXPECT_EQ(overview.list.count(), 1);
+  EXPECT_EQ(overview.list.cell(0, 3), "书本费");
+  EXPECT_EQ(office.session.current_xh, "1002");  // the card's student
+
+  overview.button("返回").press();
+  EXPECT_EQ(office.count("select * from qfjl where bsh='收费一号机'"), 0);
+  Office clerk{Collect, ArrearsQuery};
+  clerk.set("jfjljz", true);
+  clerk.owe("1", "1001", {2026, 9, 13}, "100");
+  auto t = opened<Formzct>(clerk);
+  t->k4.press();
+  t->timer1.tick();
+  t->arrears_overview.list.doubleClick(0);  // without the right to modify it opens nothing
 }
 
 TEST(Console, SaysGoodbyeInItsOrder) {

@@ -61,6 +61,10 @@ TEST(StudentEdit, ListsOfferWhatIsInUseAndLeadOn) {
   s->mz.pick("回族");
   EXPECT_EQ(s->mz.choices().size(), 2U);
   EXPECT_EQ(s->focused, &s->csrq);
+  s->csrq.pick("2009-1-1");
+  EXPECT_EQ(s->focused, &s->sfzhm);
+  s->rxrq.pick("2026-9-1");
+  EXPECT_EQ(s->focused, &s->zzmm);
   s->zzmm.pick("团员");
   EXPECT_EQ(s->focused, &s->lxdh);
   s->rxxs.pick("统招");

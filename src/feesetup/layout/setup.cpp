@@ -17,8 +17,8 @@ kit::Layout Formsz::layout() {
                      bands.group("成绩分段"), group("操作记录", {czjl, buttons({clearLog})}), forms.group("入学形式")}),
                buttons({back})}),
           .cancel = &back,
-          .width = 920,
-          .height = 600};
+          .width = 1000,
+          .height = 640};
 }
 
 }  // namespace feesetup

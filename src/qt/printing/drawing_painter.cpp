@@ -45,7 +45,8 @@ void paintWrapped(QPainter& painter, const platform::Text& mark, double scale, c
   layout.beginLayout();
   for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
     line.setLineWidth(mark.fit / scale);
-    paintLine(painter, {mark.x, y}, scale, face, text.mid(line.textStart(), line.textLength()).remove(QChar::LineSeparator));
+    paintLine(painter, {mark.x, y}, scale, face,
+              text.mid(line.textStart(), line.textLength()).remove(QChar::LineSeparator));
     y += linePitch * em * scale;
   }
   layout.endLayout();
@@ -94,7 +95,9 @@ void paintPage(QPainter& painter, const platform::Page& page) {
 
 void setPaper(QPagedPaintDevice& device, const platform::Drawing& drawing) {
   const QPageSize paper(QSizeF(drawing.width, drawing.height), QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
-  device.setPageLayout(QPageLayout(paper, QPageLayout::Portrait, QMarginsF(), QPageLayout::Millimeter, QMarginsF()));
+  QPageLayout layout(paper, QPageLayout::Portrait, QMarginsF(), QPageLayout::Millimeter, QMarginsF());
+  layout.setMode(QPageLayout::FullPageMode);  // places count from the paper's corner, whatever the printer cannot reach
+  device.setPageLayout(layout);
 }
 
 bool paintPages(QPagedPaintDevice& device, const platform::Drawing& drawing, int first, int last) {

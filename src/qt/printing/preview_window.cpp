@@ -28,17 +28,20 @@ namespace qt {
 constexpr double smallestZoom = 0.25, largestZoom = 4, zoomStep = 1.2;
 
 PreviewWindow::PreviewWindow(const platform::Drawing& drawing, QWidget* parent) : QDialog(parent), drawing_(drawing) {
+  setObjectName("preview");
   setWindowTitle("打印预览 - " + toQt(drawing.title));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   auto* row = new QHBoxLayout;
   addButton(*row, "print", "打印", "printer", {QKeySequence::Print}, &PreviewWindow::print)->setDefault(true);
   addButton(*row, "savePdf", "另存为 PDF", "save", {QKeySequence::Save}, &PreviewWindow::savePdfAs);
   row->addSpacing(12);
-  addButton(*row, "zoomIn", "放大", "zoom-in", {QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")}, &PreviewWindow::zoomIn);
+  addButton(*row, "zoomIn", "放大", "zoom-in", {QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")},
+            &PreviewWindow::zoomIn);
   addButton(*row, "zoomOut", "缩小", "zoom-out", {QKeySequence("Ctrl+-")}, &PreviewWindow::zoomOut);
   addButton(*row, "fitWidth", "适合页宽", "move-horizontal", {QKeySequence("Ctrl+0")}, &PreviewWindow::fitWidth);
   row->addSpacing(12);
-  previous_ = addButton(*row, "previousPage", "上一页", "chevron-left", {QKeySequence("PgUp")}, &PreviewWindow::previousPage);
+  previous_ =
+      addButton(*row, "previousPage", "上一页", "chevron-left", {QKeySequence("PgUp")}, &PreviewWindow::previousPage);
   row->addWidget(place_ = new QLabel);
   next_ = addButton(*row, "nextPage", "下一页", "chevron-right", {QKeySequence("PgDown")}, &PreviewWindow::nextPage);
   row->addSpacing(12);
@@ -134,9 +137,10 @@ void PreviewWindow::refresh() {
 
 void PreviewWindow::print() {
   if (QPrinterInfo::availablePrinterNames().isEmpty()) {
-    QMessageBox box(QMessageBox::Warning, "打印提示",
-                    "没有找到打印机。\n请检查打印机是否已接通电源，并已在系统中安装；也可以先另存为 PDF 文件，以后再打印。",
-                    QMessageBox::NoButton, this);
+    QMessageBox box(
+        QMessageBox::Warning, "打印提示",
+        "没有找到打印机。\n请检查打印机是否已接通电源，并已在系统中安装；也可以先另存为 PDF 文件，以后再打印。",
+        QMessageBox::NoButton, this);
     const auto* save = box.addButton("另存为 PDF", QMessageBox::AcceptRole);
     box.addButton("取消", QMessageBox::RejectRole);
     box.exec();
@@ -146,7 +150,6 @@ void PreviewWindow::print() {
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(toQt(drawing_.title));
   setPaper(printer, drawing_);
-  printer.setFullPage(true);
   QPrintDialog dialog(&printer, this);
   dialog.setWindowTitle("打印");
   dialog.setMinMax(1, static_cast<int>(drawing_.pages.size()));

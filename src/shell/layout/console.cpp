@@ -11,7 +11,7 @@ Layout Formzct::layout() {
                          {group(classes.frame, {classes.tree, classes.students, classes.opensFeeWindow}),
                           group(card.frame, card.layout()),
                           group(payments.frame, {payments.list, payments.bar}),
-                          group(arrears.frame, {arrears.list, row({arrears.bar, arrears.due, arrears.back})}),
+                          group(arrears.frame, {arrears.list, arrears.bar, buttons({arrears.due, arrears.back})}),
                           group(sharing.frame, {sharing.list}),
                           group(students_overview.frame, students_overview.layout()),
                           group(payments_overview.frame, payments_overview.layout()),

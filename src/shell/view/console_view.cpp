@@ -1,15 +1,54 @@
+#include <QAbstractButton>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QPainter>
+#include <algorithm>
 #include <QSplitter>
-#include <QVBoxLayout>
 
+#include "qt/theme.h"
 #include "shell/console.h"
 #include "shell/view/shell_views.h"
 
 namespace shell {
 namespace {
 
-constexpr int classPanelWidth = 380;
+constexpr int classPanelWidth = 380, cardWidth = 400, sharingWidth = 345;
+
+// The strip at the window's left edge, its words one below the other.
+class Strip : public QAbstractButton {
+ public:
+  Strip() {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+  }
+  QSize sizeHint() const override { return QSize(26, 160); }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    const bool lit = isEnabled() && (hasFocus() || underMouse());
+    painter.fillRect(rect(), lit ? qt::theme::accent : qt::theme::accentPale);
+    painter.setPen(!isEnabled() ? qt::theme::faint : lit ? qt::theme::paper : qt::theme::accentDark);
+    const QString words = text();
+    const int step = fontMetrics().height() + 3;
+    int top = (height() - step * static_cast<int>(words.size())) / 2;
+    for (const QChar word : words) {
+      painter.drawText(QRect(0, top, width(), step), Qt::AlignCenter, word);
+      top += step;
+    }
+  }
+};
+
+QWidget* buildStrip(kit::Action& action, qt::Renderer& renderer) {
+  auto strip = std::make_unique<Strip>();
+  Strip* made = strip.get();
+  renderer.bind(action, strip.release());
+  renderer.listen(action, made);
+  renderer.follow(action, [made, &action] { made->setText(QString::fromStdString(action.caption())); });
+  QObject::connect(made, &QAbstractButton::clicked, made, [&action] { action.press(); });
+  return made;
+}
 
 // Places the parts over one another: the front fills the area, a shown overview covers it, the class panel lies on top.
 class ConsoleArea : public QWidget {
@@ -17,8 +56,8 @@ class ConsoleArea : public QWidget {
   ConsoleArea(Formzct& console, QWidget* front, std::vector<QWidget*> covers, QWidget* classes, QWidget* strip)
       : console_(console), front_(front), covers_(std::move(covers)), classes_(classes), strip_(strip) {
     for (QWidget* part : parts()) part->setParent(this);
-    for (QWidget* cover : covers_) cover->setAutoFillBackground(true);
-    classes_->setAutoFillBackground(true);
+    for (QWidget* cover : covers_) cover->installEventFilter(this);
+    classes_->setStyleSheet("#classes { background: " + qt::theme::panel.name() + "; }");
     strip_->installEventFilter(this);
     front_->installEventFilter(this);
   }
@@ -38,6 +77,9 @@ class ConsoleArea : public QWidget {
     const bool open = console_.classes.frame.visible();
     if (enters && console_.class_strip.enabled() && ((object == strip_ && !open) || (object == front_ && open)))
       console_.class_strip.press();
+    // A shown overview stands alone: what it covers must neither shine through nor take the focus.
+    if ((event->type() == QEvent::Show || event->type() == QEvent::Hide) && object != strip_ && object != front_)
+      front_->setVisible(std::none_of(covers_.begin(), covers_.end(), [](QWidget* cover) { return cover->isVisibleTo(cover->parentWidget()); }));
     return QWidget::eventFilter(object, event);
   }
 
@@ -59,10 +101,12 @@ class ConsoleArea : public QWidget {
 
 QWidget* buildConsole(kit::Screen& screen, const kit::Node& node, qt::Renderer& renderer) {
   std::vector<QWidget*> parts;
-  for (const kit::Node& child : node.children) parts.push_back(renderer.build(child));
+  for (const kit::Node& child : node.children)
+    if (child.kind != kit::Node::Kind::Member) parts.push_back(renderer.build(child));
   QWidget* const classes = parts[0];
   QWidget* const card = parts[1];
-  QWidget* const strip = parts[8];
+  auto& console = static_cast<Formzct&>(screen);
+  QWidget* const strip = buildStrip(console.class_strip, renderer);
 
   auto* lists = new QSplitter(Qt::Vertical);
   lists->addWidget(parts[2]);
@@ -72,16 +116,15 @@ QWidget* buildConsole(kit::Screen& screen, const kit::Node& node, qt::Renderer& 
   lists->setChildrenCollapsible(false);
 
   auto* front = new QWidget;
-  auto* side = new QVBoxLayout;
-  side->addWidget(strip, 0, Qt::AlignLeft);
-  side->addWidget(card, 1);
   auto* row = new QHBoxLayout(front);
-  card->setFixedWidth(390);
-  parts[4]->setFixedWidth(250);
-  row->addLayout(side);
+  row->setContentsMargins(0, 6, 6, 6);
+  card->setFixedWidth(cardWidth);
+  parts[4]->setFixedWidth(sharingWidth);
+  row->addWidget(strip);
+  row->addWidget(card);
   row->addWidget(lists, 1);
   row->addWidget(parts[4]);
-  return new ConsoleArea(static_cast<Formzct&>(screen), front, {parts[5], parts[6], parts[7]}, classes, strip);
+  return new ConsoleArea(console, front, {parts[5], parts[6], parts[7]}, classes, strip);
 }
 
 }  // namespace shell

@@ -1,6 +1,8 @@
 #include <QPainter>
 #include <QPixmap>
 
+#include "qt/text.h"
+#include "qt/theme.h"
 #include "shell/login.h"
 #include "shell/view/shell_views.h"
 
@@ -14,7 +16,7 @@ class LoginArea : public QWidget {
  public:
   LoginArea(Formcsh5& login, QWidget* panel) : login_(login), panel_(panel) {
     panel_->setParent(this);
-    panel_->setAutoFillBackground(true);
+    panel_->setStyleSheet("#panel { background: " + qt::toQt(kit::panelColour).name() + "; }");
   }
   void takePicture() {
     picture_.loadFromData(reinterpret_cast<const uchar*>(login_.background.bytes().data()),
@@ -24,7 +26,7 @@ class LoginArea : public QWidget {
 
  protected:
   void resizeEvent(QResizeEvent*) override {
-    const QSize size = panel_->sizeHint().expandedTo(QSize(360, 220));
+    const QSize size = panel_->sizeHint().expandedTo(QSize(380, 0));
     panel_->setGeometry(width() - size.width() - panelMargin, height() - size.height() - panelMargin, size.width(),
                         size.height());
   }

@@ -25,10 +25,10 @@ Layout Formyhxx3::layout() {
           .cancel = &cancel};
 }
 
-// Four columns of groups of about equal height.
+// Five columns of groups of about equal height.
 Layout Formyhxx1::layout() {
-  std::vector<Nodes> columns(4);
-  std::vector<std::size_t> heights(4, 0);
+  std::vector<Nodes> columns(5);
+  std::vector<std::size_t> heights(5, 0);
   for (const RightGroup& one : rightGroups()) {
     Nodes ticks;
     for (const RightCaption& right : one.rights) ticks.push_back(*box(right.number));

@@ -1,0 +1,27 @@
+#include "app/office.h"
+
+#include <QApplication>
+
+#include "app/screens.h"
+#include "shell/splash.h"
+#include "shell/start.h"
+
+namespace app {
+
+Office::Office(const std::string& programFolder)
+    : store_(programFolder), person_(shell::productTitle), navigator_(app::views()), desktop_(programFolder) {
+  store_.onWait = [this](bool waiting) { progress_.waiting(waiting); };
+}
+
+int Office::run() {
+  int status = 0;
+  do {
+    session_ = {};
+    desk_.navigator.stand<shell::Form1>(desk_);
+    status = QApplication::exec();
+    // The first-run screen leads nowhere by itself: with its user made, the program starts anew for the login.
+  } while (status == 0 && session_.first_user_added);
+  return status;
+}
+
+}  // namespace app

@@ -1,0 +1,31 @@
+// The office: the Desk made of its real pieces, and the run of the program on it.
+#pragma once
+
+#include <string>
+
+#include "qt/computer.h"
+#include "qt/navigator.h"
+#include "qt/person.h"
+#include "qt/printing/qt_printer.h"
+#include "qt/progress.h"
+
+namespace app {
+
+class Office {
+ public:
+  explicit Office(const std::string& programFolder);
+  int run();  // from the splash to the last window; a QApplication must exist
+
+ private:
+  store::Store store_;
+  kit::Session session_;
+  qt::QtPerson person_;
+  qt::QtNavigator navigator_;
+  qt::QtClock clock_;
+  qt::QtPrinter printer_;
+  qt::QtDesktop desktop_;
+  qt::QtProgress progress_;
+  kit::Desk desk_{session_, store_, person_, navigator_, clock_, printer_, desktop_, progress_};
+};
+
+}  // namespace app

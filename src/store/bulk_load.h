@@ -1,0 +1,27 @@
+// Writes very many rows into one table: the table's indexes are set aside meanwhile and built at the end, which is many
+// times quicker than keeping them up row by row. For schools that are made or brought in as a whole; needs a unit of
+// work around it, so that nobody ever meets the table without its indexes.
+#pragma once
+
+#include <string_view>
+
+#include "store/store.h"
+
+namespace store {
+
+class BulkLoad {
+ public:
+  BulkLoad(Store& store, std::string_view table, Connection connection = Connection::Main);
+  ~BulkLoad();  // builds the indexes when finish() was not reached
+  BulkLoad(const BulkLoad&) = delete;
+  BulkLoad& operator=(const BulkLoad&) = delete;
+  void finish();
+
+ private:
+  Store& store_;
+  Connection connection_;
+  const Table& table_;
+  bool open_ = true;
+};
+
+}  // namespace store
