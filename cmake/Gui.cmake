@@ -45,10 +45,13 @@ endforeach()
 add_library(screens STATIC ${CMAKE_SOURCE_DIR}/src/app/screens.cpp ${CMAKE_SOURCE_DIR}/src/app/office.cpp)
 gui_target(screens SEES app qt ${ROOMS} LINK views qt ${ROOMS})
 
-# The program itself and the tools that open windows.
-add_executable(fee-office src/app/main.cpp)
-gui_target(fee-office SEES app qt ${ROOMS} LINK screens)
-add_executable(tour tools/tour.cpp tools/tour_player.cpp)
-gui_target(tour SEES app qt ${ROOMS} LINK screens Qt6::Test)
-add_executable(pictures tools/pictures.cpp)
-gui_target(pictures SEES app LINK Qt6::Gui)
+# gui_program(NAME sources... LINK libraries...): the program itself and the tools that open windows.
+function(gui_program name)
+  cmake_parse_arguments(PROGRAM "" "" "SOURCES;LINK" ${ARGN})
+  add_executable(${name} ${PROGRAM_SOURCES})
+  gui_target(${name} SEES app qt ${ROOMS} LINK ${PROGRAM_LINK})
+endfunction()
+
+gui_program(fee-office SOURCES src/app/main.cpp LINK screens)
+gui_program(tour SOURCES tools/tour.cpp tools/tour_player.cpp LINK screens Qt6::Test)
+gui_program(pictures SOURCES tools/pictures.cpp LINK Qt6::Gui)

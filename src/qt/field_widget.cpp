@@ -16,8 +16,8 @@ namespace {
 using kit::Entry;
 
 constexpr int usualWidth = 10, dateWidth = 7, leastShown = 3, memoLines = 3;  // characters; lines
-constexpr int shownMargins = 4;
 constexpr double prominentScale = 1.5;
+constexpr int shownMargins = 4;
 
 // A text that can be selected for copying, but not changed. One too long for its place ends with a mark and is told in
 // full by its tip.

@@ -1,5 +1,4 @@
-// What the tests of windows share: the application on a screen of 1366 by 768, a desk whose person never objects, a
-// window over a screen.
+// What the tests of windows share: a desk whose person never objects. The application stands on a screen of 1366 by 768.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -7,11 +6,7 @@
 #include "qt/screen_window.h"
 #include "support/test_desk.h"
 
-class QApplication;
-
 namespace support {
-
-QApplication& application();
 
 // Says 否 to everything and keeps what was said.
 struct QuietPerson : kit::Person {
@@ -29,7 +24,6 @@ struct QuietNavigator : kit::Navigator {
 };
 
 struct WindowDesk {
-  WindowDesk() { application(); }
   TestDesk parts;
   QuietPerson person;
   QuietNavigator navigator;
