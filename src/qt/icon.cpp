@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
-// The linker would leave a library's resource out that nothing asks for.
+// The icons lie in a static library, which the linker leaves out unless they are asked for.
 static void keepIcons() { Q_INIT_RESOURCE(icons); }
 
 namespace qt {
@@ -40,7 +40,7 @@ class TintedEngine : public QIconEngine {
 }  // namespace
 
 QIcon icon(const QString& name, const QColor& colour) {
-  [[maybe_unused]] static const bool kept = (keepIcons(), true);
+  keepIcons();
   QFile file(pathOf(name));
   if (name.isEmpty() || !file.open(QIODevice::ReadOnly)) return {};
   return QIcon(std::make_unique<TintedEngine>(file.readAll(), colour).release());

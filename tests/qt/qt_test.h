@@ -1,5 +1,4 @@
-// What the tests of windows share: the application on a screen of 1366 by 768, a desk whose person never objects, a
-// window over a screen.
+// What the tests of windows share: a desk whose person never objects. The application stands on a screen of 1366 by 768.
 #pragma once
 
 #include <gtest/gtest.h>
