@@ -16,44 +16,40 @@ set(ICON_RESOURCE ${CMAKE_BINARY_DIR}/icons.qrc)
 file(CONFIGURE OUTPUT ${ICON_RESOURCE}
   CONTENT "<RCC>\n  <qresource prefix=\"/icons\">\n@entries@  </qresource>\n</RCC>\n" @ONLY)
 
-# gui_library(NAME tree rooms... SOURCES files... LINK libraries...): a library that may use Qt.
-function(gui_library name)
-  cmake_parse_arguments(GUI "" "" "SEES;SOURCES;LINK" ${ARGN})
+# gui_target(NAME SEES rooms... LINK libraries...): a library or program that may use Qt.
+function(gui_target name)
+  cmake_parse_arguments(GUI "" "" "SEES;LINK" ${ARGN})
   include_tree(${name} tree ${GUI_SEES})
-  add_library(${name} STATIC ${GUI_SOURCES})
-  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
   target_include_directories(${name} PRIVATE ${tree})
   target_compile_options(${name} PRIVATE ${WARNINGS})
   target_link_libraries(${name} PUBLIC ${GUI_LINK})
 endfunction()
 
 file(GLOB qt_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/qt/*.cpp ${CMAKE_SOURCE_DIR}/src/qt/printing/*.cpp)
-gui_library(qt SEES qt base store platform kit
-  SOURCES ${qt_sources} ${ICON_RESOURCE}
-  LINK base store platform kit Qt6::Widgets Qt6::PrintSupport Qt6::Svg)
+add_library(qt STATIC ${qt_sources} ${ICON_RESOURCE})
 set_target_properties(qt PROPERTIES AUTORCC ON)
+gui_target(qt SEES qt base store platform kit LINK base store platform kit Qt6::Widgets Qt6::PrintSupport Qt6::Svg)
 
 # Hand-made views: src/<room>/view/*.cpp. Each may use qt and what its room may use.
 add_library(views INTERFACE)
 foreach(name ${ROOMS})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/view/*.cpp)
   if(sources)
-    gui_library(${name}_view SEES ${name} qt ${${name}_SEES} SOURCES ${sources} LINK ${name} qt)
+    add_library(${name}_view STATIC ${sources})
+    gui_target(${name}_view SEES ${name} qt ${${name}_SEES} LINK ${name} qt)
     target_link_libraries(views INTERFACE ${name}_view)
   endif()
 endforeach()
 
-gui_library(screens SEES app qt ${ROOMS} SOURCES ${CMAKE_SOURCE_DIR}/src/app/screens.cpp ${CMAKE_SOURCE_DIR}/src/app/office.cpp LINK views qt ${ROOMS})
+add_library(screens STATIC ${CMAKE_SOURCE_DIR}/src/app/screens.cpp ${CMAKE_SOURCE_DIR}/src/app/office.cpp)
+gui_target(screens SEES app qt ${ROOMS} LINK views qt ${ROOMS})
 
 # gui_program(NAME sources... LINK libraries...): the program itself and the tools that open windows.
 function(gui_program name)
   cmake_parse_arguments(PROGRAM "" "" "SOURCES;LINK" ${ARGN})
-  include_tree(${name} tree app qt ${ROOMS})
   add_executable(${name} ${PROGRAM_SOURCES})
-  target_include_directories(${name} PRIVATE ${tree})
-  target_compile_options(${name} PRIVATE ${WARNINGS})
-  target_link_libraries(${name} PRIVATE ${PROGRAM_LINK})
-  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+  gui_target(${name} SEES app qt ${ROOMS} LINK ${PROGRAM_LINK})
 endfunction()
 
 gui_program(fee-office SOURCES src/app/main.cpp LINK screens)

@@ -17,6 +17,7 @@ QWidget* choiceWidget(kit::Choice& choice, Renderer& renderer) {
   auto* holder = new QWidget;
   auto* box = std::make_unique<QBoxLayout>(length <= longestRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, holder).release();
   box->setContentsMargins(0, 0, 0, 0);
+  if (length > longestRow) box->setSpacing(3);
   renderer.bind(choice, holder);
   std::vector<QRadioButton*> buttons;
   for (const std::string& option : options) {

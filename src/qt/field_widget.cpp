@@ -17,6 +17,7 @@ using kit::Entry;
 
 constexpr int usualWidth = 10, dateWidth = 7, leastShown = 3, memoLines = 3;  // characters; lines
 constexpr double prominentScale = 1.5;
+constexpr int shownMargins = 4;
 
 // A text that can be selected for copying, but not changed. One too long for its place ends with a mark and is told in
 // full by its tip.
@@ -30,9 +31,9 @@ class ShownEdit : public QLineEdit {
   }
   QSize sizeHint() const override {
     const int words = fontMetrics().horizontalAdvance(text()) + 10;
-    return {std::max(words, charactersWide(fontMetrics(), leastShown)), QLineEdit::sizeHint().height()};
+    return {std::max(words, charactersWide(fontMetrics(), leastShown)), fontMetrics().height() + shownMargins};
   }
-  QSize minimumSizeHint() const override { return {charactersWide(fontMetrics(), leastShown), QLineEdit::sizeHint().height()}; }
+  QSize minimumSizeHint() const override { return {charactersWide(fontMetrics(), leastShown), fontMetrics().height() + shownMargins}; }
   std::string tip;
 
  protected:
@@ -221,11 +222,11 @@ QWidget* fieldWidget(kit::Field& field, Renderer& renderer) {
   return edit;
 }
 
-QWidget* shownText(kit::Field& field, Renderer& renderer) {
+QWidget* shownText(kit::Field& field, Renderer& renderer, bool wraps) {
   auto* label = new QLabel;
   enlarge(*label, field);
   label->setTextFormat(Qt::PlainText);
-  label->setWordWrap(true);
+  label->setWordWrap(wraps);
   label->setTextInteractionFlags(Qt::TextSelectableByMouse);
   renderer.bind(field, label);
   renderer.listen(field, label);

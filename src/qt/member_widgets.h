@@ -6,7 +6,8 @@
 namespace qt {
 
 QWidget* fieldWidget(kit::Field& field, Renderer& renderer);
-QWidget* shownText(kit::Field& field, Renderer& renderer);  // a shown field over as many lines as it takes
+// A shown field that stands by itself: over as many lines as it takes, or in one line.
+QWidget* shownText(kit::Field& field, Renderer& renderer, bool wraps);
 QWidget* checkWidget(kit::Check& check, Renderer& renderer);
 QWidget* choiceWidget(kit::Choice& choice, Renderer& renderer);
 QWidget* button(kit::Action& action, Renderer& renderer);

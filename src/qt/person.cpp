@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPointer>
 
 #include "qt/icon.h"
 #include "qt/text.h"
@@ -36,7 +37,7 @@ XPButton* addButton(QMessageBox& box, const char* caption, QMessageBox::ButtonRo
 }  // namespace
 
 bool QtPerson::show(kit::Box box, const std::string& text, const std::string& title) {
-  QWidget* const below = QApplication::activeWindow();
+  const QPointer<QWidget> below = QApplication::activeWindow();
   QMessageBox message(below);
   message.setObjectName("message");
   message.setWindowTitle(title.empty() ? programName_ : toQt(title));

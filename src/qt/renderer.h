@@ -83,6 +83,7 @@ class Renderer : public QObject {
   std::vector<std::vector<const kit::Member*>> grid_;  // of the lines that are being walked with Up and Down
   kit::Member* here_ = nullptr;                        // told that the focus came, and not yet that it went
   QString groupTitle_;
+  bool inRow_ = false;
 };
 
 }  // namespace qt

@@ -1,5 +1,6 @@
 // The renderer's part that places widgets: a function a kind of node.
 #include <QFontMetrics>
+#include <QFrame>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -23,6 +24,8 @@ using kit::Node;
 
 constexpr int spacing = 8, wideSpacing = 14, groupMargin = 10;
 constexpr int narrowestButton = 92;
+constexpr int tightSpacing = 3;  // of what belongs closely together: ticks, the rows of a long form
+constexpr int longForm = 12;     // rows
 
 const kit::Field* fieldOf(const Node& node) {
   return node.kind == Node::Kind::Member && node.member->kind == MemberKind::Field ? static_cast<const kit::Field*>(node.member)
@@ -103,7 +106,8 @@ QWidget* Renderer::sized(const Node& node) {
 QWidget* Renderer::member(const Node& node) {
   if (const auto* field = fieldOf(node)) {
     if (!field->label().empty() && toQt(field->label()) != groupTitle_) return labelled(node);
-    if (field->entry == Entry::Shown && node.width == 0) return shownText(static_cast<kit::Field&>(*node.member), *this);
+    if (field->entry == Entry::Shown && node.width == 0) 
+      return shownText(static_cast<kit::Field&>(*node.member), *this, !inRow_);
   }
   if (isMember(node, MemberKind::List)) {
     const auto& list = static_cast<const kit::List&>(*node.member);
@@ -130,6 +134,10 @@ QWidget* Renderer::labelled(const Node& node) {
 }
 
 void Renderer::fillColumn(QBoxLayout& box, const kit::Nodes& children) {
+  const auto ticks = std::count_if(children.begin(), children.end(), [](const Node& child) {
+    return isMember(child, MemberKind::Check) || isMember(child, MemberKind::Choice) || child.kind == Node::Kind::Note;
+  });
+  if (2 * ticks >= static_cast<long>(children.size()) && ticks > 1) box.setSpacing(tightSpacing);
   const bool grows = std::any_of(children.begin(), children.end(), growsDown);
   for (const Node& child : children) {
     if (child.kind == Node::Kind::Stretch) {
@@ -159,12 +167,20 @@ QWidget* Renderer::row(const Node& node) {
                                  [](const Node& child) { return child.kind == Node::Kind::Stretch || growsAside(child); });
   const bool stretches = std::any_of(node.children.begin(), node.children.end(),
                                      [](const Node& child) { return child.kind == Node::Kind::Stretch; });
+  bool shared = grows;
   for (const Node& child : node.children) {
+    // Where nothing has a use for the room, the parts share it; single members leave it empty.
+    const bool part = !grows && (child.kind == Node::Kind::Column || child.kind == Node::Kind::Group);
+    shared = shared || part;
     if (child.kind == Node::Kind::Stretch) box->addStretch(1);
-    else if (child.kind == Node::Kind::Member) box->addWidget(build(child), growsAside(child) ? 1 : 0);
-    else box->addWidget(build(child), growsAside(child) && !stretches ? 1 : 0);
+    else if (child.kind == Node::Kind::Member) {
+      inRow_ = true;
+      box->addWidget(build(child), growsAside(child) ? 1 : 0);
+      inRow_ = false;
+    }
+    else box->addWidget(build(child), part || (growsAside(child) && !stretches) ? 1 : 0);
   }
-  if (!grows) box->addStretch(1);
+  if (!shared) box->addStretch(1);
   return holder;
 }
 
@@ -172,6 +188,7 @@ QWidget* Renderer::form(const Node& node) {
   auto* holder = new QWidget(&nursery_);
   auto* grid = inside<QGridLayout>(holder);
   grid->setHorizontalSpacing(spacing);
+  if (node.children.size() > static_cast<std::size_t>(longForm * node.columns)) grid->setVerticalSpacing(tightSpacing);
   int place = 0;
   for (const Node& child : node.children) {
     const int span = std::min(child.span, node.columns);
@@ -226,8 +243,10 @@ QWidget* Renderer::tabs(const Node& node) {
 }
 
 QWidget* Renderer::lines(const Node& node) {
-  auto* holder = new QWidget(&nursery_);
+  auto* holder = new QFrame(&nursery_);
+  holder->setProperty("role", "lines");
   auto* grid = inside<QGridLayout>(holder);
+  grid->setContentsMargins(groupMargin, groupMargin - 2, groupMargin, groupMargin - 2);
   grid->setSpacing(3);
   grid->setHorizontalSpacing(6);
   int column = 0;

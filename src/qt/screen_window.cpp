@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
@@ -22,11 +23,16 @@ namespace {
 constexpr int margin = 16, frameHeight = 34, frameWidth = 4;
 constexpr int toolIcon = 26;
 
-// A page that needs more room than the desktop has is scrolled instead of being cut.
+// What is larger than the desktop is scrolled instead of being cut.
+class ScrolledPage : public QScrollArea {
+ public:
+  QSize sizeHint() const override { return widget()->sizeHint() + QSize(2 * verticalScrollBar()->sizeHint().width(), 0); }
+};
+
 QWidget* fitted(QWidget* page, const QSize& room) {
   const QSize needed = page->minimumSizeHint();
   if (needed.width() <= room.width() && needed.height() <= room.height()) return page;
-  auto* area = std::make_unique<QScrollArea>().release();  // the window owns what it shows
+  auto* area = std::make_unique<ScrolledPage>().release();  // the window owns what it shows
   area->setFrameShape(QFrame::NoFrame);
   area->setWidgetResizable(true);
   area->setWidget(page);
@@ -52,8 +58,9 @@ ScreenWindow::ScreenWindow(kit::Screen& screen, const Views& views)
   const int edge = layout_.root.kind == kit::Node::Kind::Custom ? 0 : margin;
   box->setContentsMargins(edge, edge, edge, edge);
   box->addWidget(renderer_->build(layout_.root));
-  const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
-  setCentralWidget(fitted(page, area.size() - QSize(frameWidth, frameHeight)));
+  const QSize desktop = QGuiApplication::primaryScreen()->availableSize();
+  const int bars = sizeHint().height();  // of the window without a page
+  setCentralWidget(fitted(page, desktop - QSize(frameWidth, frameHeight + bars)));
   renderer_->setTabOrder(layout_);
   renderer_->setDefault(layout_.confirm);
 

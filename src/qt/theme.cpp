@@ -42,11 +42,13 @@ QLineEdit:hover, QPlainTextEdit:hover { border-color: #5f9a9b; }
 QLineEdit:focus, QPlainTextEdit:focus { border: 2px solid #0f6268; padding: 2px 5px; }
 QLineEdit:disabled, QPlainTextEdit:disabled { background: #e2efef; border-color: #b9d3d3; }
 QLineEdit[shown="true"] { background: transparent; border: 1px solid transparent; border-bottom-color: #b0cbcb;
-  border-radius: 0; padding: 3px 2px; }
+  border-radius: 0; padding: 1px 2px; }
 QLineEdit[cell="true"] { border-radius: 2px; }
-QGroupBox { border: 1px solid #b0cbcb; border-radius: 6px; margin-top: 10px; padding: 12px 4px 4px 4px;
+QGroupBox { border: 1px solid #b0cbcb; border-radius: 6px; margin-top: 10px; padding: 10px 4px 3px 4px;
   background: rgba(255, 255, 255, 90); }
 QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 10px; padding: 0 4px; color: #0f6268; }
+QFrame[role="lines"] { border: 1px solid #b0cbcb; border-radius: 6px; background: rgba(255, 255, 255, 90); }
+QGroupBox QFrame[role="lines"] { border: none; background: transparent; }
 QGroupBox QGroupBox { background: transparent; }
 QTabWidget::pane { border: 1px solid #b0cbcb; border-radius: 4px; background: #e3f1f1; top: -1px; }
 QTabBar::tab { background: transparent; border: 1px solid transparent; border-bottom: 2px solid transparent;
@@ -82,8 +84,8 @@ QToolBar QToolButton:disabled { color: #869c9f; }
 QStatusBar { background: #e3f1f1; border-top: 1px solid #b0cbcb; }
 QStatusBar::item { border: none; }
 QStatusBar QLineEdit[shown="true"] { border: none; color: #45696c; }
-QCheckBox, QRadioButton { spacing: 7px; padding: 2px 1px; }
-QCheckBox:focus, QRadioButton:focus { border: 1px dotted #0f6268; border-radius: 3px; padding: 1px 0; }
+QCheckBox, QRadioButton { spacing: 7px; padding: 1px; }
+QCheckBox:focus, QRadioButton:focus { border: 1px dotted #0f6268; border-radius: 3px; padding: 0; }
 QPushButton { background: #f7fbfb; border: 1px solid #8cb2b3; border-radius: 4px; padding: 5px 14px; min-width: 60px; }
 QPushButton:hover { border-color: #0f6268; background: #ddf0ef; }
 QPushButton:pressed { background: #c4dedd; }

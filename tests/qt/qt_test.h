@@ -1,5 +1,4 @@
-// What the tests of windows share: the application on a screen of 1366 by 768, a desk whose person never objects, a
-// window over a screen.
+// What the tests of windows share: a desk whose person never objects. The application stands on a screen of 1366 by 768.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -7,11 +6,7 @@
 #include "qt/screen_window.h"
 #include "support/test_desk.h"
 
-class QApplication;
-
 namespace support {
-
-QApplication& application();
 
 // Says 否 to everything and keeps what was said.
 struct QuietPerson : kit::Person {
@@ -21,11 +16,18 @@ struct QuietPerson : kit::Person {
   std::optional<std::string> chooseFile(const std::string&, const std::string&) override { return std::nullopt; }
 };
 
+// Opens nothing: a window is looked at by itself.
+struct QuietNavigator : kit::Navigator {
+  std::vector<kit::Screen*> standing() override { return {}; }
+  void run(kit::Screen&) override {}
+  void keep(std::unique_ptr<kit::Screen>) override {}
+};
+
 struct WindowDesk {
-  WindowDesk() { application(); }
   TestDesk parts;
   QuietPerson person;
-  kit::Desk desk{parts.session, parts.store, person, parts.navigator, parts.clock, parts.printer, parts.desktop, parts.progress};
+  QuietNavigator navigator;
+  kit::Desk desk{parts.session, parts.store, person, navigator, parts.clock, parts.printer, parts.desktop, parts.progress};
 };
 
 void settle();  // handles all events there are

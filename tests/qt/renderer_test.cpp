@@ -47,6 +47,12 @@ class RendererTest : public testing::Test {
     return *list;
   }
 
+  // What the members heard, but for the first field's focus.
+  std::vector<std::string> heard() {
+    std::erase_if(screen.log, [](const std::string& what) { return what.starts_with("xh"); });
+    return screen.log;
+  }
+
   support::WindowDesk desk;
   DemoScreen screen{desk.desk};
   qt::Views views;
@@ -61,13 +67,14 @@ TEST_F(RendererTest, theDemoIsAWholeWindow) {
 TEST_F(RendererTest, startsInTheFirstFieldAndEnterMovesOnToTheConfirmButton) {
   EXPECT_EQ(QApplication::focusWidget(), &find("xh"));
   std::vector<std::string> passed;
-  for (int i = 0; i < 10; ++i) {
+  for (int i = 0; i < 6; ++i) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     passed.push_back(QApplication::focusWidget()->objectName().toStdString());
   }
-  EXPECT_THAT(passed, ElementsAre("xm", "password", "xb", "bjmc", "rxrq", "item1", "amount1", "item2", "amount2", "bz"));
+  EXPECT_THAT(passed, ElementsAre("xm", "password", "xb", "bjmc", "rxrq", "bz"));
   screen.log.clear();
-  QTest::keyClick(&find("bz"), Qt::Key_Return, Qt::ControlModifier);
+  QTest::keyClick(&find("bz"), Qt::Key_Return, Qt::ControlModifier);  // in a memo the key alone starts a new line
+  for (const char* cell : {"item1", "amount1", "item2", "amount2"}) QTest::keyClick(&find(cell), Qt::Key_Return);
   EXPECT_THAT(screen.log, ElementsAre("confirm"));
 }
 
@@ -120,7 +127,7 @@ TEST_F(RendererTest, aListDropsDownFilledAndAnEntryIsTaken) {
   QTest::keyClick(&dropped(), Qt::Key_Down);
   QTest::keyClick(&dropped(), Qt::Key_Return);
   EXPECT_EQ(screen.bjmc.text(), "计算机二班");
-  EXPECT_EQ(screen.log, std::vector<std::string>{"bjmc pick"});
+  EXPECT_THAT(heard(), ElementsAre("bjmc pick"));
   QTest::keyClick(&find("bjmc"), Qt::Key_Down);
   EXPECT_EQ(find<QLineEdit>("bjmc").text(), "会计一班");
   QTest::mouseDClick(&find("bjmc"), Qt::LeftButton);
@@ -155,7 +162,7 @@ TEST_F(RendererTest, ticksAndOptionsTellTheirMembers) {
   QTest::mouseClick(option, Qt::LeftButton, {}, QPoint(8, option->height() / 2));
   EXPECT_TRUE(screen.paid.on());
   EXPECT_EQ(screen.scope.chosen(), 1);
-  EXPECT_EQ(screen.log, (std::vector<std::string>{"paid", "scope"}));
+  EXPECT_THAT(heard(), ElementsAre("paid", "scope"));
 }
 
 TEST_F(RendererTest, rowsAreChosenFoundByTypingAndOpened) {
@@ -184,7 +191,7 @@ TEST_F(RendererTest, thePopUpMenuHoldsTheListsActions) {
   EXPECT_FALSE(menu->actions().at(0)->isEnabled());
   menu->actions().at(2)->trigger();
   menu->close();
-  EXPECT_EQ(screen.log, std::vector<std::string>{"print"});
+  EXPECT_THAT(heard(), ElementsAre("print"));
 }
 
 TEST_F(RendererTest, theTreeTellsOfTheNodeThatWasClicked) {
@@ -193,7 +200,7 @@ TEST_F(RendererTest, theTreeTellsOfTheNodeThatWasClicked) {
   QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualItemRect(leaf).center());
   ASSERT_TRUE(screen.tree.selected());
   EXPECT_EQ(screen.tree.selected()->key, "b2");
-  EXPECT_EQ(screen.log, std::vector<std::string>{"tree"});
+  EXPECT_THAT(heard(), ElementsAre("tree"));
 }
 
 TEST_F(RendererTest, aTimerTicksWhileItRunsAndNeverInsideAnEvent) {

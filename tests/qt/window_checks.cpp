@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QTabBar>
@@ -62,7 +63,9 @@ bool tooSmall(const QWidget& widget) {
   const auto* label = qobject_cast<const QLabel*>(&widget);
   if (label && label->text().isEmpty()) return false;
   if (label && label->wordWrap()) return label->height() < label->heightForWidth(label->width());
-  if (label || (qobject_cast<const QAbstractButton*>(&widget) && !widget.objectName().startsWith("qt_")))
+  if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) return edit->height() < edit->fontMetrics().height() + 2;
+  const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+  if (label || (button && !button->text().isEmpty() && !widget.objectName().startsWith("qt_")))
     return widget.width() < widget.sizeHint().width() || widget.height() < widget.sizeHint().height() - 2;
   if (const auto* box = qobject_cast<const QGroupBox*>(&widget))
     return box->width() < box->fontMetrics().horizontalAdvance(box->title()) + 24;

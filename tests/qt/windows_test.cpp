@@ -5,6 +5,10 @@
 #include "qt_test.h"
 #include "window_checks.h"
 
+namespace app {
+void PrintTo(const Entry& entry, std::ostream* out) { *out << entry.name; }
+}  // namespace app
+
 namespace {
 
 class EveryScreen : public testing::TestWithParam<app::Entry> {};
