@@ -74,7 +74,7 @@ Measure opening(Office& office) {
 
 Measure filling(Office& office) {
   const auto front = std::make_shared<Front>(office.desk);
-  return {"list of " + std::to_string(office.rows("jfjl")) + " payments, from open to last row, formatted", 2, 7,
+  return {"list of " + std::to_string(office.rows("jfjl")) + " payments with its sum, from open to last row", 2, 7,
           [&] {
             return timed([&] {
               BareStatement all =
