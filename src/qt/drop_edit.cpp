@@ -96,6 +96,11 @@ void DropEdit::mousePressEvent(QMouseEvent* event) {
   if (isReadOnly()) emit dropWanted();
 }
 
+void DropEdit::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (opensByDoubleClick && !isReadOnly() && event->button() == Qt::LeftButton) emit dropWanted();
+  else QLineEdit::mouseDoubleClickEvent(event);
+}
+
 void dropChoices(QLineEdit& below, const QStringList& choices, std::function<void(const QString&)> chosen) {
   auto* popup = std::make_unique<Popup>(below).release();  // deletes itself when it closes
   auto* list = new ChoiceList(popup);

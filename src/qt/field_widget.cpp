@@ -117,6 +117,7 @@ void take(kit::Field& field, Renderer& renderer, const QString& choice) {
 QWidget* dropField(kit::Field& field, Renderer& renderer) {
   auto* edit = new DropEdit("chevron-down", nullptr);
   edit->setReadOnly(field.entry == Entry::Choose);
+  edit->opensByDoubleClick = !field.handlesDoubleClick();
   keepInStep(*edit, field, renderer);
   const auto fill = [&field, &renderer] {
     if (renderer.reachable(field)) field.drop();
@@ -147,6 +148,7 @@ QWidget* dropField(kit::Field& field, Renderer& renderer) {
 
 QWidget* dateField(kit::Field& field, Renderer& renderer) {
   auto* edit = new DropEdit("calendar-days", nullptr);
+  edit->opensByDoubleClick = !field.handlesDoubleClick();
   keepInStep(*edit, field, renderer);
   QObject::connect(edit, &DropEdit::dropWanted, &renderer, [edit, &field, &renderer] {
     if (!renderer.reachable(field)) return;
