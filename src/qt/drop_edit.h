@@ -16,7 +16,7 @@ class DropEdit : public QLineEdit {
 
  signals:
   void dropWanted();
-  void stepped(int by);               // Up and Down without the list
+  void stepped(int by);                // Up and Down without the list
   void searched(const QString& text);  // typed where nothing can be typed
 
  protected:

@@ -33,7 +33,9 @@ class ShownEdit : public QLineEdit {
     const int words = fontMetrics().horizontalAdvance(text()) + 10;
     return {std::max(words, charactersWide(fontMetrics(), leastShown)), fontMetrics().height() + shownMargins};
   }
-  QSize minimumSizeHint() const override { return {charactersWide(fontMetrics(), leastShown), fontMetrics().height() + shownMargins}; }
+  QSize minimumSizeHint() const override {
+    return {charactersWide(fontMetrics(), leastShown), fontMetrics().height() + shownMargins};
+  }
   std::string tip;
 
  protected:
@@ -44,7 +46,8 @@ class ShownEdit : public QLineEdit {
     initStyleOption(&option);
     style()->drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter, this);
     painter.setPen(palette().color(QPalette::Text));
-    painter.drawText(room(), Qt::AlignLeft | Qt::AlignVCenter, fontMetrics().elidedText(text(), Qt::ElideRight, room().width()));
+    painter.drawText(room(), Qt::AlignLeft | Qt::AlignVCenter,
+                     fontMetrics().elidedText(text(), Qt::ElideRight, room().width()));
   }
   bool event(QEvent* event) override {
     if (event->type() == QEvent::ToolTip) setToolTip(!tip.empty() ? toQt(tip) : tooLong() ? text() : QString());
@@ -63,7 +66,8 @@ void colour(QWidget& widget, const kit::Field& field) {
   QPalette palette;
   if (field.colour())
     for (const auto group : {QPalette::Active, QPalette::Inactive})
-      for (const auto role : {QPalette::Text, QPalette::WindowText}) palette.setColor(group, role, toQt(*field.colour()));
+      for (const auto role : {QPalette::Text, QPalette::WindowText})
+        palette.setColor(group, role, toQt(*field.colour()));
   widget.setPalette(palette);
 }
 
@@ -205,8 +209,10 @@ QWidget* shownField(kit::Field& field, Renderer& renderer) {
 
 QWidget* fieldWidget(kit::Field& field, Renderer& renderer) {
   switch (field.entry) {
-    case Entry::Memo: return memoField(field, renderer);
-    case Entry::Shown: return shownField(field, renderer);
+    case Entry::Memo:
+      return memoField(field, renderer);
+    case Entry::Shown:
+      return shownField(field, renderer);
     case Entry::Pick:
     case Entry::Choose:
     case Entry::Date: {
@@ -215,7 +221,8 @@ QWidget* fieldWidget(kit::Field& field, Renderer& renderer) {
       return edit;
     }
     case Entry::Text:
-    case Entry::Password: break;
+    case Entry::Password:
+      break;
   }
   QWidget* edit = lineField(field, renderer);
   edit->setMinimumWidth(charactersWide(edit->fontMetrics(), usualWidth));

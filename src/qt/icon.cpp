@@ -19,7 +19,9 @@ class TintedEngine : public QIconEngine {
   TintedEngine(QByteArray drawing, QColor colour) : drawing_(std::move(drawing)), colour_(colour) {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-    const QColor colour = mode == QIcon::Disabled ? theme::faint : mode == QIcon::Selected ? QColor(Qt::white) : colour_;
+    const QColor colour = mode == QIcon::Disabled   ? theme::faint
+                          : mode == QIcon::Selected ? QColor(Qt::white)
+                                                    : colour_;
     QSvgRenderer renderer(QByteArray(drawing_).replace("currentColor", colour.name().toLatin1()));
     renderer.render(painter, rect);
   }

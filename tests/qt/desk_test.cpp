@@ -30,9 +30,9 @@ TEST(Person, asksInSixKinds) {
   qt::QtPerson person("收费管理");
   const std::string text = "是否继续？   \n第二行       ";
   const Asked cases[] = {
-      {Box::Stop, Qt::Key_Return, false, {"确定"}},    {Box::Warning, Qt::Key_Escape, false, {"确定"}},
+      {Box::Stop, Qt::Key_Return, false, {"确定"}},       {Box::Warning, Qt::Key_Escape, false, {"确定"}},
       {Box::Information, Qt::Key_Space, false, {"确定"}}, {Box::Ask, Qt::Key_Return, true, {"是", "否"}},
-      {Box::Ask, Qt::Key_Escape, false, {"是", "否"}}, {Box::AskStop, Qt::Key_N, false, {"是", "否"}},
+      {Box::Ask, Qt::Key_Escape, false, {"是", "否"}},    {Box::AskStop, Qt::Key_N, false, {"是", "否"}},
       {Box::AskInfo, Qt::Key_Y, true, {"是", "否"}},
   };
   for (const Asked& one : cases) {
@@ -45,7 +45,8 @@ TEST(Person, asksInSixKinds) {
       EXPECT_EQ(message->text().toStdString(), text);
       EXPECT_EQ(message->windowTitle().toStdString(), one.box == Box::Stop ? "收费管理" : "操作提示");
       std::vector<std::string> captions;
-      for (const auto* button : message->findChildren<qt::XPButton*>()) captions.push_back(button->text().toStdString());
+      for (const auto* button : message->findChildren<qt::XPButton*>())
+        captions.push_back(button->text().toStdString());
       EXPECT_EQ(captions, one.buttons);
       QTest::keyClick(QApplication::focusWidget(), one.key);
     });

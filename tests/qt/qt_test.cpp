@@ -29,7 +29,8 @@ int main(int argc, char** argv) {
   const QTemporaryDir folder;
   QFile screen(folder.filePath("screen.json"));
   if (screen.open(QIODevice::WriteOnly))
-    screen.write(R"({"screens": [{"name": "desk", "x": 0, "y": 0, "width": 1366, "height": 768, "logicalDpi": 96, "dpr": 1}]})");
+    screen.write(
+        R"({"screens": [{"name": "desk", "x": 0, "y": 0, "width": 1366, "height": 768, "logicalDpi": 96, "dpr": 1}]})");
   screen.close();
   if (qEnvironmentVariable("QT_QPA_PLATFORM", "offscreen") == "offscreen")
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toUtf8());

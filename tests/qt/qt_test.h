@@ -1,4 +1,5 @@
-// What the tests of windows share: a desk whose person never objects. The application stands on a screen of 1366 by 768.
+// What the tests of windows share: a desk whose person never objects. The application stands on a screen of 1366 by
+// 768.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -12,7 +13,10 @@ namespace support {
 struct QuietPerson : kit::Person {
   std::vector<std::string> told;
   void tell(kit::Box, const std::string& text, const std::string&) override { told.push_back(text); }
-  bool ask(kit::Box, const std::string& text, const std::string&) override { told.push_back(text); return false; }
+  bool ask(kit::Box, const std::string& text, const std::string&) override {
+    told.push_back(text);
+    return false;
+  }
   std::optional<std::string> chooseFile(const std::string&, const std::string&) override { return std::nullopt; }
 };
 
@@ -27,7 +31,8 @@ struct WindowDesk {
   TestDesk parts;
   QuietPerson person;
   QuietNavigator navigator;
-  kit::Desk desk{parts.session, parts.store, person, navigator, parts.clock, parts.printer, parts.desktop, parts.progress};
+  kit::Desk desk{parts.session, parts.store,   person,        navigator,
+                 parts.clock,   parts.printer, parts.desktop, parts.progress};
 };
 
 void settle();  // handles all events there are
