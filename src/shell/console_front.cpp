@@ -59,8 +59,8 @@ const std::vector<kit::ListColumn> paymentColumns{
 
 // Narrow enough that what is owed stands in sight on the smallest desktop.
 const std::vector<kit::ListColumn> arrearsColumns{
-    {"记录标识号", "lsh", kit::Format::Text, 6},  {"姓名", "xm", kit::Format::Text, 4},
-    {"收费项目", "sfxm", kit::Format::Text, 5},   {"学年学期", "xq", kit::Format::Text, 7},
+    {"记录标识号", "lsh", kit::Format::Text, 7},  {"姓名", "xm", kit::Format::Text, 5},
+    {"收费项目", "sfxm", kit::Format::Text, 5},   {"学年学期", "xq", kit::Format::Text, 8},
     {"拟补交日期", "bjrq", kit::Format::Date, 6}, {"欠费余额", "", kit::Format::Padded, 5},
     {"当前状态", "clfs", kit::Format::Text, 4},
 };

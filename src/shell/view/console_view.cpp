@@ -12,7 +12,7 @@
 namespace shell {
 namespace {
 
-constexpr int classPanelWidth = 380, cardWidth = 400, sharingWidth = 345;
+constexpr int classPanelWidth = 380, cardWidth = 400, sharingWidth = 285;
 
 // The strip at the window's left edge, its words one below the other.
 class Strip : public QAbstractButton {
