@@ -8,6 +8,7 @@
 #include "collection/receipt_form.h"
 #include "collection/receipt_notes.h"
 #include "collection/receipt_print.h"
+#include "collection/submission.h"
 #include "feesetup/class_edit.h"
 #include "feesetup/class_standard_change.h"
 #include "feesetup/class_standard_delete.h"
@@ -76,6 +77,7 @@ const std::vector<Entry>& screens() {
       screen<collection::Formzctsf8>("Formzctsf8"),
       screen<collection::Formzctsf5>("Formzctsf5"),
       screen<collection::Formzctsf2>("Formzctsf2"),
+      screen<collection::Formzctsf9>("Formzctsf9"),
   };
   return all;
 }

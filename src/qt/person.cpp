@@ -18,7 +18,8 @@ QPixmap pictureOf(kit::Box box, qreal ratio) {
   switch (box) {
     case kit::Box::Stop:
     case kit::Box::AskStop: return iconPixmap("circle-x", iconSide, ratio, theme::stop);
-    case kit::Box::Warning: return iconPixmap("triangle-alert", iconSide, ratio, theme::warning);
+    case kit::Box::Warning:
+    case kit::Box::AskWarning: return iconPixmap("triangle-alert", iconSide, ratio, theme::warning);
     case kit::Box::Ask: return iconPixmap("circle-question-mark", iconSide, ratio);
     case kit::Box::Information:
     case kit::Box::AskInfo: return iconPixmap("info", iconSide, ratio);
@@ -44,7 +45,8 @@ bool QtPerson::show(kit::Box box, const std::string& text, const std::string& ti
   message.setTextFormat(Qt::PlainText);
   message.setText(toQt(text));
   message.setIconPixmap(pictureOf(box, message.devicePixelRatioF()));
-  const bool question = box == kit::Box::Ask || box == kit::Box::AskStop || box == kit::Box::AskInfo;
+  const bool question =
+      box != kit::Box::Stop && box != kit::Box::Warning && box != kit::Box::Information;
   XPButton* yes = addButton(message, question ? "是" : "确定", question ? QMessageBox::YesRole : QMessageBox::AcceptRole);
   XPButton* leave = question ? addButton(message, "否", QMessageBox::NoRole) : yes;
   if (question) {

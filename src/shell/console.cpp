@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "collection/fee_window.h"
+#include "collection/submission.h"
 #include "feesetup/desk_settings.h"
 #include "feesetup/setup.h"
 #include "kit/settings.h"
@@ -90,7 +91,8 @@ void Formzct::wireToolbar() {
   k6.onPress([this] {
     if (!may(desk, Collect)) return refuse(desk);
     closeOverviews();
-    notYet(k6.caption());
+    open<collection::Formzctsf9>();
+    if (!desk.session.current_xh.empty()) redrawLists();
   });
   k11.onPress([this] {
     if (!may(desk, Collect)) return refuse(desk);
