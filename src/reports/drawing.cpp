@@ -65,9 +65,10 @@ void putNumber(Page& page, double x, std::string_view caption, std::size_t numbe
   constexpr double gap = 10;
   const std::string before(caption.substr(0, caption.find(' ')));
   const std::string behind(caption.substr(caption.rfind(' ') + 1));
-  put(page, {x, 2 * em}, furnitureTop, before);
-  put(page, {x + em, gap}, furnitureTop, std::to_string(number), Align::Centre);
-  put(page, {x + em + gap - besideText, 2 * em}, furnitureTop, behind);
+  constexpr double letter = em + 2 * besideText;
+  put(page, {x, letter}, furnitureTop, before);
+  put(page, {x + em + besideText, gap}, furnitureTop, std::to_string(number), Align::Centre);
+  put(page, {x + em + gap, letter}, furnitureTop, behind);
 }
 
 class Writer {
@@ -108,7 +109,7 @@ void Writer::startPage() {
   if (firstPage || report.furniture != Furniture::TitleOnce)
     put(page(), whole, titleTop - aboveText, report.title, Align::Centre, titleSize);
   if (report.furniture != Furniture::Library) put(page(), {left, 86}, furnitureTop, "学校名称：" + printing.school);
-  put(page(), {left + 88, 58}, furnitureTop, "打印时间：" + printing.time.plain());
+  put(page(), {left + 88, 56}, furnitureTop, "打印时间：" + printing.time.plain());
   y = tableTop;
   rule(y);
   if (!report.card()) headings();
@@ -186,7 +187,7 @@ void Writer::labelledSums() {
 void Writer::numberPages() {
   const std::size_t count = drawing.pages.size();
   for (std::size_t i = 0; i < count; ++i) {
-    putNumber(drawing.pages[i], right - 42, "第           页", i + 1);
+    putNumber(drawing.pages[i], right - 40, "第           页", i + 1);
     putNumber(drawing.pages[i], right - 20, "总           页", count);
   }
 }
