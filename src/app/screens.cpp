@@ -20,6 +20,7 @@
 #include "feesetup/form_standards.h"
 #include "feesetup/major_edit.h"
 #include "feesetup/setup.h"
+#include "reports/print_options.h"
 #include "shell/about.h"
 #include "shell/console.h"
 #include "shell/loading.h"
@@ -78,6 +79,9 @@ const std::vector<Entry>& screens() {
       screen<collection::Formzctsf5>("Formzctsf5"),
       screen<collection::Formzctsf2>("Formzctsf2"),
       screen<collection::Formzctsf9>("Formzctsf9"),
+      screen<reports::Formzctxsdy>("Formzctxsdy"),
+      screen<reports::Formzctjfjldy>("Formzctjfjldy"),
+      screen<reports::Formzctqfjldy>("Formzctqfjldy"),
   };
   return all;
 }
