@@ -15,6 +15,7 @@ class Office {
  public:
   explicit Office(const std::string& programFolder);
   int run();  // from the splash to the last window; a QApplication must exist
+  qt::QtNavigator& windows() { return navigator_; }
 
  private:
   store::Store store_;

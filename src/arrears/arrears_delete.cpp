@@ -11,9 +11,12 @@ constexpr const char* selectedGone = "选定记录已删除！      ";
 Formqfcl5::Formqfcl5(kit::Desk& all) : Screen(all, "Formqfcl5", "删除选项") {
   confirm.onPress([this] {
     switch (option.chosen()) {
-      case 0: return deleteSelected();
-      case 1: return deleteStudent();
-      default: return deleteSettled();
+      case 0:
+        return deleteSelected();
+      case 1:
+        return deleteStudent();
+      default:
+        return deleteSettled();
     }
   });
   cancel.onPress([this] { close(); });
@@ -29,10 +32,10 @@ void Formqfcl5::deleteStudent() {
   store::RecordSet selected = rows(rowOf(base::trim(desk.session.arrears_selection)));
   if (selected.empty()) return;
   const store::Sql all = rowsOfStudent(selected.get("xh").trimmed());
-  remove(all,
-         "您确认要删除" + selected.get("xm").trimmed() + "的" + base::caption(rows(all).count()) +
-             "条欠费记录吗？     ",
-         selectedGone);
+  remove(
+      all,
+      "您确认要删除" + selected.get("xm").trimmed() + "的" + base::caption(rows(all).count()) + "条欠费记录吗？     ",
+      selectedGone);
 }
 
 void Formqfcl5::deleteSettled() {

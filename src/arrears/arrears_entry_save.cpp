@@ -11,8 +11,10 @@ constexpr const char* fault = "错误提示";
 bool Formqfcl::sameNumber() {
   const std::string inUse = base::trim(desk.session.current_xh);
   if (xh.trimmed() == inUse) return true;
-  if (askStop("学号已被修改，不能录入！是否还原该生正确的学号 ？     ", fault)) xh.set(inUse);
-  else xh.focus();
+  if (askStop("学号已被修改，不能录入！是否还原该生正确的学号 ？     ", fault))
+    xh.set(inUse);
+  else
+    xh.focus();
   return false;
 }
 
@@ -35,12 +37,13 @@ std::vector<kit::Rule> Formqfcl::rules() {
   // Compared as binary floats and to the last bit, as this office has always had it: 0.10 and 0.20 do not make 0.30
   // here, and the operator splits such a total otherwise.
   for (DebtLine& line : lines)
-    all.push_back({&line.total,
-                   [&line] {
-                     return line.amount(0) + line.amount(1) + line.amount(2) != base::leadingNumber(line.total.text());
-                   },
-                   "分期补交累计金额不等于欠费总额！       ", fault});
-  const auto ofAll = [this](auto test) { return [this, test] { return std::all_of(lines.begin(), lines.end(), test); }; };
+    all.push_back(
+        {&line.total,
+         [&line] { return line.amount(0) + line.amount(1) + line.amount(2) != base::leadingNumber(line.total.text()); },
+         "分期补交累计金额不等于欠费总额！       ", fault});
+  const auto ofAll = [this](auto test) {
+    return [this, test] { return std::all_of(lines.begin(), lines.end(), test); };
+  };
   all.push_back({&lines[0].sfxm, ofAll([](const DebtLine& line) { return line.sfxm.blank(); }),
                  "收费项目名称不能为空 ！       ", fault});
   all.push_back({&xh, [this] { return xh.blank() || xm.blank() || bjmc.blank() || xq.blank(); },

@@ -38,6 +38,7 @@ class Field : public Member {
   void onDrop(Handler handler) { drop_.push_back(std::move(handler)); }  // before the list shows: fills the choices
   void onClick(Handler handler) { click_.push_back(std::move(handler)); }
   void onDoubleClick(Handler handler) { doubleClick_.push_back(std::move(handler)); }
+  bool handlesDoubleClick() const { return !doubleClick_.empty(); }
 
   // The person's side.
   void type(const std::string& text);  // replaces what stands there; focuses first

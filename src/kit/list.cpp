@@ -6,6 +6,9 @@
 #include "kit/screen.h"
 
 namespace kit {
+namespace {
+constexpr long long keptRows = 2000, windowRows = 200;
+}  // namespace
 
 std::string formatted(const store::Value& value, Format format) {
   if (value.empty()) return "";
@@ -46,9 +49,17 @@ void List::setColumns(std::vector<ListColumn> columns) {
   clear();
 }
 
-void List::clear() {
+void List::empty() {
   cells_.clear();
+  marks_.clear();
+  behind_.reset();
+  window_.clear();
+  windowFrom_ = -1;
   selected_ = -1;
+}
+
+void List::clear() {
+  empty();
   changed();
 }
 
@@ -58,23 +69,52 @@ void List::addRow(const std::vector<std::string>& cells) {
   changed();
 }
 
+void List::addCells(store::RecordSet& row, Cells& cells) const {
+  for (const ListColumn& column : columns_)
+    cells.add(column.column.empty() ? "" : formatted(row.get(column.column), column.format));
+}
+
 void List::fill(store::RecordSet& set, const std::function<void(store::RecordSet&)>& visit) {
-  cells_.clear();
-  selected_ = -1;
+  empty();
+  const bool mayMark = set.hasMarks();
+  long long kept = 0;
   store::forEach(set, [&](store::RecordSet& row) {
-    for (const ListColumn& column : columns_)
-      cells_.add(column.column.empty() ? "" : formatted(row.get(column.column), column.format));
+    if (mayMark && kept >= keptRows) marks_.push_back(row.mark());
+    else addCells(row, cells_), ++kept;
     if (visit) visit(row);
   });
+  if (!marks_.empty()) behind_ = set.another();
   changed();
 }
 
 long long List::count() const {
-  return columns_.empty() ? 0 : static_cast<long long>(cells_.count() / columns_.size());
+  return columns_.empty() ? 0 : static_cast<long long>(cells_.count() / columns_.size() + marks_.size());
+}
+
+void List::showWindow(long long row) const {
+  const auto first = static_cast<long long>(cells_.count() / columns_.size());
+  windowFrom_ = std::max(first, row - windowRows / 4);
+  window_.clear();
+  for (long long at = windowFrom_; at < std::min(windowFrom_ + windowRows, count()); ++at) {
+    const std::size_t before = window_.count();
+    try {
+      behind_->goTo(marks_[static_cast<std::size_t>(at - first)]);
+      addCells(*behind_, window_);
+    } catch (const store::StoreError&) {
+      // A row deleted meanwhile: its place stays, blank. Its first cell fails already.
+      while (window_.count() < before + columns_.size()) window_.add("");
+    }
+  }
 }
 
 std::string_view List::cell(long long row, std::size_t column) const {
-  return cells_.at(static_cast<std::size_t>(row) * columns_.size() + column);
+  const auto place = static_cast<std::size_t>(row) * columns_.size() + column;
+  if (place < cells_.count()) return cells_.at(place);
+  const auto inWindow = [&] {
+    return windowFrom_ >= 0 && row >= windowFrom_ && row < windowFrom_ + static_cast<long long>(window_.count() / columns_.size());
+  };
+  if (!inWindow()) showWindow(row);
+  return window_.at(static_cast<std::size_t>(row - windowFrom_) * columns_.size() + column);
 }
 
 void List::setSelected(long long row) {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "kit/member.h"
 #include "store/record_set.h"
@@ -49,7 +50,7 @@ class List : public Member {
   // Empties the list and fills it from the set, first to last, by the columns. visit sees each row as it is added.
   void fill(store::RecordSet& set, const std::function<void(store::RecordSet&)>& visit = {});
   long long count() const;
-  std::string_view cell(long long row, std::size_t column) const;
+  std::string_view cell(long long row, std::size_t column) const;  // until the next call
 
   long long selected() const { return selected_; }  // -1: none
   void setSelected(long long row);                  // raises select
@@ -66,7 +67,17 @@ class List : public Member {
 
  private:
   std::vector<ListColumn> columns_;
+  void addCells(store::RecordSet& row, Cells& cells) const;
+  void empty();
+  void showWindow(long long row) const;
+
   Cells cells_;
+  // Of a long list only the first rows are kept as cells. The rest are marks; the rows that are looked at are read, a
+  // window at a time, when they are looked at.
+  std::vector<std::int64_t> marks_;
+  mutable std::optional<store::RecordSet> behind_;
+  mutable Cells window_;
+  mutable long long windowFrom_ = -1;
   long long selected_ = -1;
   std::vector<Handler> select_, doubleClick_;
 };

@@ -35,11 +35,13 @@ void BalloonTip::popUp(const QRect& target) {
 void BalloonTip::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  const QRectF body = QRectF(rect()).adjusted(0.5, tailAbove_ ? tailHeight : 0.5, -0.5, tailAbove_ ? -0.5 : -tailHeight);
+  const QRectF body =
+      QRectF(rect()).adjusted(0.5, tailAbove_ ? tailHeight : 0.5, -0.5, tailAbove_ ? -0.5 : -tailHeight);
   QPainterPath balloon, tail;
   balloon.addRoundedRect(body, 6, 6);
   const qreal edge = tailAbove_ ? body.top() : body.bottom();
-  tail.addPolygon(QPolygonF({{tail_ - 7.0, edge}, {qreal(tail_), tailAbove_ ? 0.5 : height() - 0.5}, {tail_ + 7.0, edge}}));
+  tail.addPolygon(
+      QPolygonF({{tail_ - 7.0, edge}, {qreal(tail_), tailAbove_ ? 0.5 : height() - 0.5}, {tail_ + 7.0, edge}}));
   painter.setPen(QPen(Qt::black, 1));
   painter.setBrush(balloonYellow);
   painter.drawPath(balloon.united(tail));

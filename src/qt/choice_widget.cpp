@@ -12,10 +12,13 @@ constexpr std::size_t longestRow = 72;  // bytes of text: about two dozen Chines
 
 QWidget* choiceWidget(kit::Choice& choice, Renderer& renderer) {
   const auto& options = choice.options();
-  const std::size_t length = std::accumulate(options.begin(), options.end(), std::size_t{0},
-                                             [](std::size_t sum, const std::string& option) { return sum + option.size(); });
+  const std::size_t length =
+      std::accumulate(options.begin(), options.end(), std::size_t{0},
+                      [](std::size_t sum, const std::string& option) { return sum + option.size(); });
   auto* holder = new QWidget;
-  auto* box = std::make_unique<QBoxLayout>(length <= longestRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, holder).release();
+  auto* box =
+      std::make_unique<QBoxLayout>(length <= longestRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, holder)
+          .release();
   box->setContentsMargins(0, 0, 0, 0);
   if (length > longestRow) box->setSpacing(3);
   renderer.bind(choice, holder);

@@ -27,7 +27,9 @@ platform::WorkArea QtDesktop::workArea() {
 
 std::string QtDesktop::computerName() { return fromQt(QSysInfo::machineHostName().left(longestName)); }
 
-void QtDesktop::SetDisplayMode(int width, int height, int depth, int rate) { wishedMode = {width, height, depth, rate}; }
+void QtDesktop::SetDisplayMode(int width, int height, int depth, int rate) {
+  wishedMode = {width, height, depth, rate};
+}
 
 bool QtDesktop::startProgram(const std::filesystem::path& program) {
   return QProcess::startDetached(toQt(program.string()), {}, toQt(program.parent_path().string()));

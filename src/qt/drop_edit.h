@@ -1,4 +1,5 @@
-// A line edit with something that drops down: a list of choices or a calendar. Opens with its button, F4 or Alt+Down.
+// A line edit with something that drops down: a list of choices or a calendar. Opens with its button, a double click, F4
+// or Alt+Down.
 #pragma once
 
 #include <QLineEdit>
@@ -11,15 +12,17 @@ class DropEdit : public QLineEdit {
   Q_OBJECT
  public:
   DropEdit(const QString& iconName, QWidget* parent);
+  bool opensByDoubleClick = true;
 
  signals:
   void dropWanted();
-  void stepped(int by);               // Up and Down without the list
+  void stepped(int by);                // Up and Down without the list
   void searched(const QString& text);  // typed where nothing can be typed
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
 };
 
 void dropChoices(QLineEdit& below, const QStringList& choices, std::function<void(const QString&)> chosen);

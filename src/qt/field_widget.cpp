@@ -33,7 +33,9 @@ class ShownEdit : public QLineEdit {
     const int words = fontMetrics().horizontalAdvance(text()) + 10;
     return {std::max(words, charactersWide(fontMetrics(), leastShown)), fontMetrics().height() + shownMargins};
   }
-  QSize minimumSizeHint() const override { return {charactersWide(fontMetrics(), leastShown), fontMetrics().height() + shownMargins}; }
+  QSize minimumSizeHint() const override {
+    return {charactersWide(fontMetrics(), leastShown), fontMetrics().height() + shownMargins};
+  }
   std::string tip;
 
  protected:
@@ -44,7 +46,8 @@ class ShownEdit : public QLineEdit {
     initStyleOption(&option);
     style()->drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter, this);
     painter.setPen(palette().color(QPalette::Text));
-    painter.drawText(room(), Qt::AlignLeft | Qt::AlignVCenter, fontMetrics().elidedText(text(), Qt::ElideRight, room().width()));
+    painter.drawText(room(), Qt::AlignLeft | Qt::AlignVCenter,
+                     fontMetrics().elidedText(text(), Qt::ElideRight, room().width()));
   }
   bool event(QEvent* event) override {
     if (event->type() == QEvent::ToolTip) setToolTip(!tip.empty() ? toQt(tip) : tooLong() ? text() : QString());
@@ -63,7 +66,8 @@ void colour(QWidget& widget, const kit::Field& field) {
   QPalette palette;
   if (field.colour())
     for (const auto group : {QPalette::Active, QPalette::Inactive})
-      for (const auto role : {QPalette::Text, QPalette::WindowText}) palette.setColor(group, role, toQt(*field.colour()));
+      for (const auto role : {QPalette::Text, QPalette::WindowText})
+        palette.setColor(group, role, toQt(*field.colour()));
   widget.setPalette(palette);
 }
 
@@ -113,6 +117,7 @@ void take(kit::Field& field, Renderer& renderer, const QString& choice) {
 QWidget* dropField(kit::Field& field, Renderer& renderer) {
   auto* edit = new DropEdit("chevron-down", nullptr);
   edit->setReadOnly(field.entry == Entry::Choose);
+  edit->opensByDoubleClick = !field.handlesDoubleClick();
   keepInStep(*edit, field, renderer);
   const auto fill = [&field, &renderer] {
     if (renderer.reachable(field)) field.drop();
@@ -143,6 +148,7 @@ QWidget* dropField(kit::Field& field, Renderer& renderer) {
 
 QWidget* dateField(kit::Field& field, Renderer& renderer) {
   auto* edit = new DropEdit("calendar-days", nullptr);
+  edit->opensByDoubleClick = !field.handlesDoubleClick();
   keepInStep(*edit, field, renderer);
   QObject::connect(edit, &DropEdit::dropWanted, &renderer, [edit, &field, &renderer] {
     if (!renderer.reachable(field)) return;
@@ -203,8 +209,10 @@ QWidget* shownField(kit::Field& field, Renderer& renderer) {
 
 QWidget* fieldWidget(kit::Field& field, Renderer& renderer) {
   switch (field.entry) {
-    case Entry::Memo: return memoField(field, renderer);
-    case Entry::Shown: return shownField(field, renderer);
+    case Entry::Memo:
+      return memoField(field, renderer);
+    case Entry::Shown:
+      return shownField(field, renderer);
     case Entry::Pick:
     case Entry::Choose:
     case Entry::Date: {
@@ -213,7 +221,8 @@ QWidget* fieldWidget(kit::Field& field, Renderer& renderer) {
       return edit;
     }
     case Entry::Text:
-    case Entry::Password: break;
+    case Entry::Password:
+      break;
   }
   QWidget* edit = lineField(field, renderer);
   edit->setMinimumWidth(charactersWide(edit->fontMetrics(), usualWidth));

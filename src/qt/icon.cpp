@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
-// The linker would leave a library's resource out that nothing asks for.
+// The icons lie in a static library, which the linker leaves out unless they are asked for.
 static void keepIcons() { Q_INIT_RESOURCE(icons); }
 
 namespace qt {
@@ -19,7 +19,9 @@ class TintedEngine : public QIconEngine {
   TintedEngine(QByteArray drawing, QColor colour) : drawing_(std::move(drawing)), colour_(colour) {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-    const QColor colour = mode == QIcon::Disabled ? theme::faint : mode == QIcon::Selected ? QColor(Qt::white) : colour_;
+    const QColor colour = mode == QIcon::Disabled   ? theme::faint
+                          : mode == QIcon::Selected ? QColor(Qt::white)
+                                                    : colour_;
     QSvgRenderer renderer(QByteArray(drawing_).replace("currentColor", colour.name().toLatin1()));
     renderer.render(painter, rect);
   }
@@ -40,7 +42,7 @@ class TintedEngine : public QIconEngine {
 }  // namespace
 
 QIcon icon(const QString& name, const QColor& colour) {
-  [[maybe_unused]] static const bool kept = (keepIcons(), true);
+  keepIcons();
   QFile file(pathOf(name));
   if (name.isEmpty() || !file.open(QIODevice::ReadOnly)) return {};
   return QIcon(std::make_unique<TintedEngine>(file.readAll(), colour).release());

@@ -5,6 +5,9 @@
 #include "qt/text.h"
 
 namespace qt {
+
+// Rows that typing looks through from where it stands: a key must answer at once in a list of a million rows, too.
+constexpr long long farthest = 20000;
 namespace {
 
 constexpr std::size_t searched = 3;  // columns: number, name and the one behind
@@ -31,8 +34,9 @@ long long ListModel::find(const QString& start, long long from) const {
   const std::size_t columns = std::min(searched, list_.columns().size());
   const std::string prefix = fromQt(start);
   const long long count = list_.count();
+  const long long reach = std::min(count, farthest);
   for (std::size_t column = 0; column < columns; ++column)
-    for (long long i = 0; i < count; ++i) {
+    for (long long i = 0; i < reach; ++i) {
       const long long row = (from + i) % count;
       std::string_view cell = list_.cell(row, column);
       cell.remove_prefix(std::min(cell.find_first_not_of(' '), cell.size()));

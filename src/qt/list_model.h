@@ -12,7 +12,8 @@ class ListModel : public QAbstractTableModel {
   explicit ListModel(const kit::List& list, QObject* parent = nullptr) : QAbstractTableModel(parent), list_(list) {}
 
   void refresh();  // after a change of the list
-  long long find(const QString& start, long long from) const;  // row with a cell of the first columns that starts so; -1
+  long long find(const QString& start,
+                 long long from) const;  // row with a cell of the first columns that starts so; -1
 
   int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
   int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : columns_; }

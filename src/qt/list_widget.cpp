@@ -34,7 +34,8 @@ class ListLink : public QObject {
   void changed() {
     if (waiting_) return;
     waiting_ = true;
-    QMetaObject::invokeMethod(this, [this] { show(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { show(); }, Qt::QueuedConnection);
   }
 
   void show() {

@@ -43,17 +43,19 @@ void QtNavigator::keep(std::unique_ptr<kit::Screen> screen) {
   auto made = std::make_unique<ScreenWindow>(one, views_);
   ScreenWindow& window = *made;
   connect(&window, &ScreenWindow::left, this, [this] { sweepSoon(); });
-  std::find_if(kept_.begin(), kept_.end(), [&](const Standing& held) { return held.screen.get() == &one; })->window = std::move(made);
+  std::find_if(kept_.begin(), kept_.end(), [&](const Standing& held) { return held.screen.get() == &one; })->window =
+      std::move(made);
   window.present();
   if (onShown) onShown(window);
 }
 
 void QtNavigator::sweepSoon() {
-  QMetaObject::invokeMethod(this, [this] { sweep(); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      this, [this] { sweep(); }, Qt::QueuedConnection);
 }
 
-// A closed screen stays until no event of it is under way any more: its handlers may still be on the stack below a modal
-// window.
+// A closed screen stays until no event of it is under way any more: its handlers may still be on the stack below a
+// modal window.
 void QtNavigator::sweep() {
   std::vector<Standing> gone;
   for (auto one = kept_.begin(); one != kept_.end();) {

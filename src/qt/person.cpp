@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QLayout>
 #include <QMessageBox>
 #include <QPointer>
 
@@ -12,17 +13,21 @@
 namespace qt {
 namespace {
 
-constexpr int iconSide = 40;
+constexpr int iconSide = 40, margin = 18, leastText = 220;
 
 QPixmap pictureOf(kit::Box box, qreal ratio) {
   switch (box) {
     case kit::Box::Stop:
-    case kit::Box::AskStop: return iconPixmap("circle-x", iconSide, ratio, theme::stop);
+    case kit::Box::AskStop:
+      return iconPixmap("circle-x", iconSide, ratio, theme::stop);
     case kit::Box::Warning:
-    case kit::Box::AskWarning: return iconPixmap("triangle-alert", iconSide, ratio, theme::warning);
-    case kit::Box::Ask: return iconPixmap("circle-question-mark", iconSide, ratio);
+    case kit::Box::AskWarning:
+      return iconPixmap("triangle-alert", iconSide, ratio, theme::warning);
+    case kit::Box::Ask:
+      return iconPixmap("circle-question-mark", iconSide, ratio);
     case kit::Box::Information:
-    case kit::Box::AskInfo: return iconPixmap("info", iconSide, ratio);
+    case kit::Box::AskInfo:
+      return iconPixmap("info", iconSide, ratio);
   }
   return {};
 }
@@ -45,9 +50,12 @@ bool QtPerson::show(kit::Box box, const std::string& text, const std::string& ti
   message.setTextFormat(Qt::PlainText);
   message.setText(toQt(text));
   message.setIconPixmap(pictureOf(box, message.devicePixelRatioF()));
-  const bool question =
-      box != kit::Box::Stop && box != kit::Box::Warning && box != kit::Box::Information;
-  XPButton* yes = addButton(message, question ? "是" : "确定", question ? QMessageBox::YesRole : QMessageBox::AcceptRole);
+  message.layout()->setContentsMargins(margin, margin, margin, margin - 4);
+  message.setStyleSheet(
+      QString("QLabel#qt_msgbox_label { min-width: %1px; min-height: %2px; }").arg(leastText).arg(iconSide));
+  const bool question = box != kit::Box::Stop && box != kit::Box::Warning && box != kit::Box::Information;
+  XPButton* yes =
+      addButton(message, question ? "是" : "确定", question ? QMessageBox::YesRole : QMessageBox::AcceptRole);
   XPButton* leave = question ? addButton(message, "否", QMessageBox::NoRole) : yes;
   if (question) {
     yes->setShortcut(Qt::Key_Y);
@@ -70,8 +78,9 @@ QString dialogFilter(const std::string& filter) {
 }
 
 std::optional<std::string> QtPerson::chooseFile(const std::string& title, const std::string& filter) {
-  const QString path = QFileDialog::getOpenFileName(QApplication::activeWindow(), title.empty() ? programName_ : toQt(title), {},
-                                                    dialogFilter(filter), nullptr, QFileDialog::DontUseNativeDialog);
+  const QString path =
+      QFileDialog::getOpenFileName(QApplication::activeWindow(), title.empty() ? programName_ : toQt(title), {},
+                                   dialogFilter(filter), nullptr, QFileDialog::DontUseNativeDialog);
   if (path.isEmpty()) return std::nullopt;
   return fromQt(path);
 }

@@ -54,7 +54,8 @@ class PictureView : public QWidget {
     painter.drawImage(place, image_);
   }
   void mouseReleaseEvent(QMouseEvent* event) override {
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()) && renderer_.reachable(picture_))
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()) &&
+        renderer_.reachable(picture_))
       picture_.click();
   }
   void mouseDoubleClickEvent(QMouseEvent* event) override {

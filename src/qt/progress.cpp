@@ -19,7 +19,8 @@ constexpr int noticeWidth = 420, steps = 1000;
 
 class ProgressNotice : public QFrame {
  public:
-  ProgressNotice() : QFrame(nullptr, Qt::Dialog | Qt::FramelessWindowHint), label_(new QLabel(this)), bar_(new QProgressBar(this)) {
+  ProgressNotice()
+      : QFrame(nullptr, Qt::Dialog | Qt::FramelessWindowHint), label_(new QLabel(this)), bar_(new QProgressBar(this)) {
     setObjectName("progress");
     setWindowModality(Qt::ApplicationModal);
     setStyleSheet("#progress { background: #ffffff; border: 1px solid #0f6268; border-radius: 4px; }");
@@ -86,9 +87,12 @@ void QtProgress::hide() {
 }
 
 void QtProgress::waiting(bool on) {
-  if (on) paint("数据库正被其他计算机使用，正在等待……", 0, 0);
-  else if (working_ && notice_) paint(text_, done_, total_);
-  else take();
+  if (on)
+    paint("数据库正被其他计算机使用，正在等待……", 0, 0);
+  else if (working_ && notice_)
+    paint(text_, done_, total_);
+  else
+    take();
 }
 
 bool QtProgress::eventFilter(QObject*, QEvent* event) {
@@ -107,8 +111,10 @@ bool QtProgress::eventFilter(QObject*, QEvent* event) {
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
-    case QEvent::Close: return true;
-    default: return false;
+    case QEvent::Close:
+      return true;
+    default:
+      return false;
   }
 }
 

@@ -32,15 +32,24 @@ Renderer::~Renderer() {
 
 QWidget* Renderer::widget(kit::Member& member) {
   switch (member.kind) {
-    case MemberKind::Field: return fieldWidget(static_cast<kit::Field&>(member), *this);
-    case MemberKind::Check: return checkWidget(static_cast<kit::Check&>(member), *this);
-    case MemberKind::Choice: return choiceWidget(static_cast<kit::Choice&>(member), *this);
-    case MemberKind::Action: return button(static_cast<kit::Action&>(member), *this);
-    case MemberKind::List: return listWidget(static_cast<kit::List&>(member), *this);
-    case MemberKind::Tree: return treeWidget(static_cast<kit::Tree&>(member), *this);
-    case MemberKind::Picture: return pictureWidget(static_cast<kit::Picture&>(member), *this);
-    case MemberKind::Frame: return frameWidget(static_cast<kit::Frame&>(member), *this);
-    case MemberKind::Timer: break;
+    case MemberKind::Field:
+      return fieldWidget(static_cast<kit::Field&>(member), *this);
+    case MemberKind::Check:
+      return checkWidget(static_cast<kit::Check&>(member), *this);
+    case MemberKind::Choice:
+      return choiceWidget(static_cast<kit::Choice&>(member), *this);
+    case MemberKind::Action:
+      return button(static_cast<kit::Action&>(member), *this);
+    case MemberKind::List:
+      return listWidget(static_cast<kit::List&>(member), *this);
+    case MemberKind::Tree:
+      return treeWidget(static_cast<kit::Tree&>(member), *this);
+    case MemberKind::Picture:
+      return pictureWidget(static_cast<kit::Picture&>(member), *this);
+    case MemberKind::Frame:
+      return frameWidget(static_cast<kit::Frame&>(member), *this);
+    case MemberKind::Timer:
+      break;
   }
   return new QWidget(&nursery_);
 }
@@ -104,8 +113,10 @@ QAction* Renderer::action(kit::Action& action) {
 
 void Renderer::fillMenu(QMenu& menu, const std::vector<kit::Action*>& entries) {
   for (kit::Action* entry : entries) {
-    if (entry) menu.addAction(action(*entry));
-    else menu.addSeparator();
+    if (entry)
+      menu.addAction(action(*entry));
+    else
+      menu.addSeparator();
   }
 }
 
@@ -145,7 +156,8 @@ bool Renderer::focus(const kit::Member& member) {
   for (QWidget* widget : found->second) {
     if (widget->focusPolicy() == Qt::NoFocus) continue;
     for (QWidget* page = widget; page->parentWidget(); page = page->parentWidget())
-      if (auto* holder = qobject_cast<QTabWidget*>(page->parentWidget()->parentWidget())) holder->setCurrentWidget(page);
+      if (auto* holder = qobject_cast<QTabWidget*>(page->parentWidget()->parentWidget()))
+        holder->setCurrentWidget(page);
     widget->setFocus(Qt::OtherFocusReason);
     if (auto* edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
     return true;
@@ -161,8 +173,8 @@ void Renderer::focusFirst(const kit::Layout& layout) {
     return found != listening_.end() && found->second.front()->isVisible();
   };
   for (const kit::Member* member : order)
-    if (member->kind == MemberKind::Field && static_cast<const kit::Field*>(member)->entry != Entry::Shown && shown(*member) &&
-        focus(*member))
+    if (member->kind == MemberKind::Field && static_cast<const kit::Field*>(member)->entry != Entry::Shown &&
+        shown(*member) && focus(*member))
       return;
   for (const kit::Member* member : order)
     if (member->kind != MemberKind::Field && member->kind != MemberKind::Frame && member->kind != MemberKind::Picture &&
@@ -199,14 +211,16 @@ bool Renderer::moveLine(const kit::Member& member, int by) {
   for (std::size_t line = 0; line < grid_.size(); ++line)
     for (std::size_t cell = 0; cell < grid_[line].size(); ++cell) {
       if (grid_[line][cell] != &member) continue;
-      for (std::size_t next = line + static_cast<std::size_t>(by); next < grid_.size(); next += static_cast<std::size_t>(by))
+      for (std::size_t next = line + static_cast<std::size_t>(by); next < grid_.size();
+           next += static_cast<std::size_t>(by))
         if (cell < grid_[next].size() && grid_[next][cell] && focus(*grid_[next][cell])) return true;
       return true;
     }
   return false;
 }
 
-bool Renderer::keyPressed(kit::Member& member, QObject* object, int key, Qt::KeyboardModifiers modifiers, bool repeated) {
+bool Renderer::keyPressed(kit::Member& member, QObject* object, int key, Qt::KeyboardModifiers modifiers,
+                          bool repeated) {
   const bool plain = !(modifiers & (Qt::AltModifier | Qt::ControlModifier | Qt::ShiftModifier));
   if ((key == Qt::Key_Up || key == Qt::Key_Down) && plain) return moveLine(member, key == Qt::Key_Up ? -1 : 1);
   if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
@@ -222,7 +236,8 @@ bool Renderer::keyPressed(kit::Member& member, QObject* object, int key, Qt::Key
     case MemberKind::Choice:
       if (!repeated) moveOn(member);
       return true;
-    default: return false;
+    default:
+      return false;
   }
 }
 
@@ -231,7 +246,9 @@ bool Renderer::eventFilter(QObject* object, QEvent* event) {
   if (found == owners_.end()) return false;
   kit::Member& member = *found->second;
   switch (event->type()) {
-    case QEvent::FocusIn: came(member); break;
+    case QEvent::FocusIn:
+      came(member);
+      break;
     case QEvent::FocusOut: {
       const auto reason = static_cast<QFocusEvent*>(event)->reason();
       // While a message or a menu stands, the person is still here.
@@ -248,11 +265,14 @@ bool Renderer::eventFilter(QObject* object, QEvent* event) {
       if (member.kind != MemberKind::Field || static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) break;
       auto& field = static_cast<kit::Field&>(member);
       if (!reachable(field)) break;
-      if (event->type() == QEvent::MouseButtonDblClick) field.doubleClick();
-      else field.click();
+      if (event->type() == QEvent::MouseButtonDblClick)
+        field.doubleClick();
+      else
+        field.click();
       break;
     }
-    default: break;
+    default:
+      break;
   }
   return false;
 }

@@ -33,7 +33,7 @@ class Renderer : public QObject {
   QWidget* build(const kit::Node& node);  // a part of the layout with all that stands in it
   QWidget* widget(kit::Member& member);   // the member's widget alone
   QLabel* label(kit::Field& field);
-  QAction* action(kit::Action& action);   // for menus and toolbars; one an action
+  QAction* action(kit::Action& action);  // for menus and toolbars; one an action
   void fillMenu(QMenu& menu, const std::vector<kit::Action*>& entries);
 
   // Runs the update now and after every change of the member.
@@ -46,9 +46,9 @@ class Renderer : public QObject {
   bool reachable(const kit::Member& member) const;
   void setTabOrder(const kit::Layout& layout);
   void setDefault(const kit::Action* confirm);
-  bool focus(const kit::Member& member);        // false: its widget cannot take the focus
+  bool focus(const kit::Member& member);  // false: its widget cannot take the focus
   void focusFirst(const kit::Layout& layout);
-  void moveOn(const kit::Member& member);       // Enter on what is no field
+  void moveOn(const kit::Member& member);  // Enter on what is no field
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;

@@ -28,15 +28,19 @@ constexpr int tightSpacing = 3;  // of what belongs closely together: ticks, the
 constexpr int longForm = 12;     // rows
 
 const kit::Field* fieldOf(const Node& node) {
-  return node.kind == Node::Kind::Member && node.member->kind == MemberKind::Field ? static_cast<const kit::Field*>(node.member)
-                                                                                   : nullptr;
+  return node.kind == Node::Kind::Member && node.member->kind == MemberKind::Field
+             ? static_cast<const kit::Field*>(node.member)
+             : nullptr;
 }
 
-bool isMember(const Node& node, MemberKind kind) { return node.kind == Node::Kind::Member && node.member->kind == kind; }
+bool isMember(const Node& node, MemberKind kind) {
+  return node.kind == Node::Kind::Member && node.member->kind == kind;
+}
 
 template <class Test>
 bool anyOf(const Node& node, Test test) {
-  return test(node) || std::any_of(node.children.begin(), node.children.end(), [&](const Node& child) { return anyOf(child, test); });
+  return test(node) ||
+         std::any_of(node.children.begin(), node.children.end(), [&](const Node& child) { return anyOf(child, test); });
 }
 
 // Whether a node has a use for more room than it needs.
@@ -69,15 +73,24 @@ Box* inside(QWidget* widget) {
 
 QWidget* Renderer::build(const Node& node) {
   switch (node.kind) {
-    case Node::Kind::Member: return member(node);
-    case Node::Kind::Row: return row(node);
-    case Node::Kind::Column: return column(node);
-    case Node::Kind::Form: return form(node);
-    case Node::Kind::Group: return group(node);
-    case Node::Kind::Tabs: return tabs(node);
-    case Node::Kind::Lines: return lines(node);
-    case Node::Kind::Buttons: return buttons(node);
-    case Node::Kind::Custom: return custom(node);
+    case Node::Kind::Member:
+      return member(node);
+    case Node::Kind::Row:
+      return row(node);
+    case Node::Kind::Column:
+      return column(node);
+    case Node::Kind::Form:
+      return form(node);
+    case Node::Kind::Group:
+      return group(node);
+    case Node::Kind::Tabs:
+      return tabs(node);
+    case Node::Kind::Lines:
+      return lines(node);
+    case Node::Kind::Buttons:
+      return buttons(node);
+    case Node::Kind::Custom:
+      return custom(node);
     case Node::Kind::Heading:
     case Node::Kind::Note: {
       auto* label = new QLabel(toQt(node.text), &nursery_);
@@ -86,7 +99,8 @@ QWidget* Renderer::build(const Node& node) {
       if (node.kind == Node::Kind::Note) label->setMinimumWidth(charactersWide(label->fontMetrics(), 10));
       return label;
     }
-    case Node::Kind::Stretch: return new QWidget(&nursery_);
+    case Node::Kind::Stretch:
+      return new QWidget(&nursery_);
   }
   return nullptr;
 }
@@ -106,7 +120,7 @@ QWidget* Renderer::sized(const Node& node) {
 QWidget* Renderer::member(const Node& node) {
   if (const auto* field = fieldOf(node)) {
     if (!field->label().empty() && toQt(field->label()) != groupTitle_) return labelled(node);
-    if (field->entry == Entry::Shown && node.width == 0) 
+    if (field->entry == Entry::Shown && node.width == 0)
       return shownText(static_cast<kit::Field&>(*node.member), *this, !inRow_);
   }
   if (isMember(node, MemberKind::List)) {
@@ -148,8 +162,10 @@ void Renderer::fillColumn(QBoxLayout& box, const kit::Nodes& children) {
     if (!grows && child.kind == Node::Kind::Buttons && &child == &children.back()) box.addStretch(1);
     const bool alone = isMember(child, MemberKind::Action) || isMember(child, MemberKind::Check) ||
                        (fieldOf(child) && child.width > 0 && fieldOf(child)->entry != Entry::Memo);
-    box.addWidget(build(child), growsDown(child) && !anyOf(child, [](const Node& one) { return one.kind == Node::Kind::Stretch; }) ? 1 : 0,
-                  alone ? Qt::AlignLeft : Qt::Alignment());
+    box.addWidget(
+        build(child),
+        growsDown(child) && !anyOf(child, [](const Node& one) { return one.kind == Node::Kind::Stretch; }) ? 1 : 0,
+        alone ? Qt::AlignLeft : Qt::Alignment());
   }
   if (!grows && (children.empty() || children.back().kind != Node::Kind::Buttons)) box.addStretch(1);
 }
@@ -163,8 +179,9 @@ QWidget* Renderer::column(const Node& node) {
 QWidget* Renderer::row(const Node& node) {
   auto* holder = new QWidget(&nursery_);
   auto* box = inside<QHBoxLayout>(holder);
-  const bool grows = std::any_of(node.children.begin(), node.children.end(),
-                                 [](const Node& child) { return child.kind == Node::Kind::Stretch || growsAside(child); });
+  const bool grows = std::any_of(node.children.begin(), node.children.end(), [](const Node& child) {
+    return child.kind == Node::Kind::Stretch || growsAside(child);
+  });
   const bool stretches = std::any_of(node.children.begin(), node.children.end(),
                                      [](const Node& child) { return child.kind == Node::Kind::Stretch; });
   bool shared = grows;
@@ -172,13 +189,14 @@ QWidget* Renderer::row(const Node& node) {
     // Where nothing has a use for the room, the parts share it; single members leave it empty.
     const bool part = !grows && (child.kind == Node::Kind::Column || child.kind == Node::Kind::Group);
     shared = shared || part;
-    if (child.kind == Node::Kind::Stretch) box->addStretch(1);
+    if (child.kind == Node::Kind::Stretch)
+      box->addStretch(1);
     else if (child.kind == Node::Kind::Member) {
       inRow_ = true;
       box->addWidget(build(child), growsAside(child) ? 1 : 0);
       inRow_ = false;
-    }
-    else box->addWidget(build(child), part || (growsAside(child) && !stretches) ? 1 : 0);
+    } else
+      box->addWidget(build(child), part || (growsAside(child) && !stretches) ? 1 : 0);
   }
   if (!shared) box->addStretch(1);
   return holder;
@@ -198,10 +216,12 @@ QWidget* Renderer::form(const Node& node) {
     const auto* field = fieldOf(child);
     if (field) {
       auto* words = label(static_cast<kit::Field&>(*child.member));
-      grid->addWidget(words, line, at, Qt::AlignRight | (field->entry == Entry::Memo ? Qt::AlignTop : Qt::AlignVCenter));
+      grid->addWidget(words, line, at,
+                      Qt::AlignRight | (field->entry == Entry::Memo ? Qt::AlignTop : Qt::AlignVCenter));
     }
     const bool own = !field && child.kind == Node::Kind::Member && !isMember(child, MemberKind::Choice);
-    grid->addWidget(field ? sized(child) : build(child), line, at + 1, 1, span * 3 - 2, own ? Qt::AlignLeft : Qt::Alignment());
+    grid->addWidget(field ? sized(child) : build(child), line, at + 1, 1, span * 3 - 2,
+                    own ? Qt::AlignLeft : Qt::Alignment());
   }
   for (int pair = 0; pair < node.columns; ++pair) {
     grid->setColumnStretch(pair * 3 + 1, 1);
@@ -275,6 +295,7 @@ QWidget* Renderer::lines(const Node& node) {
       ++column;
     }
   }
+  grid->setRowStretch(line + 1, 1);
   return holder;
 }
 

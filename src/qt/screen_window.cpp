@@ -26,7 +26,9 @@ constexpr int toolIcon = 26;
 // What is larger than the desktop is scrolled instead of being cut.
 class ScrolledPage : public QScrollArea {
  public:
-  QSize sizeHint() const override { return widget()->sizeHint() + QSize(2 * verticalScrollBar()->sizeHint().width(), 0); }
+  QSize sizeHint() const override {
+    return widget()->sizeHint() + QSize(2 * verticalScrollBar()->sizeHint().width(), 0);
+  }
 };
 
 QWidget* fitted(QWidget* page, const QSize& room) {
@@ -82,7 +84,8 @@ ScreenWindow::~ScreenWindow() {
 }
 
 void ScreenWindow::addBars(const kit::Layout& plan) {
-  for (const kit::Menu& entry : plan.menus) renderer_->fillMenu(*menuBar()->addMenu(toQt(entry.caption)), entry.entries);
+  for (const kit::Menu& entry : plan.menus)
+    renderer_->fillMenu(*menuBar()->addMenu(toQt(entry.caption)), entry.entries);
   if (!plan.toolbar.empty()) {
     auto* bar = addToolBar("工具栏");
     bar->setObjectName("toolbar");

@@ -7,7 +7,9 @@
 
 namespace qt {
 
-inline QString toQt(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
+inline QString toQt(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
 inline std::string fromQt(const QString& text) { return text.toStdString(); }
 
 }  // namespace qt

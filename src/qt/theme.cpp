@@ -61,7 +61,7 @@ QTableView, QTreeView, QListView { background: #ffffff; alternate-background-col
   border-radius: 4px; gridline-color: #e3eded; outline: none;
   selection-background-color: #cbe6e5; selection-color: #0a4a50; }
 QTableView:focus, QTreeView:focus { border: 1px solid #0f6268; selection-background-color: #0f6268; selection-color: #ffffff; }
-QTableView::item { padding: 0 6px; border: none; }
+QTableView::item { padding: 0 3px; border: none; }
 QTreeView::item { padding: 3px 2px; }
 QTableView::item:hover:!selected, QTreeView::item:hover:!selected { background: #e8f4f4; }
 QHeaderView { background: #e6f1f1; border: none; }
@@ -113,11 +113,18 @@ QFont faceFont(platform::Face face, double points) {
   // The small faces lack characters that names have; the later families hold them.
   QStringList families;
   switch (face) {
-    case platform::Face::Song: families = {"Noto Serif CJK SC", "AR PL UMing CN"}; break;
-    case platform::Face::Kai: families = {"AR PL UKai CN", "TW-Kai", "TW-Kai-Ext-B", "Noto Serif CJK SC"}; break;
-    case platform::Face::Hei: families = {"Noto Sans CJK SC"}; break;
+    case platform::Face::Song:
+      families = {"Noto Serif CJK SC", "AR PL UMing CN"};
+      break;
+    case platform::Face::Kai:
+      families = {"AR PL UKai CN", "TW-Kai", "TW-Kai-Ext-B", "Noto Serif CJK SC"};
+      break;
+    case platform::Face::Hei:
+      families = {"Noto Sans CJK SC"};
+      break;
   }
-  families << "Noto Sans CJK SC" << "TW-Kai-Ext-B";
+  families << "Noto Sans CJK SC"
+           << "TW-Kai-Ext-B";
   QFont font(families);
   font.setPointSizeF(points);
   return font;

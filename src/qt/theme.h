@@ -16,12 +16,12 @@ inline QColor toQt(const kit::Colour& colour) { return QColor(colour.red, colour
 
 namespace theme {
 const QColor panel = toQt(kit::panelColour);
-const QColor accent(15, 98, 104);       // deep teal: headings, focus, what is chosen
+const QColor accent(15, 98, 104);  // deep teal: headings, focus, what is chosen
 const QColor accentDark(10, 74, 80);
 const QColor accentPale(221, 240, 239);
 const QColor ink(27, 42, 46);
-const QColor quiet(84, 108, 112);       // labels and notes
-const QColor faint(134, 156, 159);      // what is disabled
+const QColor quiet(84, 108, 112);   // labels and notes
+const QColor faint(134, 156, 159);  // what is disabled
 const QColor rule(176, 203, 203);
 const QColor paper(255, 255, 255);
 const QColor paperAlternate(244, 250, 250);

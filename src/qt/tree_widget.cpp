@@ -24,7 +24,8 @@ bool sameNodes(const QTreeWidgetItem& parent, const std::vector<kit::TreeNode>& 
   for (int i = 0; i < parent.childCount(); ++i) {
     const QTreeWidgetItem& item = *parent.child(i);
     const kit::TreeNode& node = nodes[static_cast<std::size_t>(i)];
-    if (item.text(0) != toQt(node.text) || item.data(0, keyRole).toString() != toQt(node.key) || !sameNodes(item, node.children))
+    if (item.text(0) != toQt(node.text) || item.data(0, keyRole).toString() != toQt(node.key) ||
+        !sameNodes(item, node.children))
       return false;
   }
   return true;
@@ -41,7 +42,8 @@ QTreeWidgetItem* findItem(QTreeWidgetItem& parent, const QString& key) {
 
 class TreeLink : public QObject {
  public:
-  TreeLink(kit::Tree& tree, QTreeWidget& view, Renderer& renderer) : QObject(&view), tree_(tree), view_(view), renderer_(renderer) {
+  TreeLink(kit::Tree& tree, QTreeWidget& view, Renderer& renderer)
+      : QObject(&view), tree_(tree), view_(view), renderer_(renderer) {
     connect(&view, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) { click(item); });
     connect(&view, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
       if (!QApplication::mouseButtons()) click(item);

@@ -64,8 +64,10 @@ void drawFace(QPainter& painter, const QRect& surface, const QPixmap& pixmap) {
   const auto cuts = [](int from, int length) {
     return std::array<int, 4>{from, from + corner, from + length - corner, from + length};
   };
-  const auto x = cuts(surface.x(), surface.width()), y = cuts(surface.y(), surface.height()), source = cuts(0, faceSide);
-  const auto piece = [](const std::array<int, 4>& across, const std::array<int, 4>& down, std::size_t i, std::size_t j) {
+  const auto x = cuts(surface.x(), surface.width()), y = cuts(surface.y(), surface.height()),
+             source = cuts(0, faceSide);
+  const auto piece = [](const std::array<int, 4>& across, const std::array<int, 4>& down, std::size_t i,
+                        std::size_t j) {
     return QRectF(QPointF(across[i], down[j]), QPointF(across[i + 1], down[j + 1]));
   };
   for (std::size_t i = 0; i < 3; ++i)
@@ -80,7 +82,8 @@ int shiftOf(Qt::KeyboardModifiers keys) {
 }
 
 int buttonOf(Qt::MouseButtons buttons) {
-  return (buttons & Qt::LeftButton ? 1 : 0) | (buttons & Qt::RightButton ? 2 : 0) | (buttons & Qt::MiddleButton ? 4 : 0);
+  return (buttons & Qt::LeftButton ? 1 : 0) | (buttons & Qt::RightButton ? 2 : 0) |
+         (buttons & Qt::MiddleButton ? 4 : 0);
 }
 
 }  // namespace

@@ -28,7 +28,8 @@ class XPButton : public QAbstractButton {
 
   QPixmap picture() const { return picture_; }
   void setPicture(const QPixmap& picture);
-  void setIconName(const QString& name);  // the picture from the icon set, in step with screen density and caption colour
+  void setIconName(
+      const QString& name);  // the picture from the icon set, in step with screen density and caption colour
   int pictureStyle() const { return style_; }
   void setPictureStyle(int style);
   QColor foreColor() const;

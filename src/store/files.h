@@ -15,6 +15,7 @@ std::string_view password(Connection which);
 struct Location {
   std::filesystem::path path;
   std::string password;
+  friend bool operator==(const Location&, const Location&) = default;
 };
 Location locate(const std::string& connectionText);  // what a connection text names
 

@@ -168,6 +168,16 @@ void RecordSet::remove() {
   state_->editing = State::Editing::Removed;
 }
 
+bool RecordSet::hasMarks() { return !state_->rows().query().grouped; }
+std::int64_t RecordSet::mark() { return state_->rows().rowNo(); }
+
+void RecordSet::goTo(std::int64_t mark) {
+  state_->leaveRow();
+  state_->rows().standOn(mark);
+}
+
+RecordSet RecordSet::another() const { return RecordSet(*state_->store, state_->sql, state_->connection); }
+
 std::vector<std::string> RecordSet::fields() {
   std::vector<std::string> result;
   for (const Column* column : state_->rows().query().columns) result.emplace_back(column->name);

@@ -6,6 +6,7 @@
 // in which they were stored. Every operation raises StoreError.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -41,6 +42,13 @@ class RecordSet {
   void update();                                   // writes the row; it stays current. Nothing to write: does nothing
   void remove();  // deletes the current row; update() behind it does nothing, next() goes on
   std::vector<std::string> fields();
+
+  // What long lists keep instead of rows. A mark stands for a row as long as it exists; goTo makes that row current, with
+  // nothing behind it. Grouped rows have no marks.
+  bool hasMarks();
+  std::int64_t mark();
+  void goTo(std::int64_t mark);
+  RecordSet another() const;  // a set of its own on the same statement
 
  private:
   struct State;

@@ -48,10 +48,23 @@ Store::Store(std::filesystem::path programFolder) : state_(std::make_unique<Stat
 
 Store::~Store() = default;
 
+namespace {
+// The start screen and the login name the same files by different paths; what is open under one name serves the other.
+bool sameFile(const std::string& one, const std::string& other) {
+  try {
+    return locate(one) == locate(other);
+  } catch (const StoreError&) {
+    return false;  // a text that names no file is told when the database is opened
+  }
+}
+}  // namespace
+
 void Store::connect(Connection which, const std::string& text) {
   State::Side& side = state_->side(which);
   if (state_->inMemory || side.text == text) return;
+  const bool same = sameFile(side.text, text);
   side.text = text;
+  if (same) return;
   side.database->replace([this, which, text] {
     const Location location = locate(text);
     createWhenNew(state_->folder);

@@ -107,6 +107,29 @@ TEST(Validation, StopsAtTheFirstBreachWithTheFocusInItsField) {
   EXPECT_TRUE(holds(test.person, rules));
 }
 
+TEST(List, ALongListReadsItsRowsWhenTheyAreLookedAt) {
+  TestDesk test;
+  {
+    store::Unit unit(test.store);
+    store::RecordSet majors(test.store, "select * from zymcb");
+    for (int i = 0; i < 5000; ++i) {
+      majors.addNew();
+      majors.set("zybh", std::to_string(10000 + i));
+      majors.set("zymc", "专业" + std::to_string(i));
+      majors.update();
+    }
+    unit.finish();
+  }
+  auto s = opened<Sample>(test);
+  ASSERT_EQ(s->majors.count(), 5000);
+  for (const long long row : {0, 1999, 2000, 4999, 3000, 2100}) EXPECT_EQ(s->majors.cell(row, 0), std::to_string(10000 + row));
+  s->majors.select(4321);
+  EXPECT_EQ(s->majors.current()->get("zymc").text(), "专业4321");
+  store::RecordSet(test.store, "select * from zymcb where zybh='14000'").remove();
+  EXPECT_EQ(s->majors.cell(4000, 0), "");  // gone meanwhile: its place stays, blank
+  EXPECT_EQ(s->majors.cell(4001, 1), "专业4001");
+}
+
 TEST(List, ShowsEachFormat) {
   const struct { store::Value value; Format format; const char* shown; } cases[] = {
       {store::Value(" 王 "), Format::Text, "王"}, {store::Value(), Format::Money, ""}, {store::Value(""), Format::Date, ""},

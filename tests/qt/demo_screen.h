@@ -20,8 +20,12 @@ class DemoScreen : public kit::Screen {
   kit::Choice scope{*this, "scope", {"所有班级", "指定专业", "指定班级"}, -1};
   kit::Picture photo{*this, "photo"};
   kit::Frame frame{*this, "frame", "交费记录"};
-  kit::List rows_shown{*this, "rows_shown", {{" 学号 ", "", kit::Format::Text, 5}, {"姓名", "", kit::Format::Text, 5},
-                                             {"收费项目", "", kit::Format::Text, 8}, {"金额", "", kit::Format::Money, 6}}};
+  kit::List rows_shown{*this,
+                       "rows_shown",
+                       {{" 学号 ", "", kit::Format::Text, 5},
+                        {"姓名", "", kit::Format::Text, 5},
+                        {"收费项目", "", kit::Format::Text, 8},
+                        {"金额", "", kit::Format::Money, 6}}};
   kit::Tree tree{*this, "tree"};
   struct Line {
     kit::Field item, amount;

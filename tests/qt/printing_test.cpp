@@ -25,8 +25,6 @@ using platform::Text;
 
 class Printing : public testing::Test {
  protected:
-  static void SetUpTestSuite() { support::application(); }
-
   // The first page of a PDF, through another program's eyes.
   QImage pictureOf(const QString& pdf, int dotsPerInch) {
     const QString picture = folder.filePath("page"), dots = QString::number(dotsPerInch);

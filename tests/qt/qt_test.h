@@ -1,5 +1,5 @@
-// What the tests of windows share: the application on a screen of 1366 by 768, a desk whose person never objects, a
-// window over a screen.
+// What the tests of windows share: a desk whose person never objects. The application stands on a screen of 1366 by
+// 768.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -7,17 +7,16 @@
 #include "qt/screen_window.h"
 #include "support/test_desk.h"
 
-class QApplication;
-
 namespace support {
-
-QApplication& application();
 
 // Says 否 to everything and keeps what was said.
 struct QuietPerson : kit::Person {
   std::vector<std::string> told;
   void tell(kit::Box, const std::string& text, const std::string&) override { told.push_back(text); }
-  bool ask(kit::Box, const std::string& text, const std::string&) override { told.push_back(text); return false; }
+  bool ask(kit::Box, const std::string& text, const std::string&) override {
+    told.push_back(text);
+    return false;
+  }
   std::optional<std::string> chooseFile(const std::string&, const std::string&) override { return std::nullopt; }
 };
 
@@ -29,11 +28,11 @@ struct QuietNavigator : kit::Navigator {
 };
 
 struct WindowDesk {
-  WindowDesk() { application(); }
   TestDesk parts;
   QuietPerson person;
   QuietNavigator navigator;
-  kit::Desk desk{parts.session, parts.store, person, navigator, parts.clock, parts.printer, parts.desktop, parts.progress};
+  kit::Desk desk{parts.session, parts.store,   person,        navigator,
+                 parts.clock,   parts.printer, parts.desktop, parts.progress};
 };
 
 void settle();  // handles all events there are

@@ -130,6 +130,9 @@ TEST_F(RendererTest, aListDropsDownFilledAndAnEntryIsTaken) {
   EXPECT_THAT(heard(), ElementsAre("bjmc pick"));
   QTest::keyClick(&find("bjmc"), Qt::Key_Down);
   EXPECT_EQ(find<QLineEdit>("bjmc").text(), "会计一班");
+  QTest::mouseDClick(&find("bjmc"), Qt::LeftButton);
+  EXPECT_EQ(dropped().count(), 3);
+  QTest::keyClick(&dropped(), Qt::Key_Escape);
   QTest::keyClicks(&find("xb"), "x");
   EXPECT_EQ(screen.xb.text(), "") << "a list that takes no typing";
 }

@@ -46,7 +46,8 @@ std::set<const kit::Member*> membersOf(const kit::Layout& layout) {
 
 // The member's name for what has the focus: an option button stands for its choice.
 std::string nameOf(const QWidget& widget) {
-  return qt::fromQt(qobject_cast<const QRadioButton*>(&widget) ? widget.parentWidget()->objectName() : widget.objectName());
+  return qt::fromQt(qobject_cast<const QRadioButton*>(&widget) ? widget.parentWidget()->objectName()
+                                                               : widget.objectName());
 }
 
 Names tabOrder(const QWidget& window, const std::set<std::string>& known) {
@@ -63,13 +64,15 @@ bool tooSmall(const QWidget& widget) {
   const auto* label = qobject_cast<const QLabel*>(&widget);
   if (label && label->text().isEmpty()) return false;
   if (label && label->wordWrap()) return label->height() < label->heightForWidth(label->width());
-  if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) return edit->height() < edit->fontMetrics().height() + 2;
+  if (const auto* edit = qobject_cast<const QLineEdit*>(&widget))
+    return edit->height() < edit->fontMetrics().height() + 2;
   const auto* button = qobject_cast<const QAbstractButton*>(&widget);
   if (label || (button && !button->text().isEmpty() && !widget.objectName().startsWith("qt_")))
     return widget.width() < widget.sizeHint().width() || widget.height() < widget.sizeHint().height() - 2;
   if (const auto* box = qobject_cast<const QGroupBox*>(&widget))
     return box->width() < box->fontMetrics().horizontalAdvance(box->title()) + 24;
-  if (const auto* bar = qobject_cast<const QTabBar*>(&widget)) return bar->width() < bar->tabRect(bar->count() - 1).right();
+  if (const auto* bar = qobject_cast<const QTabBar*>(&widget))
+    return bar->width() < bar->tabRect(bar->count() - 1).right();
   return false;
 }
 
@@ -99,10 +102,13 @@ std::vector<std::string> faults(qt::ScreenWindow& window) {
   const auto named = membersOf(layout);
   for (const kit::Member* member : screen.members()) {
     if (member->kind == kit::MemberKind::Timer) continue;
-    if (!named.contains(member)) found.insert("not in the layout: " + member->name);
-    else if (!window.findChild<QObject*>(qt::toQt(member->name))) found.insert("without a widget: " + member->name);
+    if (!named.contains(member))
+      found.insert("not in the layout: " + member->name);
+    else if (!window.findChild<QObject*>(qt::toQt(member->name)))
+      found.insert("without a widget: " + member->name);
     const auto* action = dynamic_cast<const kit::Action*>(member);
-    if (action && !action->icon.empty() && qt::icon(qt::toQt(action->icon)).isNull()) found.insert("no such icon: " + action->icon);
+    if (action && !action->icon.empty() && qt::icon(qt::toQt(action->icon)).isNull())
+      found.insert("no such icon: " + action->icon);
   }
 
   std::set<std::string> inTabOrder;
@@ -114,9 +120,11 @@ std::vector<std::string> faults(qt::ScreenWindow& window) {
     if (reached.contains(member->name)) wanted.push_back(member->name);
   const auto differ = std::mismatch(order.begin(), order.end(), wanted.begin(), wanted.end());
   if (differ.first != order.end())
-    found.insert("tab order: " + *differ.first + (differ.second == wanted.end() ? "" : " instead of " + *differ.second));
+    found.insert("tab order: " + *differ.first +
+                 (differ.second == wanted.end() ? "" : " instead of " + *differ.second));
 
-  if (window.width() > smallestDesktop.width() || window.height() > smallestDesktop.height() || window.findChild<QScrollArea*>())
+  if (window.width() > smallestDesktop.width() || window.height() > smallestDesktop.height() ||
+      window.findChild<QScrollArea*>())
     found.insert("larger than the smallest desktop");
 
   for (kit::Member* member : screen.members())

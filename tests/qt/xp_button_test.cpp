@@ -17,7 +17,6 @@ using qt::XPButton;
 class XPButtonTest : public testing::Test {
  protected:
   XPButtonTest() {
-    support::application();
     button.setText("确认");
     button.resize(100, 40);
     button.show();
