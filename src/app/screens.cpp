@@ -8,6 +8,7 @@
 #include "collection/receipt_form.h"
 #include "collection/receipt_notes.h"
 #include "collection/receipt_print.h"
+#include "collection/submission.h"
 #include "feesetup/class_edit.h"
 #include "feesetup/class_standard_change.h"
 #include "feesetup/class_standard_delete.h"
@@ -19,6 +20,7 @@
 #include "feesetup/form_standards.h"
 #include "feesetup/major_edit.h"
 #include "feesetup/setup.h"
+#include "reports/print_options.h"
 #include "shell/about.h"
 #include "shell/console.h"
 #include "shell/loading.h"
@@ -76,6 +78,10 @@ const std::vector<Entry>& screens() {
       screen<collection::Formzctsf8>("Formzctsf8"),
       screen<collection::Formzctsf5>("Formzctsf5"),
       screen<collection::Formzctsf2>("Formzctsf2"),
+      screen<collection::Formzctsf9>("Formzctsf9"),
+      screen<reports::Formzctxsdy>("Formzctxsdy"),
+      screen<reports::Formzctjfjldy>("Formzctjfjldy"),
+      screen<reports::Formzctqfjldy>("Formzctqfjldy"),
   };
   return all;
 }

@@ -18,7 +18,7 @@ class Screen;
 struct Desk;
 
 // The kinds of message box; the program has no others.
-enum class Box { Stop = 16, Warning = 48, Information = 64, Ask = 36, AskStop = 20, AskInfo = 68 };
+enum class Box { Stop = 16, Warning = 48, Information = 64, Ask = 36, AskStop = 20, AskWarning = 52, AskInfo = 68 };
 
 class Person {
  public:

@@ -21,6 +21,7 @@ QPixmap pictureOf(kit::Box box, qreal ratio) {
     case kit::Box::AskStop:
       return iconPixmap("circle-x", iconSide, ratio, theme::stop);
     case kit::Box::Warning:
+    case kit::Box::AskWarning:
       return iconPixmap("triangle-alert", iconSide, ratio, theme::warning);
     case kit::Box::Ask:
       return iconPixmap("circle-question-mark", iconSide, ratio);
@@ -52,7 +53,7 @@ bool QtPerson::show(kit::Box box, const std::string& text, const std::string& ti
   message.layout()->setContentsMargins(margin, margin, margin, margin - 4);
   message.setStyleSheet(
       QString("QLabel#qt_msgbox_label { min-width: %1px; min-height: %2px; }").arg(leastText).arg(iconSide));
-  const bool question = box == kit::Box::Ask || box == kit::Box::AskStop || box == kit::Box::AskInfo;
+  const bool question = box != kit::Box::Stop && box != kit::Box::Warning && box != kit::Box::Information;
   XPButton* yes =
       addButton(message, question ? "是" : "确定", question ? QMessageBox::YesRole : QMessageBox::AcceptRole);
   XPButton* leave = question ? addButton(message, "否", QMessageBox::NoRole) : yes;

@@ -2,9 +2,11 @@
 
 #include "base/text.h"
 #include "collection/fee_window.h"
+#include "collection/submission.h"
 #include "feesetup/desk_settings.h"
 #include "feesetup/setup.h"
 #include "kit/settings.h"
+#include "reports/print_options.h"
 #include "shell/about.h"
 #include "shell/rights.h"
 #include "students/student_edit.h"
@@ -90,7 +92,8 @@ void Formzct::wireToolbar() {
   k6.onPress([this] {
     if (!may(desk, Collect)) return refuse(desk);
     closeOverviews();
-    notYet(k6.caption());
+    open<collection::Formzctsf9>();
+    if (!desk.session.current_xh.empty()) redrawLists();
   });
   k11.onPress([this] {
     if (!may(desk, Collect)) return refuse(desk);
@@ -102,17 +105,21 @@ void Formzct::wireToolbar() {
   });
   // One chain over the three panels, not tied to the one in front: to reach panel 3 a user needs the rights of 1 and 2,
   // and one with the first right alone gets the action and then the refusal.
-  const auto chain = [this](kit::Action& button, std::array<int, 3> rights) {
-    button.onPress([this, &button, rights] {
+  const auto chain = [this](kit::Action& button, std::array<int, 3> rights, std::function<void(kit::Panel)> act) {
+    button.onPress([this, rights, act] {
       for (int panel = 1; panel <= 3; ++panel) {
         if (!may(desk, rights[static_cast<std::size_t>(panel - 1)])) return refuse(desk);
-        if (desk.session.ConsolePanel == static_cast<kit::Panel>(panel)) notYet(button.caption());
+        if (desk.session.ConsolePanel == static_cast<kit::Panel>(panel)) act(desk.session.ConsolePanel);
       }
     });
   };
-  chain(k7, {StudentQuery, PaymentQuery, ArrearsQuery});
-  chain(k8, {StudentQuery, PaymentQuery, ArrearsQuery});
-  chain(k9, {StudentClear, PaymentClear, ArrearsClear});
+  chain(k7, {StudentQuery, PaymentQuery, ArrearsQuery}, [this](kit::Panel panel) {
+    if (panel == kit::Panel::Students) open<reports::Formzctxsdy>();
+    if (panel == kit::Panel::Payments) open<reports::Formzctjfjldy>();
+    if (panel == kit::Panel::Arrears) open<reports::Formzctqfjldy>();
+  });
+  chain(k8, {StudentQuery, PaymentQuery, ArrearsQuery}, [this](kit::Panel) { notYet(k8.caption()); });
+  chain(k9, {StudentClear, PaymentClear, ArrearsClear}, [this](kit::Panel) { notYet(k9.caption()); });
 }
 
 void Formzct::loadAllSettings() {

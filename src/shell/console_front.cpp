@@ -1,6 +1,7 @@
 #include "shell/console_front.h"
 
 #include "base/text.h"
+#include "collection/payment_columns.h"
 #include "kit/settings.h"
 
 namespace shell {
@@ -43,20 +44,6 @@ constexpr CardLine cardLines[] = {
     {Half, "rq", "入住日期", &StudentCard::rq},
 };
 
-const std::vector<kit::ListColumn> paymentColumns{
-    {"  记录标识号", "lsh", kit::Format::Text, 9},
-    {"  姓名", "xm", kit::Format::Text, 5},
-    {"        院校班级名称", "bjmc", kit::Format::Text, 12},
-    {"   交费所属学期", "xq", kit::Format::Text, 9},
-    {" 交费日期", "jfrq", kit::Format::Date, 7},
-    {" 收据编号", "fpbh", kit::Format::Text, 7},
-    {" 交费方式", "jffs", kit::Format::Text, 6},
-    {"交费项目名称", "sfxm", kit::Format::Text, 8},
-    {"   金额", "je", kit::Format::Padded, 7},
-    {"提交", "sftj", kit::Format::Text, 3},
-    {"收款人", "skr", kit::Format::Text, 5},
-};
-
 // Narrow enough that what is owed stands in sight on the smallest desktop.
 const std::vector<kit::ListColumn> arrearsColumns{
     {"记录标识号", "lsh", kit::Format::Text, 7},  {"姓名", "xm", kit::Format::Text, 5},
@@ -97,7 +84,7 @@ kit::Nodes CardFrame::layout() {
 
 PaymentsFrame::PaymentsFrame(kit::Screen& screen, kit::Desk& desk)
     : frame(screen, "payments", "交费记录："),
-      list(screen, "payment_list", paymentColumns),
+      list(screen, "payment_list", collection::paymentColumns),
       bar(screen, "payment_bar", "", kit::Entry::Shown),
       desk_(desk) {
   list.setTip("右键有操作");

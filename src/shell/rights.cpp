@@ -9,8 +9,4 @@ void settle(const kit::Desk& desk, const std::vector<Gate>& gates) {
     gate.action.enable(std::any_of(gate.anyOf.begin(), gate.anyOf.end(), [&](int right) { return may(desk, right); }));
 }
 
-void refuse(kit::Desk& desk) {
-  desk.person.tell(kit::Box::Information, "请您先请示授权再进行此操作！      ", "权限越界");
-}
-
 }  // namespace shell

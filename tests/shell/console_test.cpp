@@ -5,6 +5,7 @@
 #include "arrears/arrears_entry.h"
 #include "collection/fee_window.h"
 #include "feesetup/desk_settings.h"
+#include "reports/print_options.h"
 #include "shell/rights.h"
 #include "students/student_edit.h"
 #include "support/test_desk.h"
@@ -147,7 +148,8 @@ TEST(Console, TheChainOfThreeRightsIsNotTiedToThePanel) {
   auto s = opened<Formzct>(first);
   s->k2.press();
   s->timer1.tick();
-  first.person.expect(Box::Information, "“打印报表”尚未开放，将在后续版本中提供。", "信息提示").expect(Box::Information, refusal, "权限越界");
+  first.navigator.expect<reports::Formzctxsdy>();
+  first.person.expect(Box::Information, refusal, "权限越界");
   s->k7.press();
 
   Office third{StudentQuery, ArrearsQuery};

@@ -64,7 +64,12 @@ void paint(QPainter& painter, const platform::Text& mark) {
     if (width > mark.fit) fitted = scale * std::max(mark.fit / width, smallest);
     if (width * smallest > mark.fit) text = metrics.elidedText(text, Qt::ElideRight, mark.fit / fitted);
   }
-  paintLine(painter, {mark.x, mark.y + baseline * em * scale}, fitted, face, text);
+  double x = mark.x;
+  if (mark.align != platform::Align::Left) {
+    const double width = QFontMetricsF(face).horizontalAdvance(text) * fitted;
+    x -= mark.align == platform::Align::Right ? width : width / 2;
+  }
+  paintLine(painter, {x, mark.y + baseline * em * scale}, fitted, face, text);
 }
 
 void paint(QPainter& painter, const platform::Line& mark) {

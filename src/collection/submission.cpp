@@ -1,0 +1,101 @@
+#include "collection/submission.h"
+
+#include <set>
+
+#include "base/text.h"
+#include "collection/payment_columns.h"
+#include "kit/rights.h"
+#include "reports/print.h"
+
+namespace collection {
+
+using store::RecordSet;
+using store::Sql;
+
+namespace {
+
+// What the session's user has collected and not yet submitted.
+Sql unsubmitted(const kit::Desk& desk) {
+  return Sql("select * from jfjl where skr='") + desk.session.SessionUser + "' and sftj<>'*'";
+}
+
+}  // namespace
+
+Formzctsf9::Formzctsf9(kit::Desk& all_of_it)
+    : Screen(all_of_it, "Formzctsf9", "未提交收费记录明细"), list(*this, "list", paymentColumns) {
+  list.menu = {&mine_entry, &all_entry};
+  submit.onPress([this] { submitMine(); });
+  print.onPress([this] { printMine(); });
+  all.onPress([this] { listAll(); });
+  all_entry.onPress([this] { listAll(); });
+  mine_entry.onPress([this] { listMine(); });
+  back.onPress([this] { close(); });
+}
+
+void Formzctsf9::load() {
+  print.enable(kit::may(desk, kit::Collect));
+  listMine();
+}
+
+void Formzctsf9::listMine() {
+  setTitle("未提交收费记录明细");
+  const base::Money total = fill(unsubmitted(desk) + " order by lsh");
+  summary.set("收款人：" + desk.session.SessionUser + "，未提交记录数：" + base::caption(list.count()) + " 条，未提交金额：" +
+              total.fixed2() + " 元");
+}
+
+void Formzctsf9::listAll() {
+  if (!kit::may(desk, kit::SeeAllUnsubmitted)) return;
+  setTitle("前台所有未提交收费记录明细");
+  const base::Money total = fill("select * from jfjl where sftj<>'*' order by jfrq");
+  summary.set("收费前台未提交记录数：" + base::caption(list.count()) + " 条，未提交金额：" + total.fixed2() + " 元");
+}
+
+base::Money Formzctsf9::fill(const Sql& sql) {
+  base::Money total;
+  RecordSet payments = rows(sql);
+  list.fill(payments, [&](RecordSet& row) { total += row.get("je").money(); });
+  return total;
+}
+
+void Formzctsf9::submitMine() {
+  if (rows(unsubmitted(desk)).empty()) return inform("前台不存在您的未提交记录！     ", "信息提示");
+  if (!ask("您确认是要提交前台的收费记录到后台数据库中吗？    ", "操作提示")) return;
+  base::Money total;
+  std::set<std::string> counted;
+  long long count = 0;
+  RecordSet mine = rows(unsubmitted(desk));
+  store::forEach(mine, [&](RecordSet& row) {
+    total += row.get("je").money();
+    counted.insert(row.get("lsh").text());
+    ++count;
+  });
+  if (!ask("您在前台共有：" + base::caption(count) + " 条收费记录；累计收费总额为：" + total.fixed2() +
+               " 元！ \n提交前，您应该先打印出收费汇总报表！您确认继续吗？  \n选择“是”提交记录；否则点“否”撤销此操作！ ",
+           "操作提示"))
+    return;
+  {
+    // What the user has collected at another computer meanwhile is not in the sum that was confirmed: it stays.
+    store::Unit unit(desk.store);
+    RecordSet confirmed = rows(unsubmitted(desk));
+    store::forEach(confirmed, [&](RecordSet& row) {
+      if (!counted.contains(row.get("lsh").text())) return;
+      row.set("sftj", "*");
+      row.update();
+    });
+    unit.finish();
+  }
+  inform("记录提交完毕！     ", "信息提示");
+  list.clear();
+  summary.clear();
+}
+
+void Formzctsf9::printMine() {
+  if (!kit::may(desk, kit::Collect)) return kit::refuse(desk);
+  const Sql mine = unsubmitted(desk) + " order by lsh";
+  if (rows(mine).empty()) return inform("前台不存在您的未提交记录！      ", "信息提示");
+  reports::refill(desk, "dy_jfjl", mine, reports::columnsOf("dy_jfjl"));
+  reports::showReport(desk, "bbdy_jfjl");
+}
+
+}  // namespace collection

@@ -1,0 +1,79 @@
+#include "reports/print.h"
+
+#include "reports/drawing.h"
+
+namespace reports {
+namespace {
+
+using store::RecordSet;
+using store::Sql;
+
+// The notice of long work; it goes when the work ends, also by a fault.
+class Notice {
+ public:
+  explicit Notice(kit::Desk& desk) : progress_(desk.progress) {}
+  ~Notice() {
+    if (shown_) progress_.hide();
+  }
+  Notice(const Notice&) = delete;
+  Notice& operator=(const Notice&) = delete;
+  void count(const char* text, long long done) {
+    constexpr long long step = 500;
+    if (done % step != 0) return;
+    shown_ = true;
+    progress_.show(text, done);
+  }
+
+ private:
+  kit::Progress& progress_;
+  bool shown_ = false;
+};
+
+}  // namespace
+
+long long refill(kit::Desk& desk, const char* table, const Sql& source, const std::vector<std::string_view>& columns,
+                 const Also& also) {
+  Notice notice(desk);
+  store::Unit unit(desk.store);
+  RecordSet target(desk.store, Sql::table(table));
+  store::forEach(target, [](RecordSet& old) { old.remove(); });
+  long long copied = 0;
+  RecordSet rows(desk.store, source);
+  store::forEach(rows, [&](RecordSet& row) {
+    target.addNew();
+    for (const std::string_view column : columns) target.set(column, row.get(column));
+    if (also) also(row, target);
+    target.update();
+    notice.count("正在准备打印数据 ...", ++copied);
+  });
+  unit.finish();
+  return copied;
+}
+
+std::vector<std::string_view> columnsOf(std::string_view table) {
+  std::vector<std::string_view> names;
+  for (const store::Column& column : store::findTable(table)->columns) names.push_back(column.name);
+  return names;
+}
+
+bool mayPrint(kit::Desk& desk, const std::string& question) {
+  return desk.person.ask(kit::Box::AskWarning, question + "\n点“是”继续；否则，点“否”撤销此操作！ ", "信息提示");
+}
+
+void showReport(kit::Desk& desk, std::string_view name) {
+  const Report& report = reportNamed(name);
+  platform::Drawing drawing;
+  {
+    RecordSet rows(desk.store, Sql::table(report.table));
+    if (rows.empty()) return;
+    drawing = draw(report, rows, {desk.session.SchoolName, desk.clock.now()});
+  }
+  desk.printer.show(drawing);
+}
+
+void printList(kit::Desk& desk, const std::function<long long()>& fill, std::string_view report, const Question& question) {
+  if (fill() == 0) return desk.person.tell(kit::Box::Information, question.none, question.noneTitle);
+  if (mayPrint(desk, question.text)) showReport(desk, report);
+}
+
+}  // namespace reports
