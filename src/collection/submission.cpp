@@ -40,8 +40,8 @@ void Formzctsf9::load() {
 void Formzctsf9::listMine() {
   setTitle("未提交收费记录明细");
   const base::Money total = fill(unsubmitted(desk) + " order by lsh");
-  summary.set("收款人：" + desk.session.SessionUser + "，未提交记录数：" + base::caption(list.count()) + " 条，未提交金额：" +
-              total.fixed2() + " 元");
+  summary.set("收款人：" + desk.session.SessionUser + "，未提交记录数：" + base::caption(list.count()) +
+              " 条，未提交金额：" + total.fixed2() + " 元");
 }
 
 void Formzctsf9::listAll() {
@@ -70,9 +70,10 @@ void Formzctsf9::submitMine() {
     counted.insert(row.get("lsh").text());
     ++count;
   });
-  if (!ask("您在前台共有：" + base::caption(count) + " 条收费记录；累计收费总额为：" + total.fixed2() +
-               " 元！ \n提交前，您应该先打印出收费汇总报表！您确认继续吗？  \n选择“是”提交记录；否则点“否”撤销此操作！ ",
-           "操作提示"))
+  if (!ask(
+          "您在前台共有：" + base::caption(count) + " 条收费记录；累计收费总额为：" + total.fixed2() +
+              " 元！ \n提交前，您应该先打印出收费汇总报表！您确认继续吗？  \n选择“是”提交记录；否则点“否”撤销此操作！ ",
+          "操作提示"))
     return;
   {
     // What the user has collected at another computer meanwhile is not in the sum that was confirmed: it stays.

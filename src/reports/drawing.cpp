@@ -44,9 +44,12 @@ bool onTheRight(Shows shows) { return shows == Shows::Number || shows == Shows::
 std::string shown(const store::Value& value, Shows shows) {
   switch (shows) {
     case Shows::Text:
-    case Shows::Number: break;
-    case Shows::Date: return kit::formatted(value, kit::Format::Date);
-    case Shows::Money: return kit::formatted(value, kit::Format::Money);
+    case Shows::Number:
+      break;
+    case Shows::Date:
+      return kit::formatted(value, kit::Format::Date);
+    case Shows::Money:
+      return kit::formatted(value, kit::Format::Money);
   }
   return value.trimmed();
 }
@@ -117,7 +120,8 @@ void Writer::startPage() {
 
 void Writer::headings() {
   for (std::size_t i = 0; i < first.size(); ++i)
-    put(page(), first[i], y, report.columns[i].heading, onTheRight(report.columns[i].shows) ? Align::Right : Align::Left);
+    put(page(), first[i], y, report.columns[i].heading,
+        onTheRight(report.columns[i].shows) ? Align::Right : Align::Left);
   columnRules(y, y + rowHeight);
   rule(y += rowHeight);
 }
@@ -143,7 +147,8 @@ void Writer::row(store::RecordSet& row) {
   for (std::size_t i = 0; i < first.size(); ++i) {
     const Column& column = report.columns[i];
     if (*column.column == '\0') continue;
-    put(page(), first[i], y, shown(row.get(column.column), column.shows), onTheRight(column.shows) ? Align::Right : Align::Left);
+    put(page(), first[i], y, shown(row.get(column.column), column.shows),
+        onTheRight(column.shows) ? Align::Right : Align::Left);
   }
   columnRules(y, y + rowHeight);
   rule(y += rowHeight);
@@ -169,7 +174,8 @@ void Writer::sums() {
     if (total == totals.end()) continue;
     if (!labelled) put(page(), {left, first[i].x - left}, y, report.total);
     labelled = true;
-    put(page(), first[i], y, report.columns[i].shows == Shows::Money ? total->second.fixed2() : total->second.plain(), Align::Right);
+    put(page(), first[i], y, report.columns[i].shows == Shows::Money ? total->second.fixed2() : total->second.plain(),
+        Align::Right);
   }
   y += rowHeight;
 }

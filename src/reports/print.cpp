@@ -71,7 +71,8 @@ void showReport(kit::Desk& desk, std::string_view name) {
   desk.printer.show(drawing);
 }
 
-void printList(kit::Desk& desk, const std::function<long long()>& fill, std::string_view report, const Question& question) {
+void printList(kit::Desk& desk, const std::function<long long()>& fill, std::string_view report,
+               const Question& question) {
   if (fill() == 0) return desk.person.tell(kit::Box::Information, question.none, question.noneTitle);
   if (mayPrint(desk, question.text)) showReport(desk, report);
 }

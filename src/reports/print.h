@@ -31,6 +31,7 @@ bool mayPrint(kit::Desk& desk, const std::string& question);
 void showReport(kit::Desk& desk, std::string_view name);
 
 // The whole road: fill, say that there is nothing or ask, show. A No leaves the print table filled.
-void printList(kit::Desk& desk, const std::function<long long()>& fill, std::string_view report, const Question& question);
+void printList(kit::Desk& desk, const std::function<long long()>& fill, std::string_view report,
+               const Question& question);
 
 }  // namespace reports

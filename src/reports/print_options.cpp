@@ -7,8 +7,11 @@ namespace reports {
 using store::RecordSet;
 using store::Sql;
 
-PrintOptions::PrintOptions(kit::Desk& all, std::string own, std::string words, std::vector<std::string> options, std::string prompt)
-    : Screen(all, std::move(own), std::move(words)), what(*this, "what", std::move(options)), prompt_(std::move(prompt)) {
+PrintOptions::PrintOptions(kit::Desk& all, std::string own, std::string words, std::vector<std::string> options,
+                           std::string prompt)
+    : Screen(all, std::move(own), std::move(words)),
+      what(*this, "what", std::move(options)),
+      prompt_(std::move(prompt)) {
   print.onPress([this] { printChosen(); });
   back.onPress([this] { close(); });
 }
@@ -31,8 +34,10 @@ void Formzctxsdy::printChosen() {
   const auto fill = [this] {
     return refill(desk, "dy_xs", Sql("select * from xs ") + desk.session.student_where, columnsOf("dy_xs"));
   };
-  if (what.chosen() == 0) printList(desk, fill, "bbdy_xs", {"要打印学籍资料吗？请确认打印机连接正常、打印纸准备就绪！ "});
-  else printList(desk, fill, "bbdy_xs1", {"要打印学生信息空表吗？请确认打印机连接正常、打印纸准备就绪！ "});
+  if (what.chosen() == 0)
+    printList(desk, fill, "bbdy_xs", {"要打印学籍资料吗？请确认打印机连接正常、打印纸准备就绪！ "});
+  else
+    printList(desk, fill, "bbdy_xs1", {"要打印学生信息空表吗？请确认打印机连接正常、打印纸准备就绪！ "});
 }
 
 Formzctjfjldy::Formzctjfjldy(kit::Desk& all)
@@ -77,15 +82,17 @@ void Formzctqfjldy::printChosen() {
 
 void Formzctqfjldy::printArrears() {
   const auto fill = [this] { return copyArrears(); };
-  if (what.chosen() == 0) printList(desk, fill, "bbdy_qf1", {"要打印欠费应交学生名单吗？请确认打印机连接正常、打印纸准备就绪！ "});
-  else printList(desk, fill, "bbdy_qf2", {"要打印欠费清交进度表吗？请确认打印机连接正常、打印纸准备就绪！ "});
+  if (what.chosen() == 0)
+    printList(desk, fill, "bbdy_qf1", {"要打印欠费应交学生名单吗？请确认打印机连接正常、打印纸准备就绪！ "});
+  else
+    printList(desk, fill, "bbdy_qf2", {"要打印欠费清交进度表吗？请确认打印机连接正常、打印纸准备就绪！ "});
 }
 
 long long Formzctqfjldy::copyArrears() {
   const base::DateTime now = desk.clock.now();
   store::Unit unit(desk.store);
-  const long long copied = refill(desk, "dy_qfjl", Sql("select * from qfjl") + desk.session.arrears_where, columnsOf("qfjl"),
-                                  [&](RecordSet&, RecordSet& to) {
+  const long long copied = refill(desk, "dy_qfjl", Sql("select * from qfjl") + desk.session.arrears_where,
+                                  columnsOf("qfjl"), [&](RecordSet&, RecordSet& to) {
                                     to.set("bsh", now.plain());
                                     to.set("lxdh", "");
                                     to.set("sjhm", "");

@@ -13,7 +13,8 @@ class PrintOptions : public kit::Screen {
   kit::Action print{*this, "print", "打印", "printer"}, back{*this, "back", "返回", "undo-2"};
 
  protected:
-  PrintOptions(kit::Desk& desk, std::string name, std::string title, std::vector<std::string> options, std::string prompt = "");
+  PrintOptions(kit::Desk& desk, std::string name, std::string title, std::vector<std::string> options,
+               std::string prompt = "");
   virtual void printChosen() = 0;
 
  private:

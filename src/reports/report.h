@@ -1,5 +1,5 @@
-// A report as data: what stands on its pages and which table it prints. A report has no filter of its own: it prints the
-// whole table, in stored order.
+// A report as data: what stands on its pages and which table it prints. A report has no filter of its own: it prints
+// the whole table, in stored order.
 #pragma once
 
 #include <string_view>
@@ -22,9 +22,9 @@ struct Sum {
 };
 
 enum class Furniture {
-  EveryPage,   // title, school, time of printing and page number
-  TitleOnce,   // the title stands on the first page alone
-  Library,     // a slip of the library: its name at the end, no school and no page number
+  EveryPage,  // title, school, time of printing and page number
+  TitleOnce,  // the title stands on the first page alone
+  Library,    // a slip of the library: its name at the end, no school and no page number
 };
 
 struct Report {
@@ -35,8 +35,8 @@ struct Report {
   std::vector<Sum> sums{};
   std::vector<Column> secondLine{};  // of a card, whose headings stand before the values of each row
   Furniture furniture = Furniture::EveryPage;
-  bool grid = false;                 // rules between the columns
-  const char* total = "合计";        // before the sums that stand below their columns
+  bool grid = false;           // rules between the columns
+  const char* total = "合计";  // before the sums that stand below their columns
 
   bool card() const { return !secondLine.empty(); }
 };

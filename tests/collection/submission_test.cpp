@@ -20,13 +20,15 @@ struct Settlement : TestDesk {
     pay("202609050001", "2026-9-5", "1000", "", "王芳");
   }
   void pay(const char* lsh, const char* day, const char* je, const char* sftj, const char* skr) {
-    add("jfjl", {{"lsh", lsh}, {"xh", "1001"}, {"xm", "王小明"}, {"jfrq", day}, {"je", je}, {"sftj", sftj}, {"skr", skr}});
+    add("jfjl",
+        {{"lsh", lsh}, {"xh", "1001"}, {"xm", "王小明"}, {"jfrq", day}, {"je", je}, {"sftj", sftj}, {"skr", skr}});
   }
   Settlement& asked(bool submits, bool confirms) {
     person.answer(submits, Box::Ask, "您确认是要提交前台的收费记录到后台数据库中吗？    ", "操作提示");
     if (submits)
       person.answer(confirms, Box::Ask,
-                    "您在前台共有： 2 条收费记录；累计收费总额为：312.50 元！ \n提交前，您应该先打印出收费汇总报表！您确认继续吗？  "
+                    "您在前台共有： 2 条收费记录；累计收费总额为：312.50 元！ "
+                    "\n提交前，您应该先打印出收费汇总报表！您确认继续吗？  "
                     "\n选择“是”提交记录；否则点“否”撤销此操作！ ",
                     "操作提示");
     return *this;

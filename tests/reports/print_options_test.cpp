@@ -12,7 +12,8 @@ struct PrintDesk : support::TestDesk {
   PrintDesk() {
     add("xs", {{"xh", "1001"}, {"xm", "王小明"}, {"lxdh", "0791-1"}, {"sjhm", "138"}});
     add("xs", {{"xh", "1002"}, {"xm", "张三"}});
-    for (const char* xh : {"1001", "1002", "1009", "1001"}) add("qfjl", {{"lsh", xh}, {"xh", xh}, {"bjje", 10}, {"sbjje", 0}});
+    for (const char* xh : {"1001", "1002", "1009", "1001"})
+      add("qfjl", {{"lsh", xh}, {"xh", xh}, {"bjje", 10}, {"sbjje", 0}});
     add("jfjl", {{"lsh", "1"}, {"xh", "1001"}, {"je", 5}});
     add("qfjl_wjf", {{"xh", "1001"}});
   }
@@ -29,7 +30,8 @@ TEST(PrintOptions, ArrearsTakeTheTelephoneFromTheStudent) {
   desk.asked("要打印欠费应交学生名单吗？请确认打印机连接正常、打印纸准备就绪！ ");
   s->print.press();
   EXPECT_EQ(desk.dump("dy_qfjl", "xh|lxdh|sjhm|bsh"),
-            "1001|0791-1|138|2026-9-7 8:30:05\n1002|||2026-9-7 8:30:05\n1009|||2026-9-7 8:30:05\n1001|0791-1|138|2026-9-7 8:30:05\n");
+            "1001|0791-1|138|2026-9-7 8:30:05\n1002|||2026-9-7 8:30:05\n1009|||2026-9-7 "
+            "8:30:05\n1001|0791-1|138|2026-9-7 8:30:05\n");
   EXPECT_EQ(desk.lastTitle(), "应交费学生名单");
   s->what.choose(1);
   desk.asked("要打印欠费清交进度表吗？请确认打印机连接正常、打印纸准备就绪！ ");

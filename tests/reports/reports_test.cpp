@@ -34,10 +34,17 @@ void addRow(TestDesk& desk, const Report& report, int number) {
   std::vector<std::pair<std::string_view, store::Value>> values;
   for (const store::Column& column : store::findTable(report.table)->columns) {
     switch (column.type) {
-      case store::Type::Text: values.emplace_back(column.name, "一段比它的位置更长的文字" + std::to_string(number)); break;
-      case store::Type::Date: values.emplace_back(column.name, base::Date{2026, 9, 7}); break;
-      case store::Type::Money: values.emplace_back(column.name, base::Money::fen(10 * number)); break;
-      default: values.emplace_back(column.name, number);
+      case store::Type::Text:
+        values.emplace_back(column.name, "一段比它的位置更长的文字" + std::to_string(number));
+        break;
+      case store::Type::Date:
+        values.emplace_back(column.name, base::Date{2026, 9, 7});
+        break;
+      case store::Type::Money:
+        values.emplace_back(column.name, base::Money::fen(10 * number));
+        break;
+      default:
+        values.emplace_back(column.name, number);
     }
   }
   desk.add(report.table, values);
@@ -60,7 +67,8 @@ void expectNoTextInAnother(const platform::Page& page, const char* name) {
     std::ranges::sort(rooms);
     EXPECT_GE(rooms.front().first, 12) << name;
     EXPECT_LE(rooms.back().second, 198) << name;
-    for (std::size_t i = 1; i < rooms.size(); ++i) EXPECT_LE(rooms[i - 1].second, rooms[i].first + 1e-6) << name << " at " << y;
+    for (std::size_t i = 1; i < rooms.size(); ++i)
+      EXPECT_LE(rooms[i - 1].second, rooms[i].first + 1e-6) << name << " at " << y;
   }
 }
 
@@ -75,7 +83,8 @@ TEST(Reports, EveryLayoutHoldsItsTextsApartOnEveryPage) {
     for (const platform::Page& page : drawing.pages) expectNoTextInAnother(page, report.name);
     for (const auto* line : {&report.columns, &report.secondLine})
       for (const Column& column : *line)
-        EXPECT_TRUE(*column.heading == '\0' || shows(drawing.pages.back(), column.heading)) << report.name << column.heading;
+        EXPECT_TRUE(*column.heading == '\0' || shows(drawing.pages.back(), column.heading))
+            << report.name << column.heading;
   }
   EXPECT_EQ(names.size(), 19u);
 }
@@ -100,7 +109,8 @@ TEST(Reports, PagesAndSumsFollowTheRows) {
     for (std::size_t page = 0; page < one.pages; ++page) {
       EXPECT_TRUE(shows(drawing.pages[page], "欠费收回进度报表") && shows(drawing.pages[page], "学校名称：澜岳学校") &&
                   shows(drawing.pages[page], "打印时间：2026-9-7 8:30:05"));
-      EXPECT_TRUE(shows(drawing.pages[page], std::to_string(page + 1)) && shows(drawing.pages[page], std::to_string(one.pages)));
+      EXPECT_TRUE(shows(drawing.pages[page], std::to_string(page + 1)) &&
+                  shows(drawing.pages[page], std::to_string(one.pages)));
       EXPECT_EQ(shows(drawing.pages[page], "合计"), page + 1 == one.pages);
       details += std::ranges::count(textsOf(drawing.pages[page]), "2026-9-7", &platform::Text::text) / 2;
     }
@@ -140,8 +150,11 @@ struct Listing : TestDesk {
     add("dy_xs", {{"xh", "old"}});
   }
   void print(const store::Sql& where) {
-    printList(desk, [&] { return refill(desk, "dy_xs", store::Sql("select * from xs ") + where, {"xh", "xm"}); }, "bbdy_xs1",
-              {"要打印吗？"});
+    printList(desk,
+              [&] {
+                return refill(desk, "dy_xs", store::Sql("select * from xs ") + where, {"xh", "xm"});
+              },
+              "bbdy_xs1", {"要打印吗？"});
   }
   Listing& asked(bool yes) {
     person.answer(yes, Box::AskWarning, "要打印吗？\n点“是”继续；否则，点“否”撤销此操作！ ", "信息提示");
