@@ -1,15 +1,15 @@
 #include "qt/list_model.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "qt/text.h"
 
 namespace qt {
+namespace {
 
 // Rows that typing looks through from where it stands: a key must answer at once in a list of a million rows, too.
 constexpr long long farthest = 20000;
-namespace {
-
 constexpr std::size_t searched = 3;  // columns: number, name and the one behind
 
 bool isAmount(const kit::ListColumn& column) {
@@ -35,14 +35,20 @@ long long ListModel::find(const QString& start, long long from) const {
   const std::string prefix = fromQt(start);
   const long long count = list_.count();
   const long long reach = std::min(count, farthest);
-  for (std::size_t column = 0; column < columns; ++column)
-    for (long long i = 0; i < reach; ++i) {
-      const long long row = (from + i) % count;
+  // Each row is read once, whatever the column that it is found by; a hit in an earlier column goes first.
+  std::vector<long long> hits(columns, -1);
+  for (long long i = 0; i < reach; ++i) {
+    const long long row = (from + i) % count;
+    for (std::size_t column = 0; column < columns; ++column) {
+      if (hits[column] >= 0) continue;
       std::string_view cell = list_.cell(row, column);
       cell.remove_prefix(std::min(cell.find_first_not_of(' '), cell.size()));
-      if (cell.starts_with(prefix)) return row;
+      if (cell.starts_with(prefix)) hits[column] = row;
     }
-  return -1;
+    if (columns > 0 && hits[0] >= 0) break;
+  }
+  const auto hit = std::find_if(hits.begin(), hits.end(), [](long long row) { return row >= 0; });
+  return hit == hits.end() ? -1 : *hit;
 }
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {
