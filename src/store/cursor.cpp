@@ -1,5 +1,8 @@
 #include "store/cursor.h"
 
+#include <algorithm>
+#include <unordered_map>
+
 #include "store/error.h"
 #include "store/typing.h"
 
@@ -110,6 +113,26 @@ void Cursor::standOn(std::int64_t rowNo) {
   drop();
   rowNo_ = rowNo;
   place_ = Place::Row;
+}
+
+void Cursor::visit(std::span<const std::int64_t> rowNos, const std::function<void(bool there)>& visit) {
+  constexpr std::size_t together = 200;
+  for (std::size_t from = 0; from < rowNos.size(); from += together) {
+    const auto part = rowNos.subspan(from, std::min(together, rowNos.size() - from));
+    std::vector<Cell> values(part.begin(), part.end());
+    values.resize(together, std::int64_t{0});  // always the same statement; no row has this number
+    std::unordered_map<std::int64_t, Row> found;
+    {
+      const Loan statement(database(), rowsStatement(query_, database_->engine().phrases(), together), values);
+      while (statement->step()) found.emplace(statement->integer(0), rowOf(*statement));
+    }
+    for (const std::int64_t rowNo : part) {
+      const auto row = found.find(rowNo);
+      standOn(rowNo);
+      if (row != found.end()) row_ = row->second;
+      visit(row != found.end());
+    }
+  }
 }
 
 bool Cursor::empty() {

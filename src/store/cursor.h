@@ -3,8 +3,10 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "store/database.h"
@@ -31,6 +33,8 @@ class Cursor {
   std::int64_t rowNo();  // of the current row; raises Fault::RowGone when there is none
   Value value(std::size_t column);
   void standOn(std::int64_t rowNo);  // a row that has just been written; nothing comes behind it
+  // Stands on each of the rows in turn, all read in few statements; there is false for a row that was deleted.
+  void visit(std::span<const std::int64_t> rowNos, const std::function<void(bool there)>& visit);
   bool empty();
   long long count();
 

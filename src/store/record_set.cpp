@@ -168,12 +168,39 @@ void RecordSet::remove() {
   state_->editing = State::Editing::Removed;
 }
 
+long long RecordSet::setAll(std::string_view name, const Value& value) {
+  state_->mustBeWritable();
+  state_->leaveRow();
+  Cursor& rows = state_->rows();
+  const Column& column = *rows.query().columns[state_->column(name)];
+  std::vector<Cell> values = rows.query().values;
+  values.push_back(cell(typed(value, column)));
+  rows.drop();
+  Database& database = rows.database();
+  return database.write(rows.table(), updateAllStatement(rows.query(), column, database.engine().phrases()), values);
+}
+
+long long RecordSet::removeAll() {
+  state_->mustBeWritable();
+  state_->leaveRow();
+  Cursor& rows = state_->rows();
+  rows.drop();
+  return rows.database().write(rows.table(), removeAllStatement(rows.query()), rows.query().values);
+}
+
 bool RecordSet::hasMarks() { return !state_->rows().query().grouped; }
 std::int64_t RecordSet::mark() { return state_->rows().rowNo(); }
 
 void RecordSet::goTo(std::int64_t mark) {
   state_->leaveRow();
   state_->rows().standOn(mark);
+}
+
+void RecordSet::visit(std::span<const std::int64_t> marks, const std::function<void(bool there)>& visit) {
+  state_->rows().visit(marks, [&](bool there) {
+    state_->leaveRow();
+    visit(there);
+  });
 }
 
 RecordSet RecordSet::another() const { return RecordSet(*state_->store, state_->sql, state_->connection); }
