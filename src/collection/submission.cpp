@@ -78,12 +78,17 @@ void Formzctsf9::submitMine() {
   {
     // What the user has collected at another computer meanwhile is not in the sum that was confirmed: it stays.
     store::Unit unit(desk.store);
-    RecordSet confirmed = rows(unsubmitted(desk));
-    store::forEach(confirmed, [&](RecordSet& row) {
-      if (!counted.contains(row.get("lsh").text())) return;
-      row.set("sftj", "*");
-      row.update();
-    });
+    RecordSet now = rows(unsubmitted(desk));
+    bool confirmed = true;
+    store::forEach(now, [&](RecordSet& row) { confirmed = confirmed && counted.contains(row.get("lsh").text()); });
+    if (confirmed)
+      now.setAll("sftj", "*");
+    else
+      store::forEach(now, [&](RecordSet& row) {
+        if (!counted.contains(row.get("lsh").text())) return;
+        row.set("sftj", "*");
+        row.update();
+      });
     unit.finish();
   }
   inform("记录提交完毕！     ", "信息提示");
