@@ -108,7 +108,7 @@ void Player::tick() {
     acting_ = true;  // the wait below lets ticks through
     QTest::qWait(60);  // let it paint
     acting_ = false;
-    const std::string number = std::to_string(100 + ++pictureNumber_).substr(1);
+    const std::string number = std::to_string(1000 + ++pictureNumber_).substr(1);
     const std::string file = folder_ + "/" + number + "-" + step.what + ".png";
     if (!window->grab().save(QString::fromStdString(file))) throw std::runtime_error("cannot save " + file);
     step.act(*window);

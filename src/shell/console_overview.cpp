@@ -111,12 +111,12 @@ const OverviewPlan arrearsPlan{
      "双击显示明细记录",
      {{"班级名称", "", Format::Text, 12}, {"欠费人数", "", Format::Text, 5}, {"欠费余额", "", Format::Padded, 7}},
      "双击显示明细记录",
-     {{"班级名称", "", Format::Text, 12},
-      {"本月应收", "", Format::Padded, 7},
-      {"已收回", "", Format::Padded, 7},
-      {"减免", "", Format::Padded, 7},
-      {"尚欠", "", Format::Padded, 7},
-      {"收回比例", "", Format::Text, 5}}},
+     {{"班级名称", "", Format::Text, 10},
+      {"本月应收", "", Format::Padded, 6},
+      {"已收回", "", Format::Padded, 6},
+      {"减免", "", Format::Padded, 6},
+      {"尚欠", "", Format::Padded, 6},
+      {"收回比例", "", Format::Text, 4}}},
     {{"sum_bjje", "拟补交总额"}, {"sum_sbjje", "实补交总额"}, {"sum_waived", "减免总额"}}};
 
 StatisticsBar::StatisticsBar(kit::Screen& screen, const std::string& overview, const StatisticsPlan& what)

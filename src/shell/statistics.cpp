@@ -4,8 +4,8 @@
 #include <cmath>
 #include <map>
 #include <optional>
-#include <set>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "base/money.h"
 #include "base/text.h"
@@ -80,7 +80,7 @@ struct Kept {
 
 struct Owed {
   Money balance;
-  std::set<std::string> students;
+  std::unordered_set<std::string> students;
   void operator+=(const Owed& other) {
     balance += other.balance;
     students.insert(other.students.begin(), other.students.end());

@@ -1,6 +1,5 @@
 #include "store/cursor.h"
 
-#include <algorithm>
 #include <unordered_map>
 
 #include "store/error.h"
@@ -116,23 +115,22 @@ void Cursor::standOn(std::int64_t rowNo) {
 }
 
 void Cursor::visit(std::span<const std::int64_t> rowNos, const std::function<void(bool there)>& visit) {
-  constexpr std::size_t together = 200;
-  for (std::size_t from = 0; from < rowNos.size(); from += together) {
-    const auto part = rowNos.subspan(from, std::min(together, rowNos.size() - from));
-    std::vector<Cell> values(part.begin(), part.end());
-    values.resize(together, std::int64_t{0});  // always the same statement; no row has this number
+  const std::string sql = rowsStatement(query_, database().engine().phrases(), readTogether);
+  inPortions(rowNos, [&](const std::vector<Cell>& portion) {
     std::unordered_map<std::int64_t, Row> found;
     {
-      const Loan statement(database(), rowsStatement(query_, database_->engine().phrases(), together), values);
+      const Loan statement(database(), sql, portion);
       while (statement->step()) found.emplace(statement->integer(0), rowOf(*statement));
     }
-    for (const std::int64_t rowNo : part) {
+    for (const Cell& one : portion) {
+      const auto rowNo = std::get<std::int64_t>(one);
+      if (rowNo == 0) return;
       const auto row = found.find(rowNo);
       standOn(rowNo);
-      if (row != found.end()) row_ = row->second;
+      if (row != found.end()) row_ = std::move(row->second);
       visit(row != found.end());
     }
-  }
+  });
 }
 
 bool Cursor::empty() {

@@ -33,6 +33,8 @@ std::string removeStatement(const Table& table, const Phrases& phrases);
 
 // The same for every row of the set; the query's values come first, then the new one.
 std::string updateAllStatement(const Query& query, const Column& column, const Phrases& phrases);
+// Of so many row_nos, which come behind the new value.
+std::string updateRowsStatement(const Query& query, const Column& column, const Phrases& phrases, std::size_t count);
 std::string removeAllStatement(const Query& query);
 
 std::string quoted(std::string_view name);

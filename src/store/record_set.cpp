@@ -56,6 +56,15 @@ struct RecordSet::State {
     if (rows().query().grouped) throw StoreError(Fault::Statement, "分组得到的记录不能修改！");
   }
 
+  // What many rows of the set are to hold; the set is read anew behind it.
+  std::pair<const Column*, Cell> wholly(std::string_view name, const Value& value) {
+    mustBeWritable();
+    leaveRow();
+    const Column* one = rows().query().columns[column(name)];
+    rows().drop();
+    return {one, cell(typed(value, *one))};
+  }
+
   void write() {
     Cursor& at = rows();
     const Table& table = at.table();
@@ -169,15 +178,25 @@ void RecordSet::remove() {
 }
 
 long long RecordSet::setAll(std::string_view name, const Value& value) {
-  state_->mustBeWritable();
-  state_->leaveRow();
+  const auto [column, stored] = state_->wholly(name, value);
   Cursor& rows = state_->rows();
-  const Column& column = *rows.query().columns[state_->column(name)];
   std::vector<Cell> values = rows.query().values;
-  values.push_back(cell(typed(value, column)));
-  rows.drop();
+  values.push_back(stored);
   Database& database = rows.database();
-  return database.write(rows.table(), updateAllStatement(rows.query(), column, database.engine().phrases()), values);
+  return database.write(rows.table(), updateAllStatement(rows.query(), *column, database.engine().phrases()), values);
+}
+
+long long RecordSet::setMarked(std::span<const std::int64_t> marks, std::string_view name, const Value& value) {
+  const auto [column, stored] = state_->wholly(name, value);
+  Cursor& rows = state_->rows();
+  Database& database = rows.database();
+  const std::string sql = updateRowsStatement(rows.query(), *column, database.engine().phrases(), readTogether);
+  long long changed = 0;
+  inPortions(marks, [&](std::vector<Cell> rowNos) {
+    rowNos.insert(rowNos.begin(), stored);
+    changed += database.write(rows.table(), sql, rowNos);
+  });
+  return changed;
 }
 
 long long RecordSet::removeAll() {

@@ -47,6 +47,7 @@ class RecordSet {
   // it. Not of grouped rows.
   long long setAll(std::string_view column, const Value& value);
   long long removeAll();
+  long long setMarked(std::span<const std::int64_t> marks, std::string_view column, const Value& value);
   std::vector<std::string> fields();
 
   // What long lists keep instead of rows. A mark stands for a row as long as it exists; goTo makes that row current, with
