@@ -3,6 +3,7 @@
 #include "arrears/arrears_delete.h"
 #include "arrears/arrears_edit.h"
 #include "arrears/arrears_entry.h"
+#include "collection/batch_window.h"
 #include "collection/fee_window.h"
 #include "collection/fee_window_wait.h"
 #include "collection/receipt_form.h"
@@ -28,6 +29,7 @@
 #include "shell/payment_summary.h"
 #include "shell/splash.h"
 #include "shell/view/shell_views.h"
+#include "students/class_transfer_window.h"
 #include "students/student_edit.h"
 #include "students/student_view.h"
 #include "upkeep/first_run.h"
@@ -61,6 +63,7 @@ const std::vector<Entry>& screens() {
       screen<upkeep::Formyhxx3>("Formyhxx3"),
       screen<students::Formzctxs>("Formzctxs"),
       screen<students::Formzctxsll>("Formzctxsll"),
+      screen<students::Formtb>("Formtb"),
       screen<feesetup::Formsz>("Formsz"),
       screen<feesetup::Formszqt>("Formszqt"),
       screen<feesetup::Formszzymc>("Formszzymc"),
@@ -80,6 +83,7 @@ const std::vector<Entry>& screens() {
       screen<collection::Formzctsf8>("Formzctsf8"),
       screen<collection::Formzctsf5>("Formzctsf5"),
       screen<collection::Formzctsf2>("Formzctsf2"),
+      screen<collection::Formzctsf7>("Formzctsf7"),
       screen<collection::Formzctsf9>("Formzctsf9"),
       screen<reports::Formzctxsdy>("Formzctxsdy"),
       screen<reports::Formzctjfjldy>("Formzctjfjldy"),

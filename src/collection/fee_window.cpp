@@ -103,15 +103,7 @@ void Formzctsf4::loadStudent() {
   }
   jfrq.set(desk.clock.today().plain());
   jffs.set("现金");
-
-  // The term of the last receipt is offered, whoever paid it; the operator overwrites it once a term.
-  store::RecordSet ledger = rows("select * from jfjl order by fpbh");
-  if (ledger.empty()) {
-    xq.set(base::defaultTerm(desk.clock.today()));
-  } else {
-    ledger.last();
-    xq.set(ledger.get("xq").trimmed());
-  }
+  xq.set(offeredTerm(desk.store, desk.clock.today()));
 }
 
 void Formzctsf4::loadLines() {

@@ -1,6 +1,8 @@
 // The ledger of payments, without a screen: numbers, receipts, and the arrears that a receipt settles.
 #pragma once
 
+#include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -16,7 +18,8 @@ struct PaidLine {
 
 // What one collection brings in: a jfjl row a line, all under one receipt number.
 struct Receipt {
-  std::string xh, xm, bjmc, xq, xtbh, rxxs, jffs, skr;
+  std::string xh, xm, bjmc, xq, xtbh, rxxs, skr;
+  std::optional<std::string> jffs, bz;  // a column without a value is left alone
   base::Date jfrq;
   bool settlesArrears = false;
   std::vector<PaidLine> lines;
@@ -26,8 +29,14 @@ struct Receipt {
 std::string nextRecordNumber(store::Store& store, base::Date today);
 std::string nextReceiptNumber(store::Store& store);
 
+// The term that a collection starts with: that of the last receipt, whoever paid it; the operator overwrites it once a
+// term.
+std::string offeredTerm(store::Store& store, base::Date today);
+
 // Writes the rows, settles the arrears and gives back the receipt number, in one unit of work: the numbers are taken
 // under the store's write lock, so that two computers never print one receipt number.
 std::string saveReceipt(store::Store& store, const Receipt& receipt, base::DateTime now);
+// The same for several, each under a number of its own, all numbers running on.
+void saveReceipts(store::Store& store, std::span<const Receipt> receipts, base::DateTime now);
 
 }  // namespace collection

@@ -284,7 +284,7 @@ QWidget* Renderer::lines(const Node& node) {
       walked.push_back(cell.member);
       QWidget* made = cell.kind == Node::Kind::Member ? sized(cell) : build(cell);
       if (qobject_cast<QLineEdit*>(made)) made->setProperty("cell", true);
-      const bool tick = isMember(cell, MemberKind::Check);
+      const bool tick = isMember(cell, MemberKind::Check) && cell.width == 0;  // one with a width has a caption
       grid->addWidget(made, line, column, tick ? Qt::AlignCenter : Qt::Alignment());
       grid->setColumnStretch(column, tick ? 0 : std::max(cell.width, 1));
       if (tick)

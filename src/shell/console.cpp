@@ -1,6 +1,7 @@
 #include "shell/console.h"
 
 #include "base/text.h"
+#include "collection/batch_window.h"
 #include "collection/fee_window.h"
 #include "collection/submission.h"
 #include "feesetup/desk_settings.h"
@@ -9,6 +10,7 @@
 #include "reports/print_options.h"
 #include "shell/about.h"
 #include "shell/rights.h"
+#include "students/class_transfer_window.h"
 #include "students/student_edit.h"
 #include "upkeep/password_change.h"
 #include "upkeep/user_list.h"
@@ -55,6 +57,7 @@ void Formzct::load() {
 void Formzct::wireMenu() {
   const auto opens = [this](kit::Action& entry, auto open) { entry.onPress(open); };
   opens(cd13, [this] { leaveProgram(); });
+  opens(cd14, [this] { open<students::Formtb>(); });
   opens(cd21, [this] { open<feesetup::Formsz>(); classes.fillTree(); });
   opens(cd22, [this] { openOverview(students_overview); });
   opens(cd23, [this] { openOverview(payments_overview); });
@@ -63,7 +66,7 @@ void Formzct::wireMenu() {
   opens(cd32, [this] { open<upkeep::Formyhxx3>(); });
   opens(cd33, [this] { open<upkeep::Formyhxx1>(); });
   opens(cd43, [this] { open<Formcsh2>(); });
-  for (kit::Action* entry : {&cd11, &cd121, &cd77, &cd70, &cd75, &cd71, &cd72, &cd14, &cd73, &cd76, &cd74, &cd34, &cd41,
+  for (kit::Action* entry : {&cd11, &cd121, &cd77, &cd70, &cd75, &cd71, &cd72, &cd73, &cd76, &cd74, &cd34, &cd41,
                              &cd42, &cd44})
     entry->onPress([this, entry] { notYet(entry->caption()); });
 }
@@ -88,7 +91,10 @@ void Formzct::wireToolbar() {
   k20.onPress([this] {
     if (!may(desk, Collect)) return refuse(desk);
     refreshCard();
-    notYet(k20.caption());
+    const std::string onCard = desk.session.current_xh;
+    open<collection::Formzctsf7>();
+    desk.session.current_xh = onCard;  // the batch keeps its class there; the card still shows the student
+    if (!onCard.empty()) redrawLists();
   });
   k6.onPress([this] {
     if (!may(desk, Collect)) return refuse(desk);

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "collection/batch_voucher.h"
 #include "collection/receipt_notes.h"
 #include "collection/receipt_print.h"
 #include "support/test_desk.h"
@@ -119,6 +120,49 @@ TEST(Receipt, EveryTextStandsAtItsPlace) {
   }
   EXPECT_EQ(rules(one.pages[0], 20, 185), " 41 47 52 57 62 67 | 20 42 78 95 118 185");
   EXPECT_EQ(rules(two.pages[0], 10, 196), " 41 47 52 57 62 67 72 78 | 10 42 78 95 118 196");
+}
+
+TEST(Receipt, TheVoucherOfABatchIsInTheMannerOfLayoutTwo) {
+  const auto drawing = batchVoucher({.school = "示范学校",
+                                     .person = "赵老师",
+                                     .xq = "2026学年上学期",
+                                     .bjmc = "计算机1班",
+                                     .sfxm = "书本费",
+                                     .jfrq = "2026-8-31",
+                                     .cashier = "李芳",
+                                     .standard = Money::yuan(300),
+                                     .students = 60,
+                                     .total = Money::yuan(18000)});
+  ASSERT_EQ(drawing.pages.size(), 1u);
+  const std::pair<const char*, const char*> places[] = {
+      {"  集中收费上交凭证", "66.0,10.0 20.0"},
+      {"院校名称：", "10.0,22.0 12.0"},
+      {"示范学校", "32.0,21.5 11.0"},
+      {"姓  名  ", "20.0,28.0 12.0"},
+      {"赵老师", "45.0,28.5 11.0"},
+      {"收费标准", "80.0,28.0 12.0"},
+      {"300.00", "99.0,28.5 11.0"},
+      {"学年学期  ", "120.0,28.0 12.0"},
+      {"2026学年上学期", "142.0,28.5 11.0"},
+      {"班  级  ", "20.0,34.0 12.0"},
+      {"计算机1班", "45.0,34.5 11.0"},
+      {"    摘  要  ", "12.0,42.0 12.0"},
+      {"     交费项目名称   ", "37.4,42.0 12.0"},
+      {" 单位 ", "79.7,42.0 12.0"},
+      {"    金 额   ", "92.4,42.0 12.0"},
+      {"               备   注    ", "117.8,42.0 12.0"},
+      {"集中收费上交款", "12.0,47.8 10.0"},
+      {"书本费", "45.0,47.8 10.0"},
+      {"  元", "81.0,47.8 10.0"},
+      {"   18000.00", "97.0,47.8 10.0"},
+      {"交费学生人数 60 人", "121.0,47.8 10.0"},
+      {"实 收 金 额  ", "43.0,73.5 10.0"},
+      {"大写：壹万捌仟元零角零分", "121.0,73.5 10.0"},
+      {"交费日期：2026-8-31", "12.0,79.0 10.0"},
+      {"收款人：李芳", "150.0,79.0 10.0"},
+  };
+  for (const auto& [text, place] : places) EXPECT_EQ(at(drawing.pages[0], text), place) << text;
+  EXPECT_EQ(rules(drawing.pages[0], 10, 196), " 41 47 52 57 62 67 72 78 | 10 42 78 95 118 196");
 }
 
 TEST(Receipt, LayoutOneGrowsWithItsRows) {

@@ -3,10 +3,12 @@
 #include "arrears/arrears_delete.h"
 #include "arrears/arrears_edit.h"
 #include "arrears/arrears_entry.h"
+#include "collection/batch_window.h"
 #include "collection/fee_window.h"
 #include "feesetup/desk_settings.h"
 #include "reports/print_options.h"
 #include "shell/rights.h"
+#include "students/class_transfer_window.h"
 #include "students/student_edit.h"
 #include "support/test_desk.h"
 
@@ -78,6 +80,23 @@ TEST(Console, FindsByNumberAndShowsCardAndPayments) {
   s->card.xm.click();
   EXPECT_EQ(s->payments.list.count(), 0);
   EXPECT_EQ(s->card.frame.title(), "学籍资料信息");
+}
+
+TEST(Console, ABatchBorrowsTheNumberOfTheStudentOnTheCard) {
+  Office office;
+  office.set("sfctsz", 0);
+  auto s = opened<Formzct>(office);
+  s->card.xh.type("1001");
+  s->card.xh.enter();
+  office.navigator.expect<collection::Formzctsf7>([&](collection::Formzctsf7& batch) {
+    batch.classes.doubleClick(0);
+    EXPECT_EQ(office.session.current_xh, "计算机11001班");
+  });
+  s->k20.press();
+  EXPECT_EQ(office.session.current_xh, "1001");
+  EXPECT_EQ(s->card.xm.text(), "王小明");
+  office.navigator.expect<students::Formtb>();
+  s->cd14.press();
 }
 
 TEST(Console, SearchMessages) {

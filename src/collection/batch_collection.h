@@ -1,0 +1,33 @@
+// Batch collection without a screen: one fee item from many students of a class, each under a receipt of their own.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/date.h"
+#include "base/money.h"
+#include "store/store.h"
+
+namespace collection {
+
+struct BatchPayment {
+  std::string xm;
+  base::Money je;
+};
+
+struct Batch {
+  std::string bjmc, sfxm, xq, skr;
+  base::Date jfrq;
+  std::vector<BatchPayment> payments;  // in the order of the receipts
+};
+
+struct BatchResult {
+  int students = 0;
+  base::Money total;
+  std::vector<std::string> missing;  // names that the class no longer has: nothing was written for them
+};
+
+// Looks the students up and writes their rows in one unit of work.
+BatchResult collectBatch(store::Store& store, const Batch& batch, base::DateTime now);
+
+}  // namespace collection

@@ -1,0 +1,152 @@
+#include "students/class_transfer.h"
+
+#include "base/text.h"
+#include "school.h"
+#include "students/class_transfer_window.h"
+
+namespace students {
+namespace {
+
+using kit::Box;
+using support::opened;
+
+constexpr const char* computing = "计算机11001班";
+constexpr const char* accounting = "会计01001班";
+
+struct TwoClasses : School {
+  // A student with a row in every table that copies one.
+  void place(const std::string& xh, const std::string& xm, const std::string& bjmc, const std::string& xtbh) {
+    add("xs", {{"xh", xh}, {"xm", xm}, {"bjmc", bjmc}, {"xtbh", xtbh}, {"zymc", "计算机"}});
+    for (const std::string_view table : dependentTables)
+      add(table, {{"xh", xh}, {"xm", xm}, {"bjmc", bjmc}, {"xtbh", xtbh}});
+  }
+  std::string classBook() { return dump("xs", "xh|xm|bjmc|zymc|xtbh", "xh"); }
+};
+
+TEST(ClassTransfer, MovesTheStudentAndAllThatCarriesTheClass) {
+  TwoClasses school;
+  school.place("1", "王小明", computing, "11001001");
+  school.place("2", "张三", computing, "11001002");
+  school.place("3", "李四", computing, "11001003");
+  school.place("9", "王小明", accounting, "01001041");
+  transferStudents(school.store, computing, accounting, {"李四", "无名", "王小明"});
+  EXPECT_EQ(school.classBook(),
+            "1|王小明|会计01001班|会计|1001043\n2|张三|计算机11001班|计算机|11001002\n"
+            "3|李四|会计01001班|会计|1001042\n9|王小明|会计01001班|计算机|01001041\n");
+  for (const std::string_view table : dependentTables)
+    EXPECT_EQ(school.dump(table, "xh|xm|bjmc|xtbh", "xh"),
+              "1|王小明|会计01001班|1001043\n2|张三|计算机11001班|11001002\n3|李四|会计01001班|1001042\n"
+              "9|王小明|会计01001班|01001041\n")
+        << table;
+}
+
+TEST(ClassTransfer, NumbersStartWithTheClassCodeInAnEmptyClass) {
+  TwoClasses school;
+  school.place("1", "王小明", computing, "11001001");
+  school.place("2", "张三", computing, "11001002");
+  transferStudents(school.store, computing, accounting, {"王小明", "张三"});
+  EXPECT_EQ(school.dump("xs", "xm|xtbh", "xh"), "王小明|01001001\n张三|1001002\n");
+}
+
+// The first one moves, and the dependent rows of both: they are found by class and name.
+TEST(ClassTransfer, OfTwoOfOneNameTheFirstMovesWithTheRowsOfBoth) {
+  TwoClasses school;
+  school.place("1", "张三", computing, "11001001");
+  school.place("2", "张三", computing, "11001002");
+  school.place("9", "王芳", accounting, "01001041");
+  transferStudents(school.store, computing, accounting, {"张三"});
+  EXPECT_EQ(school.dump("xs", "xh|bjmc|xtbh", "xh"),
+            "1|会计01001班|1001042\n2|计算机11001班|11001002\n9|会计01001班|01001041\n");
+  EXPECT_EQ(school.dump("jfjl", "xh|bjmc|xtbh", "xh"),
+            "1|会计01001班|1001042\n2|会计01001班|1001042\n9|会计01001班|01001041\n");
+}
+
+TEST(ClassTransfer, WithoutAToClassTheValuesAreBlank) {
+  TwoClasses school;
+  school.place("1", "王小明", computing, "11001001");
+  transferStudents(school.store, computing, "", {"王小明"});
+  EXPECT_EQ(school.classBook(), "1|王小明|||\n");
+  EXPECT_EQ(school.dump("qfjl", "xh|xm|bjmc|xtbh"), "1|王小明||\n");
+}
+
+TEST(ClassTransfer, APersonTicksAndMovesThem) {
+  TwoClasses school;
+  for (const char* name : {"王小明", "张三", "李四"})
+    school.place(std::to_string(school.count("select * from xs") + 1), name, computing, "11001001");
+  auto s = opened<Formtb>(school);
+  s->fromClass.pick(computing);
+  EXPECT_EQ(s->students.title(), "3 名学生");
+  s->toClass.pick(accounting);
+  EXPECT_EQ(s->zymc.text() + "|" + s->xtbh.text(), "会计|01001001");
+  s->tickAll.press();
+  EXPECT_EQ(s->tickAll.caption(), "全不选");
+  s->boxes[1].toggle();
+  s->confirm.press();
+  EXPECT_EQ(school.count(store::Sql("select * from xs where bjmc='") + std::string(accounting) + "'"), 0)
+      << "nothing moves before the notice has been painted";
+  EXPECT_FALSE(s->confirm.enabled());
+  school.person.expect(Box::Information, "调班操作成功           ", "信息提示");
+  s->timer.tick();
+  s->timer.tick();
+  EXPECT_EQ(school.dump("xs", "xm|bjmc|xtbh", "xh"),
+            "王小明|会计01001班|01001001\n张三|计算机11001班|11001001\n李四|会计01001班|1001002\n");
+  EXPECT_EQ(
+      base::join(school.progress.texts, "/"),
+      "正在加载相关设置，请稍等.../正在处理学生王小明的相关信息,请稍等 .../正在处理学生李四的相关信息,请稍等 ...");
+  EXPECT_FALSE(school.progress.shown);
+  EXPECT_TRUE(s->confirm.enabled());
+  EXPECT_EQ(s->boxes[0].caption(), "张三");
+  EXPECT_FALSE(s->boxes[0].on() || s->boxes[1].visible());
+  EXPECT_EQ(s->tickAll.caption(), "全选");
+  EXPECT_EQ(s->xtbh.text(), "1001003");
+}
+
+TEST(ClassTransfer, TheSameClassIsRefusedWhicheverIsChosenLast) {
+  TwoClasses school;
+  auto s = opened<Formtb>(school);
+  const auto refused = [&](kit::Field& last) {
+    school.person.expect(Box::Stop, "调班操作不能选择同一个班级！    ", "错误提示");
+    last.pick(computing);
+    EXPECT_EQ(s->toClass.text() + s->zymc.text() + s->xtbh.text(), "");
+  };
+  s->fromClass.pick(computing);
+  refused(s->toClass);
+  s->fromClass.pick(accounting);
+  s->toClass.pick(computing);
+  refused(s->fromClass);
+}
+
+TEST(ClassTransfer, TheRestOfALargeClassWaitsUntilOthersHaveLeft) {
+  TwoClasses school;
+  for (int student = 1; student <= 93; ++student)
+    school.add("xs", {{"xm", "学生" + std::to_string(student)}, {"bjmc", computing}});
+  auto s = opened<Formtb>(school);
+  s->fromClass.pick(computing);
+  s->toClass.pick(accounting);
+  EXPECT_EQ(s->students.title(), "93 名学生，只列出前 90 名");
+  s->tickAll.press();
+  s->confirm.press();
+  school.person.expect(Box::Information, "调班操作成功           ", "信息提示");
+  s->timer.tick();
+  EXPECT_EQ(s->boxes[2].caption(), "学生93");
+  EXPECT_FALSE(s->boxes[3].visible());
+  EXPECT_EQ(school.value("select * from xs where xm='学生90'", "xtbh"), "1001090");
+}
+
+// Nothing asks before a transfer, so Enter only walks on.
+TEST(ClassTransfer, EnterWalksToTheConfirmButtonAndNoFurther) {
+  TwoClasses school;
+  school.place("1", "王小明", computing, "11001001");
+  auto s = opened<Formtb>(school);
+  s->fromClass.pick(computing);
+  s->fromClass.enter();
+  EXPECT_EQ(s->focused, &s->toClass);
+  s->toClass.enter();
+  EXPECT_EQ(s->focused, &s->boxes[0]);
+  s->moveOnFrom(s->boxes[0]);
+  EXPECT_EQ(s->focused, &s->tickAll);
+  EXPECT_FALSE(s->timer.running());
+}
+
+}  // namespace
+}  // namespace students
