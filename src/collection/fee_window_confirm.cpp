@@ -87,8 +87,9 @@ Receipt Formzctsf4::receipt() const {
                   .xq = xq.trimmed(),
                   .xtbh = base::trim(xtbh),
                   .rxxs = rxxs.trimmed(),
-                  .jffs = jffs.trimmed(),
                   .skr = desk.session.SessionUser,
+                  .jffs = jffs.trimmed(),
+                  .bz = {},
                   .jfrq = base::Date::parse(jfrq.trimmed()).value(),
                   .settlesArrears = !desk.session.fee_normal_mode,
                   .lines = {}};

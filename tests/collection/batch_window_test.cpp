@@ -201,10 +201,10 @@ TEST(BatchCollection, ToldWhoHasLeftTheClass) {
   EXPECT_EQ(desk.dump("jfjl", "xm|lsh|fpbh", "lsh"), "王小明|202609070001|10000001\n李四|202609070002|10000002\n");
 }
 
-// The last row is of tomorrow: counting on from the ledger's end would repeat one number.
+// The last row is of tomorrow: a look at the ledger's end for each receipt would repeat one number.
 TEST(BatchCollection, NumbersRunOnAlsoAfterAClockThatWasSetBack) {
   ClassDesk desk;
-  desk.add("jfjl", {{"lsh", "202609080001"}, {"fpbh", "10000007"}});
+  desk.add("jfjl", {{"lsh", "202609080001"}, {"fpbh", "10000007"}, {"xq", "2026学年上学期"}});
   auto s = chosen(desk);
   s->tickAll.press();
   desk.expectSaved();

@@ -2,11 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QLabel>
 #include <QPrinter>
 #include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
 
+#include "collection/batch_voucher.h"
 #include "collection/receipt.h"
 #include "platform/desktop.h"
 #include "qt_test.h"
@@ -154,6 +156,20 @@ collection::PrintedReceipt receiptOf(std::size_t rows, bool longTexts) {
   return receipt;
 }
 
+collection::BatchVoucher voucherOf(bool longTexts) {
+  const auto receipt = receiptOf(1, longTexts);
+  return {.school = receipt.school,
+          .person = receipt.xm,
+          .xq = receipt.xq,
+          .bjmc = receipt.bjmc,
+          .sfxm = receipt.rows[0].sfxm,
+          .jfrq = "2026-9-7",
+          .cashier = receipt.cashier,
+          .standard = receipt.rows[0].je,
+          .students = 60,
+          .total = base::Money::yuan(longTexts ? 123456789 : 18000)};
+}
+
 // The strip beside a column rule is white from row to row: no text crosses into its neighbour.
 void proveColumns(const Drawing& drawing, const std::vector<double>& columns, std::size_t rows) {
   for (const double dots : {96.0, 192.0}) {
@@ -175,6 +191,15 @@ TEST_F(Printing, NoTextOfAReceiptRunsIntoItsNeighbour) {
       proveColumns(collection::layoutOne(receipt), {20, 42, 78, 95, 118, 185}, rows);
       proveColumns(collection::layoutTwo(receipt), {10, 42, 78, 95, 118, 196}, std::min<std::size_t>(rows, 5));
     }
+  for (const bool longTexts : {false, true}) {
+    const Drawing voucher = collection::batchVoucher(voucherOf(longTexts));
+    proveColumns(voucher, {10, 42, 78, 95, 118, 196}, 5);
+    const QString pdf = folder.filePath("voucher.pdf");
+    qt::savePdf(voucher, pdf.toStdString());
+    QLabel page;
+    page.setPixmap(QPixmap::fromImage(pictureOf(pdf, 150)));
+    support::keepPicture(page, longTexts ? "voucher-long" : "voucher");
+  }
 }
 
 TEST_F(Printing, FittedTextShrinksThenIsCutAndWrappedTextStaysWithinItsRoom) {
@@ -196,7 +221,8 @@ TEST_F(Printing, FittedTextShrinksThenIsCutAndWrappedTextStaysWithinItsRoom) {
 }
 
 TEST_F(Printing, NoCharacterOfTheLayoutsIsMissing) {
-  for (const auto& drawing : {collection::layoutOne(receiptOf(10, true)), collection::layoutTwo(receiptOf(5, false))})
+  for (const auto& drawing : {collection::layoutOne(receiptOf(10, true)), collection::layoutTwo(receiptOf(5, false)),
+                              collection::batchVoucher(voucherOf(true))})
     for (const platform::Mark& mark : drawing.pages[0].marks)
       if (const auto* text = std::get_if<Text>(&mark)) {
         EXPECT_EQ(qt::missingCharacters(text->face, QString::fromStdString(text->text)).toStdString(), "");
