@@ -3,6 +3,8 @@
 #include "arrears/arrears_delete.h"
 #include "arrears/arrears_edit.h"
 #include "arrears/arrears_entry.h"
+#include "arrears/due_progress.h"
+#include "arrears/due_settings.h"
 #include "collection/fee_window.h"
 #include "collection/fee_window_wait.h"
 #include "collection/receipt_form.h"
@@ -73,6 +75,8 @@ const std::vector<Entry>& screens() {
       screen<arrears::Formqfcl>("Formqfcl"),
       screen<arrears::Formqf>("Formqf"),
       screen<arrears::Formqfcl5>("Formqfcl5"),
+      screen<arrears::Formqfcl2>("Formqfcl2"),
+      screen<arrears::Formqfcl3>("Formqfcl3"),
       screen<collection::Formzctsf4>("Formzctsf4"),
       screen<collection::Formzctsf6>("Formzctsf6"),
       screen<collection::Formzctsf8>("Formzctsf8"),

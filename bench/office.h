@@ -1,0 +1,32 @@
+// A school that is measured: by the program's own store and desk, and by the bare engine on the same files.
+#pragma once
+
+#include "bare.h"
+#include "measure.h"
+#include "store/database.h"
+#include "support/test_desk.h"
+
+namespace bench {
+
+struct Office {
+  explicit Office(const std::filesystem::path& at)
+      : folder(at), store(at), bare(at, store::Connection::Main),
+        desk{test.session, store, test.person, test.navigator, test.clock, test.printer, test.desktop, test.progress} {
+    bare.run("pragma cache_size=-65536");
+    bare.run("pragma synchronous=full");
+  }
+
+  long long rows(const std::string& table) {
+    BareStatement count = bare.prepare("select count(*) from " + table);
+    count.step();
+    return std::stoll(count.text(0));
+  }
+
+  std::filesystem::path folder;
+  store::Store store;
+  Bare bare;
+  support::TestDesk test;
+  kit::Desk desk;
+};
+
+}  // namespace bench
