@@ -18,7 +18,7 @@ kit::Layout Formqfcl2::layout() {
 
 kit::Layout Formqfcl3::layout() {
   kit::Layout plan = LoadingScreen::layout();
-  plan.root = kit::column({notice, text});
+  plan.root = kit::column({kit::stretch(), notice, text, kit::stretch()});
   return plan;
 }
 
