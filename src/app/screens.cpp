@@ -4,6 +4,8 @@
 #include "arrears/arrears_edit.h"
 #include "arrears/arrears_entry.h"
 #include "arrears/arrears_query.h"
+#include "arrears/due_progress.h"
+#include "arrears/due_settings.h"
 #include "collection/fee_window.h"
 #include "collection/fee_window_wait.h"
 #include "collection/payment_edit.h"
@@ -86,6 +88,8 @@ const std::vector<Entry>& screens() {
       screen<collection::Formzctsf1>("Formzctsf1"),
       screen<collection::Formzctsf3>("Formzctsf3"),
       screen<collection::Formzctsf31>("Formzctsf31"),
+      screen<arrears::Formqfcl2>("Formqfcl2"),
+      screen<arrears::Formqfcl3>("Formqfcl3"),
       screen<collection::Formzctsf4>("Formzctsf4"),
       screen<collection::Formzctsf6>("Formzctsf6"),
       screen<collection::Formzctsf8>("Formzctsf8"),

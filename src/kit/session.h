@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "base/money.h"
@@ -64,6 +65,17 @@ struct Session {
     base::Money due, paid;
   };
   std::array<FeeLine, 10> fee_lines;
+
+  // The import of amounts due: what the settings screen chose, and whether the import then came to its end.
+  struct DueImport {
+    enum class Range { School, Major, Class, Form };
+    Range range = Range::School;
+    std::string value;       // the class or the enrolment form
+    std::string major_code;  // the first two characters of its students' system numbers
+    std::optional<std::string> item;  // nothing: all items
+    std::string term, lead, deadline;
+  } due_import;
+  bool due_import_ended = false;
 
   // Receipt printing.
   std::string print_fpbh, print_xh, print_xm, print_bjmc, print_xq, print_jffs, print_jfrq;

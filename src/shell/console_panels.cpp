@@ -3,6 +3,7 @@
 #include "arrears/arrears_edit.h"
 #include "arrears/arrears_entry.h"
 #include "arrears/arrears_query.h"
+#include "arrears/due_settings.h"
 #include "arrears/waiver.h"
 #include "base/text.h"
 #include "collection/fee_window.h"
@@ -70,7 +71,10 @@ void Formzct::wireOverviews() {
   cd91.onPress([this] { waiveInOverview(false); });
   cd92.onPress([this] { waiveInOverview(true); });
   arrears_overview.list.menu = arrearsOverviewPopUp();
-  arrears_overview.button("导入").onPress([this] { notYet("应交费用导入"); });
+  arrears_overview.button("导入").onPress([this] {
+    open<arrears::Formqfcl2>();
+    fill(arrears_overview);
+  });
   arrears_overview.button("添加").onPress([this] { addArrears(); });
 }
 
