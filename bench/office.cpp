@@ -197,7 +197,8 @@ int main(int count, char** words) {
     const long long rows = large.rows("jfjl");
     const bool within = bench::measureAll(
         {opening(large), filling(large), lastOfOrder(large), lastBySize(large, small), card(large),
-         bench::studentFigures(large), bench::paymentFigures(large), bench::arrearsFigures(large), bench::submitting(large),
+         bench::studentFigures(large), bench::paymentFigures(large), bench::arrearsFigures(large), bench::submitting(large), bench::unpaidList(large),
+         bench::comparison(large),
          paying(large), bench::importing(middle)});
     large.store.close();
     large.bare.run("delete from jfjl where row_no > (select row_no from jfjl order by row_no limit 1 offset " +
