@@ -1,10 +1,13 @@
-// bench_office LARGE MIDDLE SMALL: measures the daily work on three schools that sample_school has made, against the bare
-// engine on the same files. Prints a table; fails when a limit is missed.
+// bench_office LARGE MIDDLE SMALL: measures the daily work on three schools that sample_school has made, against the bare engine
+// on the same files. Prints a table; fails when a limit is missed.
 #include <cstdio>
 #include <exception>
 
 #include "collection/payment_ledger.h"
 #include "due_import.h"
+#include "figures.h"
+#include "measure.h"
+#include "office.h"
 #include "sample/random.h"
 #include "shell/console_front.h"
 #include "shell/console_overview.h"
@@ -193,7 +196,9 @@ int main(int count, char** words) {
     Office large(words[1]), middle(words[2]), small(words[3]);
     const long long rows = large.rows("jfjl");
     const bool within = bench::measureAll(
-        {opening(large), filling(large), lastOfOrder(large), lastBySize(large, small), card(large), paying(large), bench::importing(middle)});
+        {opening(large), filling(large), lastOfOrder(large), lastBySize(large, small), card(large),
+         bench::studentFigures(large), bench::paymentFigures(large), bench::arrearsFigures(large), bench::submitting(large),
+         paying(large), bench::importing(middle)});
     large.store.close();
     large.bare.run("delete from jfjl where row_no > (select row_no from jfjl order by row_no limit 1 offset " +
                    std::to_string(rows - 1) + ")");

@@ -1,9 +1,7 @@
-// A school that is measured: by the program's own store and desk, and by the bare engine on the same files.
+// A school's databases, opened twice: by the store with a desk round it, and bare.
 #pragma once
 
 #include "bare.h"
-#include "measure.h"
-#include "store/database.h"
 #include "support/test_desk.h"
 
 namespace bench {
@@ -21,6 +19,12 @@ struct Office {
     BareStatement count = bare.prepare("select count(*) from " + table);
     count.step();
     return std::stoll(count.text(0));
+  }
+
+  std::string sumOf(const std::string& sql) {  // of amounts, as the messages show it
+    BareStatement sum = bare.prepare(sql);
+    sum.step();
+    return base::Money::ofUnits(std::stoll(sum.text(0))).fixed2();
   }
 
   std::filesystem::path folder;
