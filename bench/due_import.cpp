@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "arrears/due_import.h"
+#include "store/database.h"
 
 namespace bench {
 namespace {
