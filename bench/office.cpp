@@ -1,5 +1,5 @@
-// bench_office LARGE MIDDLE SMALL: measures the daily work on three schools that sample_school has made, against the bare engine
-// on the same files. Prints a table; fails when a limit is missed.
+// bench_office LARGE MIDDLE SMALL: measures the daily work on three schools that sample_school has made, against the bare
+// engine on the same files. Prints a table; fails when a limit is missed.
 #include <cstdio>
 #include <exception>
 
