@@ -33,7 +33,7 @@ void Cursor::drop() {
 
 void Cursor::start(const std::string& sql, bool single) {
   drop();
-  stream_ = Loan(database(), sql, query_.values);
+  stream_ = Loan(database(), sql, query_.values, single ? Rows::Few : Rows::Many);
   single_ = single;
   step();
   atFirst_ = !single && place_ == Place::Row;
@@ -42,7 +42,7 @@ void Cursor::start(const std::string& sql, bool single) {
 // Goes on behind the first row, which may not be the first any more: then all others come behind it.
 void Cursor::resume() {
   unread_ = false;
-  stream_ = Loan(database(), query_.walk, query_.values);
+  stream_ = Loan(database(), query_.walk, query_.values, Rows::Many);
   bool row = stream_->step();
   if (row && stream_->integer(0) == rowNo_) return;
   for (; row; row = stream_->step()) {

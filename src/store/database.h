@@ -20,7 +20,7 @@ class Database;
 class Loan {
  public:
   Loan() = default;
-  Loan(Database& database, std::string sql, const std::vector<Cell>& values);
+  Loan(Database& database, std::string sql, const std::vector<Cell>& values, Rows rows = Rows::Few);
   ~Loan() { giveBack(); }
   Loan(Loan&& other) noexcept;
   Loan& operator=(Loan&& other) noexcept;
@@ -63,7 +63,7 @@ class Database {
 
  private:
   friend class Loan;
-  std::unique_ptr<Statement> take(const std::string& sql);
+  std::unique_ptr<Statement> take(const std::string& sql, Rows rows);
   void keep(std::string sql, std::unique_ptr<Statement> statement);
   void commit();
   void failIfLost() const;

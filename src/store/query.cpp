@@ -5,6 +5,7 @@
 #include "base/text.h"
 #include "store/condition.h"
 #include "store/error.h"
+#include "store/typing.h"
 
 namespace store {
 namespace {
@@ -23,7 +24,8 @@ std::string orderText(const std::vector<std::pair<const Column*, bool>>& order, 
                       const Phrases& phrases) {
   std::string result = " order by ";
   for (const auto& [column, descending] : order) {
-    result += phrases.key(quoted(column->name), column->type) + (descending != reversed ? " desc, " : ", ");
+    result += phrases.key(quoted(column->name), column->type) +
+              (descending != reversed ? " desc nulls last, " : " nulls first, ");
   }
   if (grouped) return result.substr(0, result.size() - 2);
   return result + "row_no" + (reversed ? " desc" : "");
@@ -76,7 +78,7 @@ Query plan(const dialect::Select& select, Connection connection, const Phrases& 
 std::string rowStatement(const Query& query, const Phrases& phrases) {
   std::string columns = "row_no";
   for (const Column* column : query.columns) columns += ", " + quoted(column->name);
-  return "select " + columns + " from " + quoted(query.table->name) + " where row_no = " + phrases.place(0);
+  return "select " + columns + " from " + quoted(query.table->name) + " where row_no = " + phrases.place(0, Stored::Whole);
 }
 
 std::string insertStatement(const Table& table, const std::vector<const Column*>& columns, const Phrases& phrases) {
@@ -84,7 +86,7 @@ std::string insertStatement(const Table& table, const std::vector<const Column*>
   std::string names, places;
   for (std::size_t i = 0; i < columns.size(); ++i) {
     names += (i ? ", " : "") + quoted(columns[i]->name);
-    places += (i ? ", " : "") + phrases.place(i);
+    places += (i ? ", " : "") + phrases.place(i, storedAs(columns[i]->type));
   }
   return "insert into " + quoted(table.name) + " (" + names + ") values (" + places + ")";
 }
@@ -92,13 +94,14 @@ std::string insertStatement(const Table& table, const std::vector<const Column*>
 std::string updateStatement(const Table& table, const std::vector<const Column*>& columns, const Phrases& phrases) {
   std::string sets;
   for (std::size_t i = 0; i < columns.size(); ++i) {
-    sets += (i ? ", " : "") + quoted(columns[i]->name) + " = " + phrases.place(i);
+    sets += (i ? ", " : "") + quoted(columns[i]->name) + " = " + phrases.place(i, storedAs(columns[i]->type));
   }
-  return "update " + quoted(table.name) + " set " + sets + " where row_no = " + phrases.place(columns.size());
+  return "update " + quoted(table.name) + " set " + sets + " where row_no = " +
+         phrases.place(columns.size(), Stored::Whole);
 }
 
 std::string removeStatement(const Table& table, const Phrases& phrases) {
-  return "delete from " + quoted(table.name) + " where row_no = " + phrases.place(0);
+  return "delete from " + quoted(table.name) + " where row_no = " + phrases.place(0, Stored::Whole);
 }
 
 }  // namespace store
