@@ -66,13 +66,14 @@ void Database::settle() {
   for (Cursor* cursor : cursors_) cursor->release();
 }
 
-long long Database::write(const Table& table, const std::string& sql, const std::vector<Cell>& values) {
+long long Database::write(const Table& table, const std::string& sql, const std::vector<Cell>& values,
+                          std::int64_t rowNo) {
   failIfLost();
   // Outside a unit no read may stay under way: two computers that read while they write would wait for each other.
   for (Cursor* cursor : cursors_) {
     if (&cursor->table() == &table) {
       cursor->pin();
-      cursor->forget();
+      cursor->forget(rowNo);
     } else if (!inUnit()) {
       cursor->release();
     }

@@ -50,8 +50,9 @@ class Database {
   int generation() const { return generation_; }
 
   void settle();  // no read is under way any longer
-  // One insert, update or delete; returns the number of rows. Every cursor on the table is safe from it.
-  long long write(const Table& table, const std::string& sql, const std::vector<Cell>& values);
+  // One insert, or an update or delete of the row with the number; returns the number of rows. Every cursor on the
+  // table is safe from it.
+  long long write(const Table& table, const std::string& sql, const std::vector<Cell>& values, std::int64_t rowNo = 0);
 
   void beginUnit();
   void finishUnit();            // the outermost one commits, or raises StoreError and nothing of it remains

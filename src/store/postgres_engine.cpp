@@ -30,7 +30,9 @@ class PostgresEngine final : public Engine {
     PostgresStatement statement(session_, written_, "select version from catalogue_version", Rows::Few);
     return statement.step() ? static_cast<int>(statement.integer(0)) : 0;
   }
-  void setVersion(int version) override { execute("update catalogue_version set version = " + std::to_string(version)); }
+  void setVersion(int version) override {
+    execute("update catalogue_version set version = " + std::to_string(version));
+  }
   std::vector<std::string> columnsOf(std::string_view table) override {
     PostgresStatement statement(session_, written_,
                                 "select column_name from information_schema.columns "

@@ -35,12 +35,12 @@ struct State {
   std::string_view prefix;  // of the server's code of an error
   Fault fault;
 };
-constexpr State states[] = {
-    {"55P03", Fault::Busy},      {"57014", Fault::Busy},     {"40", Fault::Busy},      {"53100", Fault::DiskFull},
-    {"25006", Fault::ReadOnly},  {"42501", Fault::ReadOnly}, {"XX001", Fault::Damaged}, {"XX002", Fault::Damaged},
-    {"57P", Fault::Disconnected}, {"08", Fault::Disconnected}, {"25P03", Fault::Disconnected},
-    {"21", Fault::Statement},    {"22", Fault::Statement},   {"23", Fault::Statement}, {"42", Fault::Statement},
-    {"54", Fault::Statement}};
+constexpr State states[] = {{"55P03", Fault::Busy},      {"57014", Fault::Busy},         {"40", Fault::Busy},
+                            {"53100", Fault::DiskFull},  {"25006", Fault::ReadOnly},     {"42501", Fault::ReadOnly},
+                            {"XX001", Fault::Damaged},   {"XX002", Fault::Damaged},      {"57P", Fault::Disconnected},
+                            {"08", Fault::Disconnected}, {"25P03", Fault::Disconnected}, {"21", Fault::Statement},
+                            {"22", Fault::Statement},    {"23", Fault::Statement},       {"42", Fault::Statement},
+                            {"54", Fault::Statement}};
 
 Fault faultOf(std::string_view code) {
   for (const State& state : states) {
@@ -88,18 +88,11 @@ std::string PostgresLink::name() const { return "â€œ" + place_.server.host + "â€
 void PostgresLink::connect() {
   const Server& server = place_.server;
   const std::string password = passwordOf(server);
-  const std::pair<const char*, const char*> options[] = {{"host", server.host.c_str()},
-                                                         {"port", server.port.c_str()},
-                                                         {"dbname", server.database.c_str()},
-                                                         {"user", server.user.c_str()},
-                                                         {"password", password.c_str()},
-                                                         {"client_encoding", "UTF8"},
-                                                         {"application_name", "fee-office"},
-                                                         {"connect_timeout", "10"},
-                                                         {"keepalives_idle", "5"},
-                                                         {"keepalives_interval", "3"},
-                                                         {"keepalives_count", "3"},
-                                                         {"tcp_user_timeout", "15000"}};
+  const std::pair<const char*, const char*> options[] = {
+      {"host", server.host.c_str()},      {"port", server.port.c_str()},  {"dbname", server.database.c_str()},
+      {"user", server.user.c_str()},      {"password", password.c_str()}, {"client_encoding", "UTF8"},
+      {"application_name", "fee-office"}, {"connect_timeout", "10"},      {"keepalives_idle", "5"},
+      {"keepalives_interval", "3"},       {"keepalives_count", "3"},      {"tcp_user_timeout", "15000"}};
   std::vector<const char*> names, values;
   for (const auto& [name, value] : options) {
     names.push_back(name);

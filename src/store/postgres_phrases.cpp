@@ -7,8 +7,8 @@ namespace {
 
 std::string call(const std::string& function, const std::string& argument) { return function + "(" + argument + ")"; }
 
-// Text compares byte by byte, capital letters of ASCII as small ones: as the embedded engine does, whatever the server's
-// own language is.
+// Text compares byte by byte, capital letters of ASCII as small ones: as the embedded engine does, whatever the
+// server's own language is.
 class PostgresPhrases final : public Phrases {
  public:
   std::string place(std::size_t index, Stored form) const override {

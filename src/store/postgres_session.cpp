@@ -24,15 +24,13 @@ PostgresSession::PostgresSession(PostgresSchema place, std::function<void(bool)>
   ready();
 }
 
-// Outside of a transaction only: what was begun on a broken connection is not gone on with on another.
 void PostgresSession::ready() {
   if (link_.connected() || transaction_ != Transaction::None) return;
-  ended();
   link_.connect();
   if (!schemaStands()) createSchema();
   if (unsure_.empty()) return;
   const Fate fate = fateOf(std::exchange(unsure_, ""));
-  const std::string news = fate == Fate::Saved      ? "断开之前那次操作的内容已经全部保存，请不要重做。"
+  const std::string news = fate == Fate::Saved ? "断开之前那次操作的内容已经全部保存，请不要重做。"
                            : fate == Fate::NotSaved ? "断开之前那次操作的内容全部没有保存，请重做。"
                                                     : "断开之前那次操作是否已经保存仍不能确定，请核对记录。";
   throw StoreError(Fault::Other, "已经重新连接数据库服务器" + link_.name() + "：" + news + "这一次的操作请再做一遍！");

@@ -14,8 +14,10 @@ class PostgresSession {
  public:
   PostgresSession(PostgresSchema place, std::function<void(bool waiting)> onWait);
 
-  // In the open transaction, which a refused round leaves as it was before, or outside of any. A first round behind a
-  // break connects again.
+  // Connects again behind a break; outside of a transaction only, for what was begun is lost.
+  void ready();
+
+  // In the open transaction, which a refused round leaves as it was before, or outside of any.
   Answers run(const std::vector<Ask>& asks);
   // The same for statements that write: outside of a unit they get one of their own.
   Answers write(const std::vector<Ask>& asks);
@@ -41,7 +43,6 @@ class PostgresSession {
   enum class Transaction { None, Reading, Unit };
   enum class Fate { Saved, NotSaved, Unknown };
 
-  void ready();
   bool schemaStands();
   void createSchema();
   Answers exchange(const std::vector<Ask>& asks);

@@ -116,6 +116,7 @@ bool PostgresStatement::step() {
 }
 
 Answer PostgresStatement::runPrepared() {
+  session_.ready();
   const bool fresh = prepared_.empty() || preparedOn_ != session_.connectionNumber();
   if (fresh) prepared_ = session_.newName();
   std::vector<Ask> asks;

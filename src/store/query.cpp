@@ -31,6 +31,20 @@ std::string orderText(const std::vector<std::pair<const Column*, bool>>& order, 
   return result + "row_no" + (reversed ? " desc" : "");
 }
 
+std::string listOf(const Query& query) {
+  std::string result = "row_no";
+  for (const Column* column : query.columns) {
+    result += ", " + (column->type == Type::Bytes ? "null" : quoted(column->name));
+  }
+  return result;
+}
+
+std::string leastOf(const Query& query) {
+  std::string result = "0";
+  for (const Column* column : query.columns) result += ", min(" + quoted(column->name) + ")";
+  return result;
+}
+
 }  // namespace
 
 std::string quoted(std::string_view name) { return "\"" + std::string(name) + "\""; }
@@ -62,11 +76,7 @@ Query plan(const dialect::Select& select, Connection connection, const Phrases& 
   for (const Column* column : group) {
     grouping += (grouping.empty() ? " group by " : ", ") + phrases.key(quoted(column->name), column->type);
   }
-  std::string columns = query.grouped ? "0" : "row_no";
-  for (const Column* column : query.columns) {
-    columns += ", " + (query.grouped ? "min(" + quoted(column->name) + ")" : quoted(column->name));
-  }
-  const std::string rows = "select " + columns + source + grouping;
+  const std::string rows = "select " + (query.grouped ? leastOf(query) : listOf(query)) + source + grouping;
   query.walk = rows + orderText(order, false, query.grouped, phrases);
   query.last = rows + orderText(order, true, query.grouped, phrases) + " limit 1";
   query.count =
@@ -75,10 +85,15 @@ Query plan(const dialect::Select& select, Connection connection, const Phrases& 
   return query;
 }
 
-std::string rowStatement(const Query& query, const Phrases& phrases) {
-  std::string columns = "row_no";
-  for (const Column* column : query.columns) columns += ", " + quoted(column->name);
-  return "select " + columns + " from " + quoted(query.table->name) + " where row_no = " + phrases.place(0, Stored::Whole);
+std::string rowsStatement(const Query& query, std::size_t rows, const Phrases& phrases) {
+  std::string places;
+  for (std::size_t i = 0; i < rows; ++i) places += (i ? ", " : "") + phrases.place(i, Stored::Whole);
+  return "select " + listOf(query) + " from " + quoted(query.table->name) + " where row_no in (" + places + ")";
+}
+
+std::string bytesStatement(const Query& query, const Column& column, const Phrases& phrases) {
+  return "select " + quoted(column.name) + " from " + quoted(query.table->name) +
+         " where row_no = " + phrases.place(0, Stored::Whole);
 }
 
 std::string insertStatement(const Table& table, const std::vector<const Column*>& columns, const Phrases& phrases) {
@@ -96,8 +111,8 @@ std::string updateStatement(const Table& table, const std::vector<const Column*>
   for (std::size_t i = 0; i < columns.size(); ++i) {
     sets += (i ? ", " : "") + quoted(columns[i]->name) + " = " + phrases.place(i, storedAs(columns[i]->type));
   }
-  return "update " + quoted(table.name) + " set " + sets + " where row_no = " +
-         phrases.place(columns.size(), Stored::Whole);
+  return "update " + quoted(table.name) + " set " + sets +
+         " where row_no = " + phrases.place(columns.size(), Stored::Whole);
 }
 
 std::string removeStatement(const Table& table, const Phrases& phrases) {

@@ -21,7 +21,7 @@ class ServerDatabase {
 
   store::Server server() const;
   void nameIn(const std::filesystem::path& programFolder) const;  // writes the file that leads a store here
-  std::string ask(const std::string& sql) const;                  // the first cell of an answer; behind the store's back
+  std::string ask(const std::string& sql) const;  // the first cell of an answer; behind the store's back
 
  private:
   std::string name_;
