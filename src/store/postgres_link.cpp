@@ -25,7 +25,6 @@ constexpr const char* settings[] = {
     "set standard_conforming_strings = on",
     "set extra_float_digits = 1",
     "set bytea_output = hex",
-    "set idle_in_transaction_session_timeout = '60s'",
     "set tcp_keepalives_idle = 10",
     "set tcp_keepalives_interval = 5",
     "set tcp_keepalives_count = 3",

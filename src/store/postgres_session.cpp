@@ -10,6 +10,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+// A desk that hangs inside a unit does not hold the others up for ever.
+constexpr const char* limitIdling = "set local idle_in_transaction_session_timeout = '60s'";
 constexpr const char* takeLock = "select txid_current() from catalogue_version for update";
 constexpr const char* savepoint = "savepoint before_statement";
 constexpr const char* release = "release savepoint before_statement";
@@ -105,8 +107,8 @@ void PostgresSession::begin() {
   endReading();
   ready();
   try {
-    const Answers answers = link_.patientRound({{"begin"}, {takeLock}});
-    unit_ = textOf(answers[1]);
+    const Answers answers = link_.patientRound({{"begin"}, {limitIdling}, {takeLock}});
+    unit_ = textOf(answers.back());
   } catch (const StoreError& error) {
     if (link_.connected()) exchange({{"rollback"}});
     throw withNothingSaved(error);

@@ -1,6 +1,7 @@
 // What can happen between a desk and the server, and what the operator is told.
 #include <gmock/gmock.h>
 
+#include <atomic>
 #include <chrono>
 #include <fstream>
 #include <random>
@@ -61,6 +62,23 @@ std::string wordsOf(const std::function<void()>& action) {
   }
   ADD_FAILURE() << "nothing was refused";
   return "";
+}
+
+TEST_F(ServerStore, ComputersThatStartAtOnceMakeOneSchema) {
+  for (int round = 0; round < 3; ++round) {
+    database->ask("set client_min_messages = warning; drop schema office, office_config cascade");
+    std::atomic<int> done = 0;
+    std::vector<std::thread> desks;
+    for (int desk = 0; desk < 4; ++desk) {
+      desks.emplace_back([&] {
+        Store store(folder.path());
+        done += static_cast<int>(rows(store, "select * from jfjl") == 0 &&
+                                 RecordSet(store, "select * from morvanedjpzb", Connection::Config).count() == 1);
+      });
+    }
+    for (std::thread& desk : desks) desk.join();
+    EXPECT_EQ(done, 4);
+  }
 }
 
 TEST_F(ServerStore, ABreakBetweenTwoActionsIsToldOnce) {
