@@ -5,7 +5,6 @@
 #include <cerrno>
 #include <thread>
 
-#include "base/text.h"
 #include "store/error.h"
 
 namespace store {
@@ -104,7 +103,7 @@ void PostgresLink::connect() {
   unanswered_ = 0;
   if (PQstatus(connection_.get()) != CONNECTION_OK) {
     const bool byPassword = PQconnectionNeedsPassword(connection_.get()) || PQconnectionUsedPassword(connection_.get());
-    const std::string reason = base::trim(PQerrorMessage(connection_.get()));
+    const std::string all = PQerrorMessage(connection_.get()), reason = all.substr(0, all.find('\n'));
     connection_.reset();
     throw StoreError(byPassword ? Fault::WrongPassword : Fault::Disconnected,
                      "连接不上数据库服务器" + name() + "的数据库“" + server.database +
@@ -115,6 +114,8 @@ void PostgresLink::connect() {
     connection_.reset();
     throw StoreError(Fault::Other, "数据库“" + server.database + "”的编码不是 UTF8，请管理员重新建立这个数据库！");
   }
+  PQsetNoticeProcessor(
+      connection_.get(), [](void*, const char*) {}, nullptr);
   PQenterPipelineMode(connection_.get());
   setUp();
 }

@@ -105,8 +105,8 @@ Answers PostgresSession::write(const std::vector<Ask>& asks) {
 
 void PostgresSession::begin() {
   endReading();
-  ready();
   try {
+    ready();
     const Answers answers = link_.patientRound({{"begin"}, {limitIdling}, {takeLock}});
     unit_ = textOf(answers.back());
   } catch (const StoreError& error) {
