@@ -19,6 +19,10 @@ constexpr const char* goBack = "rollback to savepoint before_statement";
 
 std::string textOf(const Answer& answer) { return PQntuples(answer.get()) ? PQgetvalue(answer.get(), 0, 0) : ""; }
 
+std::string fetchText(const std::string& cursor, int rows) {
+  return "fetch " + std::to_string(rows) + " from " + cursor;
+}
+
 }  // namespace
 
 PostgresSession::PostgresSession(PostgresSchema place, std::function<void(bool)> onWait)
@@ -165,29 +169,31 @@ void PostgresSession::endReading() {
   ended();
 }
 
-int PostgresSession::openCursor(const std::string& name, const std::string& select, const Parameters& parameters) {
+Answer PostgresSession::openCursor(const std::string& name, const std::string& select, const Parameters& parameters,
+                                   int rows) {
   ready();
   const Ask declare{"declare " + name + " no scroll cursor for " + select, "", &parameters};
+  Answers answers;
   if (transaction_ == Transaction::None) {
     try {
-      exchange({{"begin read only"}, declare});
+      answers = exchange({{"begin read only"}, declare, {fetchText(name, rows)}});
     } catch (const StoreError&) {
       if (link_.connected()) exchange({{"rollback"}});
       throw;
     }
     opened(Transaction::Reading);
   } else {
-    guarded({declare});
+    answers = guarded({declare, {fetchText(name, rows)}});
   }
   ++cursors_;
-  return transactionNumber_;
+  return std::move(answers.back());
 }
 
 Answer PostgresSession::fetch(const std::string& name, int transaction, int rows) {
   if (transaction != transactionNumber_) {
     throw StoreError(Fault::Other, "读取到一半时中断了，请刷新后再试！");
   }
-  return std::move(guarded({{"fetch " + std::to_string(rows) + " from " + name}})[0]);
+  return std::move(guarded({{fetchText(name, rows)}})[0]);
 }
 
 void PostgresSession::closeCursor(const std::string& name, int transaction) noexcept {

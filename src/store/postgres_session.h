@@ -29,9 +29,10 @@ class PostgresSession {
   void rollback() noexcept;
   bool inUnit() const { return transaction_ == Transaction::Unit; }
 
-  // A cursor on the server lives inside a transaction: of the unit, or of the reads that are under way. Its number is
-  // that of the transaction; behind the transaction's end nothing can be fetched.
-  int openCursor(const std::string& name, const std::string& select, const Parameters& parameters);
+  // A cursor on the server lives inside a transaction: of the unit, or of the reads that are under way; behind its end
+  // nothing can be fetched. Both return the next rows, opening it the first ones.
+  Answer openCursor(const std::string& name, const std::string& select, const Parameters& parameters, int rows);
+  int transactionNumber() const { return transactionNumber_; }
   Answer fetch(const std::string& name, int transaction, int rows);
   void closeCursor(const std::string& name, int transaction) noexcept;
 

@@ -141,16 +141,18 @@ void PostgresStatement::note(const PGresult* answer) {
 bool PostgresStatement::fetchWindow() {
   if (complete_) return false;
   if (!running_) {
-    cursor_ = session_.newName();
-    transaction_ = session_.openCursor(cursor_, sql_, parameters_);
     window_ = firstWindow;
+    const std::string name = session_.newName();
+    answer_ = session_.openCursor(name, sql_, parameters_, window_);
+    transaction_ = session_.transactionNumber();
+    cursor_ = name;
     running_ = true;
   } else {
     const std::size_t bytes = std::max<std::size_t>(PQresultMemorySize(answer_.get()), 1);
     const std::size_t fitting = windowBytes * static_cast<std::size_t>(window_) / bytes;
     window_ = std::clamp(static_cast<int>(std::min<std::size_t>(fitting, largestWindow)), 1, window_ * 4);
+    answer_ = session_.fetch(cursor_, transaction_, window_);
   }
-  answer_ = session_.fetch(cursor_, transaction_, window_);
   row_ = 0;
   const int rows = PQntuples(answer_.get());
   if (rows < window_) {
