@@ -25,6 +25,7 @@
 #include "shell/console.h"
 #include "shell/loading.h"
 #include "shell/login.h"
+#include "shell/payment_summary.h"
 #include "shell/splash.h"
 #include "shell/view/shell_views.h"
 #include "students/student_edit.h"
@@ -52,6 +53,7 @@ const std::vector<Entry>& screens() {
       screen<shell::Formcsh1>("Formcsh1"),
       screen<shell::Formcsh2>("Formcsh2"),
       screen<shell::Formzct>("Formzct"),
+      screen<shell::Formzct1>("Formzct1"),
       screen<upkeep::Formyhxx4>("Formyhxx4"),
       screen<upkeep::Formyhxx>("Formyhxx"),
       screen<upkeep::Formyhxx1>("Formyhxx1"),

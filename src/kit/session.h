@@ -49,6 +49,7 @@ struct Session {
   bool reload_student_list = false, reload_payment_list = false, reload_arrears_list = false;
   store::Sql student_where, payment_where, arrears_where;
   std::string student_selection, payment_selection, arrears_selection;
+  std::string summary_xh;  // the student whose payments the summary adds up
   int arrears_list_mode = 1, payment_list_mode = 5;
 
   // The student card and the fee window.

@@ -8,15 +8,12 @@
 namespace qt {
 namespace {
 
-// Rows that typing looks through from where it stands: a key must answer at once in a list of a million rows, too.
-constexpr long long farthest = 20000;
 constexpr std::size_t searched = 3;  // columns: number, name and the one behind
+}  // namespace
 
 bool isAmount(const kit::ListColumn& column) {
   return column.format == kit::Format::Money || column.format == kit::Format::Padded;
 }
-
-}  // namespace
 
 void ListModel::refresh() {
   const int rows = static_cast<int>(list_.count()), columns = static_cast<int>(list_.columns().size());

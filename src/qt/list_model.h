@@ -7,11 +7,15 @@
 
 namespace qt {
 
+bool isAmount(const kit::ListColumn& column);  // stands on the right of its column
+
 class ListModel : public QAbstractTableModel {
  public:
   explicit ListModel(const kit::List& list, QObject* parent = nullptr) : QAbstractTableModel(parent), list_(list) {}
 
   void refresh();  // after a change of the list
+  // Rows that typing looks through from where it stands: a key must answer at once in a list of a million rows, too.
+  static constexpr long long farthest = 20000;
   long long find(const QString& start,
                  long long from) const;  // row with a cell of the first columns that starts so; -1
 

@@ -1,6 +1,7 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QScopedValueRollback>
+#include <QToolTip>
 #include <memory>
 
 #include "qt/list_model.h"
@@ -65,6 +66,8 @@ class ListLink : public QObject {
       const int heading = view_.horizontalHeader()->fontMetrics().horizontalAdvance(toQt(column.heading).trimmed());
       view_.setColumnWidth(i, qMax(charactersWide(view_.fontMetrics(), column.width), heading) + cellMargins);
     }
+    // An amount that stands on the right stays beside what it belongs to.
+    view_.horizontalHeader()->setStretchLastSection(list_.columns().empty() || !isAmount(list_.columns().back()));
   }
 
   void personChose(int row) {
@@ -76,7 +79,11 @@ class ListLink : public QObject {
   void search(const QString& start, bool further) {
     const long long here = qMax(0, view_.currentIndex().row());
     const long long row = list_.count() > 0 ? model_.find(start, further ? here : here + 1) : -1;
-    if (row >= 0) view_.setCurrentIndex(model_.index(static_cast<int>(row), qMax(0, view_.currentIndex().column())));
+    if (row >= 0)
+      view_.setCurrentIndex(model_.index(static_cast<int>(row), qMax(0, view_.currentIndex().column())));
+    else if (list_.count() > ListModel::farthest)
+      QToolTip::showText(view_.mapToGlobal(QPoint(8, 8)),
+                         QString("往下 %1 行内没有找到，请用“打开”按条件查询。").arg(ListModel::farthest), &view_);
   }
 
   void popUpMenu(const QPoint& at) {

@@ -94,10 +94,10 @@ void Formzct::openPanel() {
   desk.progress.hide();
 }
 
-void Formzct::fill(Overview& overview) {
-  if (&overview == &students_overview) fillStudents(overview, desk);
-  else if (&overview == &payments_overview) fillPayments(overview, desk);
-  else fillArrears(overview, desk);
+Filled Formzct::fill(Overview& overview) {
+  if (&overview == &students_overview) return fillStudents(overview, desk);
+  if (&overview == &payments_overview) return fillPayments(overview, desk);
+  return fillArrears(overview, desk);
 }
 
 void Formzct::refillAfterQuery() {

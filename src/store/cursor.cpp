@@ -1,5 +1,7 @@
 #include "store/cursor.h"
 
+#include <unordered_map>
+
 #include "store/error.h"
 #include "store/typing.h"
 
@@ -121,6 +123,25 @@ void Cursor::standOn(std::int64_t rowNo) {
   place_ = Place::Row;
 }
 
+void Cursor::visit(std::span<const std::int64_t> rowNos, const std::function<void(bool there)>& visit) {
+  const std::string sql = rowsStatement(query_, database().engine().phrases(), readTogether);
+  inPortions(rowNos, [&](const std::vector<Cell>& portion) {
+    std::unordered_map<std::int64_t, Row> found;
+    {
+      const Loan statement(database(), sql, portion);
+      while (statement->step()) found.emplace(statement->integer(0), rowOf(*statement));
+    }
+    for (const Cell& one : portion) {
+      const auto rowNo = std::get<std::int64_t>(one);
+      if (rowNo == 0) return;
+      const auto row = found.find(rowNo);
+      standOn(rowNo);
+      if (row != found.end()) row_ = std::move(row->second);
+      visit(row != found.end());
+    }
+  });
+}
+
 bool Cursor::empty() {
   if (place_ == Place::Before) return !atRow();
   if (stream_) return false;
@@ -185,7 +206,7 @@ Cursor::Row Cursor::rowOf(const Statement& statement) const {
 }
 
 std::optional<Cursor::Row> Cursor::fetch(std::int64_t rowNo) {
-  const Loan statement(database(), rowsStatement(query_, 1, database_->engine().phrases()), {rowNo});
+  const Loan statement(database(), rowsStatement(query_, database_->engine().phrases(), 1), {rowNo});
   return statement->step() ? std::optional(rowOf(*statement)) : std::nullopt;
 }
 
@@ -199,7 +220,7 @@ std::optional<Cursor::Row> Cursor::fetchAhead() {
   if (std::optional<Row> row = known()) return row;
   if (!database().inUnit() || rest_.size() < readAhead) return fetch(rowNo_);
   std::vector<Cell> rows(rest_.begin(), rest_.begin() + readAhead);
-  const Loan statement(*database_, rowsStatement(query_, readAhead, database_->engine().phrases()), rows);
+  const Loan statement(*database_, rowsStatement(query_, database_->engine().phrases(), readAhead), rows);
   while (statement->step()) ahead_.insert_or_assign(statement->integer(0), rowOf(*statement));
   return known();
 }

@@ -73,7 +73,7 @@ long long Database::write(const Table& table, const std::string& sql, const std:
   for (Cursor* cursor : cursors_) {
     if (&cursor->table() == &table) {
       cursor->pin();
-      cursor->forget(rowNo);
+      rowNo == manyRows ? cursor->forget() : cursor->forget(rowNo);
     } else if (!inUnit()) {
       cursor->release();
     }

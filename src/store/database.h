@@ -50,9 +50,11 @@ class Database {
   int generation() const { return generation_; }
 
   void settle();  // no read is under way any longer
-  // One insert, or an update or delete of the row with the number; returns the number of rows. Every cursor on the
-  // table is safe from it.
-  long long write(const Table& table, const std::string& sql, const std::vector<Cell>& values, std::int64_t rowNo = 0);
+  // An insert, update or delete of one row, or of many; returns the number of rows. Every cursor on the table is safe
+  // from it.
+  static constexpr std::int64_t newRow = 0, manyRows = -1;
+  long long write(const Table& table, const std::string& sql, const std::vector<Cell>& values,
+                  std::int64_t rowNo = manyRows);
 
   void beginUnit();
   void finishUnit();            // the outermost one commits, or raises StoreError and nothing of it remains

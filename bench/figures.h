@@ -1,0 +1,14 @@
+// What adds up or marks many rows at once: the statistics bars, the submission of a shift.
+#pragma once
+
+#include "measure.h"
+#include "office.h"
+
+namespace bench {
+
+Measure studentFigures(Office& office);
+Measure paymentFigures(Office& office);
+Measure arrearsFigures(Office& office);
+Measure submitting(Office& office);
+
+}  // namespace bench
