@@ -81,6 +81,20 @@ TEST_F(ServerStore, ComputersThatStartAtOnceMakeOneSchema) {
   }
 }
 
+TEST_F(ServerStore, VersionsOfTheCatalogue) {
+  database->ask(
+      "drop table office.qfjl; alter table office.xs drop column eml; update office.catalogue_version set version = 0");
+  {
+    Store store(folder.path());
+    EXPECT_EQ(rows(store, "select * from qfjl"), 0);
+    EXPECT_EQ(rows(store, "select eml from xs"), 0);
+    EXPECT_EQ(store.database(Connection::Main).engine().version(), catalogueVersion);
+  }
+  database->ask("update office.catalogue_version set version = 1000");
+  Store store(folder.path());
+  EXPECT_THAT(wordsOf([&] { rows(store, "select * from xs"); }), HasSubstr("升级"));
+}
+
 TEST_F(ServerStore, ABreakBetweenTwoActionsIsToldOnce) {
   Store store(folder.path());
   fill(store, 3);

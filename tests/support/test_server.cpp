@@ -88,7 +88,7 @@ bool onServer() { return variable("STORE_ENGINE") == "postgres"; }
 ServerDatabase::ServerDatabase() {
   static std::atomic<int> number = 0;
   name_ = "office_" + std::to_string(getpid()) + "_" + std::to_string(++number);
-  administrator().ask("create database " + name_ + " template " + templateName);
+  administrator().ask("create database " + name_ + " template " + templateName + " strategy file_copy");
 }
 
 ServerDatabase::~ServerDatabase() {
