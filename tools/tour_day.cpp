@@ -164,6 +164,67 @@ Steps submit(const People& people) {
           said("这是一条已提交记录，前台不能删除它")};
 }
 
+// What the office asks of its students' money: by conditions, keyword, scope and term, who has not paid, who paid less.
+Steps askQuestions(const People& people) {
+  return {{"Formzct", "学籍查询前", [](QWidget& w) { menu(w, "k2"); }},
+          {"Formzct/students_zoom", "打开学籍查询", [](QWidget& w) { press(w, "students_open"); }},
+          {"Formzctxscx1", "学籍查询", [people](QWidget& w) {
+             pick(w, "bjmc", people.paysClass);
+             pick(w, "xb", "女");
+             press(w, "confirm");
+           }},
+          {"Formzct/students_zoom", "学籍查询结果", [](QWidget& w) { press(w, "students_open"); }},
+          {"Formzctxscx1", "按拼音缩小名单", [](QWidget& w) { type(w, "zymc", "jsj"); }},
+          {"Formzctxscx1", "改为单项查询", [](QWidget& w) { press(w, "single"); }},
+          {"Formzctxscx", "单项查询", [](QWidget& w) {
+             pick(w, "way", "模糊查询");
+             type(w, "value", "江西");
+             press(w, "confirm");
+           }},
+          {"Formzct/students_zoom", "单项查询结果", [](QWidget& w) { press(w, "students_back"); }},
+          {"Formzct", "交费查询前", [](QWidget& w) { menu(w, "k3"); }},
+          {"Formzct/payments_overview_zoom", "打开交费查询", [](QWidget& w) { press(w, "payments_open"); }},
+          {"Formzctsf31", "交费查询", [](QWidget& w) { press(w, "scope"); }},
+          {"Formzctsf3", "按范围查询", [people](QWidget& w) {
+             chooseOption(w, "班级信息");
+             chooseOption(w, "按学期");
+             pick(w, "of", people.paysClass);
+             pick(w, "xq", "2027学年上学期");
+             press(w, "confirm");
+           }},
+          {"Formzct/payments_overview_zoom", "按范围查询结果", [](QWidget& w) {
+             chooseRow(w, "payments_overview_rows", 0);
+             press(w, "payments_modify");
+           }},
+          {"Formzctsf1", "交费记录编辑", [](QWidget& w) { press(w, "cancel"); }},
+          {"Formzct/payments_overview_zoom", "交费返回", [](QWidget& w) { press(w, "payments_back"); }},
+          {"Formzct", "欠费查询前", [](QWidget& w) { menu(w, "k4"); }},
+          {"Formzct/arrears_overview_zoom", "打开欠费查询", [](QWidget& w) { press(w, "arrears_open"); }},
+          {"Formqfcl11", "欠费查询", [](QWidget& w) { chooseTab(w, "未交费学生名单"); }},
+          {"Formqfcl11", "未交费查询", [](QWidget& w) {
+             type(w, "unpaid_xq", "2027学年上学期");
+             press(w, "searchUnpaid");
+           }},
+          said("信息搜索完毕"),
+          {"Formzct/arrears_overview_zoom", "未交费学生名单", [](QWidget& w) { press(w, "arrears_open"); }},
+          {"Formqfcl11", "应交实交对比前", [](QWidget& w) { chooseTab(w, "应交实交金额对比"); }},
+          {"Formqfcl11", "应交实交对比", [](QWidget& w) {
+             type(w, "due", "3000");
+             type(w, "compared_xq", "2026学年下学期");
+             press(w, "compare");
+           }},
+          said("信息搜索完毕"),
+          {"Formzct/arrears_overview_zoom", "应交实交对比结果", [](QWidget& w) { press(w, "arrears_import"); }},
+          {"Formqfcl2", "应交费导入设置", [](QWidget& w) { press(w, "confirm"); }},
+          said("导入可能需要一定的时间"),
+          said("导入完毕"),
+          {"Formzct/arrears_overview_zoom", "再次导入", [](QWidget& w) { press(w, "arrears_import"); }},
+          {"Formqfcl2", "再次导入设置", [](QWidget& w) { press(w, "confirm"); }},
+          said("导入可能需要一定的时间"),
+          said("共导入应交费记录0条"),
+          {"Formzct/arrears_overview_zoom", "导入后返回", [](QWidget& w) { press(w, "arrears_close"); }}};
+}
+
 int wrong = 0;
 
 void check(const char* what, const std::string& found, const std::string& expected) {
@@ -197,7 +258,7 @@ int playDay(const std::filesystem::path& folder, const std::filesystem::path& pi
     paymentsBefore = before.count("select * from jfjl");
   }
   Steps steps = logIn("王芳");
-  for (const Steps& more : {lookAround(), payShort(people), followUp(people), correct(), submit(people), leave()}) append(steps, more);
+  for (const Steps& more : {lookAround(), payShort(people), followUp(people), correct(), submit(people), askQuestions(people), leave()}) append(steps, more);
   Player day(steps, pictures, numbered);
   app::Office(folder.string()).run();
   numbered = day.pictures();

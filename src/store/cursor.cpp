@@ -61,6 +61,7 @@ void Cursor::resume() {
 }
 
 void Cursor::step() {
+  row_.reset();  // of the row before, read while the stream was let go of
   if (single_ && place_ == Place::Row) {
     place_ = Place::End;
   } else {

@@ -255,6 +255,17 @@ TEST_P(Records, AWalkGoesOnFromItsFirstRowAfterTheEvent) {
   }
 }
 
+TEST_P(Records, AWalkReadsEachOfItsRowsWhileAnotherTableIsWritten) {
+  addNumbered(4);
+  RecordSet walk(*store_, "select * from jfjl order by lsh");
+  std::vector<std::string> seen;
+  forEach(walk, [&](RecordSet& row) {
+    add("czjl", {"yhxm"}, {{row.get("lsh")}});
+    seen.push_back(row.get("lsh").text());
+  });
+  EXPECT_THAT(seen, ElementsAre("1", "2", "3", "4"));
+}
+
 TEST_P(Records, GroupsGoOnWhileTheTableChanges) {
   addNumbered(4);
   RecordSet names(*store_, "select xm from jfjl group by xm order by xm");

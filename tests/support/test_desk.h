@@ -13,6 +13,7 @@
 
 #include "kit/desk.h"
 #include "kit/screen.h"
+#include "support/recording_sheets.h"
 #include "support/test_server.h"
 
 namespace support {
@@ -94,11 +95,14 @@ class FakeDesktop : public platform::Desktop {
   std::filesystem::path programFolder() override { return folder_; }
   void SetDisplayMode(int width, int height, int, int) override { modes.push_back({width, height}); }
   bool startProgram(const std::filesystem::path& program) override { started.push_back(program); return true; }
+  std::filesystem::path exportFolder() override { return folder_ / "导出"; }
+  bool openDocument(const std::filesystem::path& file) override { documents.push_back(file); return opensDocuments; }
 
   platform::WorkArea area{0, 0, 1366, 728};
   std::string computer = "收费一号机";
   std::vector<std::pair<int, int>> modes;
-  std::vector<std::filesystem::path> started;
+  std::vector<std::filesystem::path> started, documents;
+  bool opensDocuments = true;
 
  private:
   std::filesystem::path folder_;
@@ -120,8 +124,9 @@ struct TestDesk {
   ScriptedNavigator navigator;
   StillClock clock;
   RecordingPrinter printer;
+  RecordingSheets sheets;
   RecordingProgress progress;
-  kit::Desk desk{session, store, person, navigator, clock, printer, desktop, progress};
+  kit::Desk desk{session, store, person, navigator, clock, printer, sheets, desktop, progress};
 
   // Writes a row: {{"xh", "1001"}, {"xm", "王小明"}}.
   void add(std::string_view table, const std::vector<std::pair<std::string_view, store::Value>>& values,
