@@ -1,4 +1,4 @@
-// A desk for tests: a real store in memory, and around it a person, a navigator, a clock, a printer and a computer that
+// A desk for tests: a real store, in memory or (STORE_ENGINE=postgres) on the throw-away server, and around it a person, a navigator, a clock, a printer and a computer that
 // follow a script and remember what happened.
 #pragma once
 
@@ -14,6 +14,7 @@
 #include "kit/desk.h"
 #include "kit/screen.h"
 #include "support/recording_sheets.h"
+#include "support/test_server.h"
 
 namespace support {
 
@@ -83,7 +84,8 @@ struct RecordingPrinter : platform::Printer {
   void show(const platform::Drawing& drawing) override { shown.push_back(drawing); }
 };
 
-// A computer named 收费一号机 with a program folder of its own, removed at the end.
+// A computer named 收费一号机 with a program folder of its own, removed at the end; the folder leads to the server when
+// the suite runs on it.
 class FakeDesktop : public platform::Desktop {
  public:
   FakeDesktop();
@@ -104,6 +106,7 @@ class FakeDesktop : public platform::Desktop {
 
  private:
   std::filesystem::path folder_;
+  std::unique_ptr<support::ServerDatabase> database_;
 };
 
 struct RecordingProgress : kit::Progress {
@@ -114,14 +117,14 @@ struct RecordingProgress : kit::Progress {
 };
 
 struct TestDesk {
-  store::Store store;
+  FakeDesktop desktop;
+  store::Store store = onServer() ? store::Store(desktop.programFolder()) : store::Store();
   kit::Session session;
   ScriptedPerson person{store};
   ScriptedNavigator navigator;
   StillClock clock;
   RecordingPrinter printer;
   RecordingSheets sheets;
-  FakeDesktop desktop;
   RecordingProgress progress;
   kit::Desk desk{session, store, person, navigator, clock, printer, sheets, desktop, progress};
 
