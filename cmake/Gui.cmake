@@ -53,5 +53,6 @@ function(gui_program name)
 endfunction()
 
 gui_program(fee-office SOURCES src/app/main.cpp LINK screens)
-gui_program(tour SOURCES tools/tour.cpp tools/tour_player.cpp LINK screens Qt6::Test)
+gui_program(tour SOURCES tools/tour.cpp tools/tour_day.cpp tools/tour_player.cpp LINK screens Qt6::Test)
 gui_program(pictures SOURCES tools/pictures.cpp LINK Qt6::Gui)
+gui_program(report_pictures SOURCES tools/report_pictures.cpp LINK qt reports)

@@ -12,29 +12,10 @@
 #include "qt/theme.h"
 #include "shell/start.h"
 #include "store/record_set.h"
+#include "tour_day.h"
 #include "tour_player.h"
 
 namespace {
-
-using Steps = std::vector<Step>;
-
-void append(Steps& steps, Steps more) { steps.insert(steps.end(), more.begin(), more.end()); }
-
-Step said(const std::string& part, bool yes = true) {
-  return {"?", "提示", [part, yes](QWidget& box) { answer(box, part, yes); }};
-}
-
-Steps logIn() {
-  return {{"Formcsh5", "登录", [](QWidget& w) {
-             pick(w, "yhxm", "王芳");
-             type(w, "yhmm", "123456");
-             key(w, Qt::Key_Return);
-           }}};
-}
-
-Steps leave() {
-  return {{"Formzct", "退出", [](QWidget& w) { menu(w, "k10"); }}, said("您确认是要退出本系统吗"), said("退出之前是否备份", false)};
-}
 
 Steps firstUser() {
   return {{"Formyhxx4", "系统启用设置", [](QWidget& w) {
@@ -188,7 +169,7 @@ int main(int argc, char** argv) {
   const auto program = folder / "program";
 
   Steps steps = firstUser();
-  append(steps, logIn());
+  append(steps, logIn("王芳"));
   append(steps, setUp());
   append(steps, enrol());
   const char* names[] = {"样式一", "样式二", "套打"};
@@ -201,7 +182,7 @@ int main(int argc, char** argv) {
   app::Office(program).run();
 
   // The next morning: everything is still there.
-  Steps again = logIn();
+  Steps again = logIn("王芳");
   append(again, {{"Formzct", "次日控制台", [](QWidget& w) {
                     menu(w, "k2");
                   }},
@@ -217,12 +198,15 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "tour: the program ended before the road did\n");
     return 1;
   }
+  int numbered = next.pictures();
+  const int differences = playDay(folder / "school", folder, numbered);
+  if (differences != 0) ++wrong;
   checkRows(program);
   if (keys > 7) ++wrong;
   for (const char* name : names)
     if (std::filesystem::file_size(folder / ("收据-" + std::string(name) + ".pdf")) < 1000) ++wrong;
   std::printf("tour: %d pictures and 3 receipts under %s, %d keys from a student's number to the preview, %s\n",
-              next.pictures(), folder.c_str(), keys,
+              numbered, folder.c_str(), keys,
               wrong ? "with differences" : "all as expected");
   return wrong ? 1 : 0;
 }

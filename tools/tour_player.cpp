@@ -50,6 +50,26 @@ void send(QWidget& entry, const QString& text) {
 
 }  // namespace
 
+void append(Steps& steps, Steps more) { steps.insert(steps.end(), more.begin(), more.end()); }
+
+Step said(const std::string& part, bool yes) {
+  return {"?", "提示", [part, yes](QWidget& box) { answer(box, part, yes); }};
+}
+
+Steps logIn(const std::string& user) {
+  return {{"Formcsh5", "登录", [user](QWidget& w) {
+             pick(w, "yhxm", user);
+             type(w, "yhmm", "123456");
+             key(w, Qt::Key_Return);
+           }}};
+}
+
+Steps leave() {
+  return {{"Formzct", "退出", [](QWidget& w) { menu(w, "k10"); }},
+          said("您确认是要退出本系统吗"),
+          said("退出之前是否备份", false)};
+}
+
 Player::Player(std::vector<Step> steps, std::string pictures, int numberedFrom)
     : steps_(std::move(steps)), folder_(std::move(pictures)), pictureNumber_(numberedFrom) {
   QTimer::singleShot(tickLength, this, [this] { tick(); });
@@ -88,7 +108,7 @@ void Player::tick() {
     acting_ = true;  // the wait below lets ticks through
     QTest::qWait(60);  // let it paint
     acting_ = false;
-    const std::string number = std::to_string(100 + ++pictureNumber_).substr(1);
+    const std::string number = std::to_string(1000 + ++pictureNumber_).substr(1);
     const std::string file = folder_ + "/" + number + "-" + step.what + ".png";
     if (!window->grab().save(QString::fromStdString(file))) throw std::runtime_error("cannot save " + file);
     step.act(*window);

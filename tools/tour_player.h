@@ -14,6 +14,13 @@ struct Step {
   std::function<void(QWidget&)> act;   // what the person does there; may open further windows
 };
 
+using Steps = std::vector<Step>;
+
+void append(Steps& steps, Steps more);
+Step said(const std::string& part, bool yes = true);  // a message box whose text holds part; yes or no to a question
+Steps logIn(const std::string& user);
+Steps leave();
+
 class Player : public QObject {
  public:
   Player(std::vector<Step> steps, std::string pictures, int numberedFrom = 0);

@@ -3,8 +3,13 @@
 #include "arrears/arrears_delete.h"
 #include "arrears/arrears_edit.h"
 #include "arrears/arrears_entry.h"
+#include "arrears/arrears_query.h"
+#include "arrears/due_progress.h"
+#include "arrears/due_settings.h"
 #include "collection/fee_window.h"
 #include "collection/fee_window_wait.h"
+#include "collection/payment_edit.h"
+#include "collection/payment_query.h"
 #include "collection/receipt_form.h"
 #include "collection/receipt_notes.h"
 #include "collection/receipt_print.h"
@@ -25,9 +30,11 @@
 #include "shell/console.h"
 #include "shell/loading.h"
 #include "shell/login.h"
+#include "shell/payment_summary.h"
 #include "shell/splash.h"
 #include "shell/view/shell_views.h"
 #include "students/student_edit.h"
+#include "students/student_query.h"
 #include "students/student_view.h"
 #include "upkeep/first_run.h"
 #include "upkeep/password_change.h"
@@ -52,6 +59,7 @@ const std::vector<Entry>& screens() {
       screen<shell::Formcsh1>("Formcsh1"),
       screen<shell::Formcsh2>("Formcsh2"),
       screen<shell::Formzct>("Formzct"),
+      screen<shell::Formzct1>("Formzct1"),
       screen<upkeep::Formyhxx4>("Formyhxx4"),
       screen<upkeep::Formyhxx>("Formyhxx"),
       screen<upkeep::Formyhxx1>("Formyhxx1"),
@@ -59,6 +67,8 @@ const std::vector<Entry>& screens() {
       screen<upkeep::Formyhxx3>("Formyhxx3"),
       screen<students::Formzctxs>("Formzctxs"),
       screen<students::Formzctxsll>("Formzctxsll"),
+      screen<students::Formzctxscx>("Formzctxscx"),
+      screen<students::Formzctxscx1>("Formzctxscx1"),
       screen<feesetup::Formsz>("Formsz"),
       screen<feesetup::Formszqt>("Formszqt"),
       screen<feesetup::Formszzymc>("Formszzymc"),
@@ -71,8 +81,15 @@ const std::vector<Entry>& screens() {
       screen<feesetup::Formszsfbz3>("Formszsfbz3"),
       screen<feesetup::Formszsfbz4>("Formszsfbz4"),
       screen<arrears::Formqfcl>("Formqfcl"),
+      screen<arrears::Formqfcl1>("Formqfcl1"),
+      screen<arrears::Formqfcl11>("Formqfcl11"),
       screen<arrears::Formqf>("Formqf"),
       screen<arrears::Formqfcl5>("Formqfcl5"),
+      screen<collection::Formzctsf1>("Formzctsf1"),
+      screen<collection::Formzctsf3>("Formzctsf3"),
+      screen<collection::Formzctsf31>("Formzctsf31"),
+      screen<arrears::Formqfcl2>("Formqfcl2"),
+      screen<arrears::Formqfcl3>("Formqfcl3"),
       screen<collection::Formzctsf4>("Formzctsf4"),
       screen<collection::Formzctsf6>("Formzctsf6"),
       screen<collection::Formzctsf8>("Formzctsf8"),

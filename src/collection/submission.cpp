@@ -1,7 +1,5 @@
 #include "collection/submission.h"
 
-#include <set>
-
 #include "base/text.h"
 #include "collection/payment_columns.h"
 #include "kit/rights.h"
@@ -59,33 +57,24 @@ base::Money Formzctsf9::fill(const Sql& sql) {
 }
 
 void Formzctsf9::submitMine() {
-  if (rows(unsubmitted(desk)).empty()) return inform("前台不存在您的未提交记录！     ", "信息提示");
-  if (!ask("您确认是要提交前台的收费记录到后台数据库中吗？    ", "操作提示")) return;
   base::Money total;
-  std::set<std::string> counted;
-  long long count = 0;
+  std::vector<std::int64_t> counted;
   RecordSet mine = rows(unsubmitted(desk));
   store::forEach(mine, [&](RecordSet& row) {
     total += row.get("je").money();
-    counted.insert(row.get("lsh").text());
-    ++count;
+    counted.push_back(row.mark());
   });
-  if (!ask(
-          "您在前台共有：" + base::caption(count) + " 条收费记录；累计收费总额为：" + total.fixed2() +
-              " 元！ \n提交前，您应该先打印出收费汇总报表！您确认继续吗？  \n选择“是”提交记录；否则点“否”撤销此操作！ ",
-          "操作提示"))
+  if (counted.empty()) return inform("前台不存在您的未提交记录！     ", "信息提示");
+  if (!ask("您确认是要提交前台的收费记录到后台数据库中吗？    ", "操作提示")) return;
+  if (!ask("您在前台共有：" + base::caption(static_cast<long long>(counted.size())) + " 条收费记录；累计收费总额为：" +
+               total.fixed2() +
+               " 元！ \n提交前，您应该先打印出收费汇总报表！您确认继续吗？  \n选择“是”提交记录；否则点“否”撤销此操作！ ",
+           "操作提示"))
     return;
-  {
-    // What the user has collected at another computer meanwhile is not in the sum that was confirmed: it stays.
-    store::Unit unit(desk.store);
-    RecordSet confirmed = rows(unsubmitted(desk));
-    store::forEach(confirmed, [&](RecordSet& row) {
-      if (!counted.contains(row.get("lsh").text())) return;
-      row.set("sftj", "*");
-      row.update();
-    });
-    unit.finish();
-  }
+  // What the user has collected at another computer meanwhile is not in the sum that was confirmed: it stays.
+  store::Unit unit(desk.store);
+  mine.setMarked(counted, "sftj", "*");
+  unit.finish();
   inform("记录提交完毕！     ", "信息提示");
   list.clear();
   summary.clear();

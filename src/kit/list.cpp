@@ -56,6 +56,7 @@ void List::empty() {
   window_.clear();
   windowFrom_ = -1;
   selected_ = -1;
+  ++version_;
 }
 
 void List::clear() {
@@ -66,6 +67,7 @@ void List::clear() {
 void List::addRow(const std::vector<std::string>& cells) {
   if (cells.size() != columns_.size()) throw std::logic_error(name + " takes one cell a column");
   for (const std::string& cell : cells) cells_.add(cell);
+  ++version_;
   changed();
 }
 
@@ -95,16 +97,11 @@ void List::showWindow(long long row) const {
   const auto first = static_cast<long long>(cells_.count() / columns_.size());
   windowFrom_ = std::max(first, row - windowRows / 4);
   window_.clear();
-  for (long long at = windowFrom_; at < std::min(windowFrom_ + windowRows, count()); ++at) {
-    const std::size_t before = window_.count();
-    try {
-      behind_->goTo(marks_[static_cast<std::size_t>(at - first)]);
-      addCells(*behind_, window_);
-    } catch (const store::StoreError&) {
-      // A row deleted meanwhile: its place stays, blank. Its first cell fails already.
-      while (window_.count() < before + columns_.size()) window_.add("");
-    }
-  }
+  const auto marks = std::span(marks_).subspan(static_cast<std::size_t>(windowFrom_ - first));
+  behind_->visit(marks.first(std::min<std::size_t>(windowRows, marks.size())), [this](bool there) {
+    if (there) return addCells(*behind_, window_);
+    for (std::size_t i = 0; i < columns_.size(); ++i) window_.add("");  // a row deleted meanwhile: its place stays, blank
+  });
 }
 
 std::string_view List::cell(long long row, std::size_t column) const {

@@ -12,29 +12,19 @@ std::vector<std::string> columnTexts(store::Store& store, const store::Sql& sql,
 }
 
 void setEach(store::Store& store, const store::Sql& sql, std::string_view column, const store::Value& value) {
-  store::Unit unit(store);
-  store::RecordSet set(store, sql);
-  store::forEach(set, [&](store::RecordSet& row) {
-    row.set(column, value);
-    row.update();
-  });
-  unit.finish();
+  store::RecordSet(store, sql).setAll(column, value);
 }
 
-void removeEach(store::Store& store, const store::Sql& sql) {
-  store::Unit unit(store);
-  store::RecordSet set(store, sql);
-  store::forEach(set, [](store::RecordSet& row) { row.remove(); });
-  unit.finish();
-}
+void removeEach(store::Store& store, const store::Sql& sql) { store::RecordSet(store, sql).removeAll(); }
 
-std::string numberOfDay(store::RecordSet& ordered, std::string_view column, base::Date today, std::string_view first) {
+std::string numberOfDay(store::RecordSet& ordered, std::string_view column, std::string_view day,
+                        std::string_view first) {
   if (!ordered.empty()) {
     ordered.last();
     const std::string last = ordered.get(column).trimmed();
-    if (base::left(last, 8) == today.digits()) return base::nextNumber(last);
+    if (base::left(last, 8) == day) return base::nextNumber(last);
   }
-  return today.digits().append(first);
+  return std::string(day).append(first);
 }
 
 }  // namespace kit

@@ -22,6 +22,7 @@ class Screen {
 
   virtual void load() {}
   virtual Layout layout() = 0;
+  virtual void doubleClicked() {}  // on the window's own ground
   // Asked when the person closes the window by its frame or by Escape without a cancel button. True: it may close.
   virtual bool mayClose() { return true; }
 
@@ -58,6 +59,10 @@ class Screen {
   bool ask(const std::string& text, const std::string& title) { return desk.person.ask(Box::Ask, text, title); }
   bool askStop(const std::string& text, const std::string& title) { return desk.person.ask(Box::AskStop, text, title); }
   bool askInfo(const std::string& text, const std::string& title) { return desk.person.ask(Box::AskInfo, text, title); }
+  // Before data is destroyed: two questions, the second with a line of its own.
+  bool warnTwice(const std::string& text, const std::string& lastLine) {
+    return askStop(text, "警告") && askStop("选择“是”继续；否则，点“否”撤销此操作！   \n\n" + lastLine, "再次警告");
+  }
   void notYet(const std::string& what) { inform("“" + what + "”尚未开放，将在后续版本中提供。", "信息提示"); }
   template <class S> void open() { desk.navigator.open<S>(desk); }
 

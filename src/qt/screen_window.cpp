@@ -135,6 +135,10 @@ void ScreenWindow::leave() {
   });
 }
 
+void ScreenWindow::mouseDoubleClickEvent(QMouseEvent*) {
+  screen_.run([this] { screen_.doubleClicked(); });
+}
+
 void ScreenWindow::closeEvent(QCloseEvent* event) {
   event->setAccepted(screen_.closed());
   if (!screen_.closed() && !screen_.busy()) leave();

@@ -22,6 +22,7 @@ class ScreenWindow : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
 
  private:
   void addBars(const kit::Layout& layout);

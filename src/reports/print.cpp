@@ -16,7 +16,7 @@ long long refill(kit::Desk& desk, const char* table, const Sql& source, const st
   Notice notice(desk);
   store::Unit unit(desk.store);
   RecordSet target(desk.store, Sql::table(table));
-  store::forEach(target, [](RecordSet& old) { old.remove(); });
+  target.removeAll();
   long long copied = 0;
   RecordSet rows(desk.store, source);
   store::forEach(rows, [&](RecordSet& row) {

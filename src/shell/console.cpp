@@ -27,6 +27,7 @@ Formzct::Formzct(kit::Desk& all) : Screen(all, "Formzct", ""), ConsoleMenu(stati
   wireToolbar();
   wireFront();
   wireOverviews();
+  wireStatistics();
   timer2.onTick([this] { sharing.refresh(); });
 }
 
@@ -66,7 +67,7 @@ void Formzct::wireMenu() {
   opens(cd33, [this] { open<upkeep::Formyhxx1>(); });
   opens(cd43, [this] { open<Formcsh2>(); });
   for (kit::Action* entry : {&cd11, &cd121, &cd77, &cd70, &cd75, &cd71, &cd72, &cd14, &cd73, &cd76, &cd74, &cd34, &cd41,
-                             &cd42, &cd44, &cd510})
+                             &cd42, &cd44})
     entry->onPress([this, entry] { notYet(entry->caption()); });
 }
 
@@ -129,7 +130,7 @@ void Formzct::wireToolbar() {
     if (mode == 3) return exportList(desk, List::Comparison);
     exportList(desk, List::Arrears, desk.session.arrears_where);
   });
-  chain(k9, {StudentClear, PaymentClear, ArrearsClear}, [this](kit::Panel) { notYet(k9.caption()); });
+  chain(k9, {StudentClear, PaymentClear, ArrearsClear}, [this](kit::Panel panel) { clearPanel(panel); });
 }
 
 void Formzct::loadAllSettings() {

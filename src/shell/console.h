@@ -31,6 +31,7 @@ class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
 
   kit::Timer timer1{*this, "timer1", std::chrono::milliseconds(200)};    // opens an overview, once its notice is painted
   kit::Timer timer2{*this, "timer2", std::chrono::milliseconds(30000)};  // refreshes the sharing status
+  kit::Timer timer3{*this, "timer3", std::chrono::milliseconds(100)};    // adds up the panel in front, once its notice is painted
   kit::Timer timer4{*this, "timer4", std::chrono::milliseconds(100)};    // refills an overview after its query
 
  private:
@@ -53,6 +54,7 @@ class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
   void refreshCard();
   void openFeeWindow();
   void openFeeWindowFor(kit::List& list, const char* table);
+  void summarise(kit::List& list, const char* table);
   void pickFromClass();
   void enablePaymentEntries(bool listed);
   void enableArrearsEntries(bool listed);
@@ -69,14 +71,29 @@ class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
   Overview* inFront();
   void openOverview(Overview& overview);
   void closeOverviews();
-  void fill(Overview& overview);
+  Filled fill(Overview& overview);
   void openPanel();
+  void refillWhenAsked();
   void refillAfterQuery();
+  void queryArrears();
+  void editPayment(kit::Mode mode);
   void editStudent(kit::Mode mode);
   void addArrears();
   void editArrears(kit::Mode mode);
   void waiveInOverview(bool all);
   void stampKeyedRows(const char* table);
+
+  // console_statistics.cpp: the statistics bars of the overviews, and the rows behind a line of them.
+  void wireStatistics();
+  void zoom(Overview& overview);
+  void closeStatistics(Overview& overview);
+  void showStudentsOfClass();
+  void showUnsubmittedOf(const store::Sql& where, const std::string& what);
+  void showArrearsOfClass();
+  void showMonthOfClass();
+
+  // console_clearing.cpp: what 数据清空 empties.
+  void clearPanel(kit::Panel panel);
 };
 
 }  // namespace shell

@@ -44,6 +44,8 @@ struct ConsoleMenu {
   // 欠费快捷菜单 of the card's arrears.
   kit::Action cd66{s, "cd66", "打开收费窗口"}, cd63{s, "cd63", "查看今日到期应交欠费记录"},
       cd64{s, "cd64", "刷新并返回"}, cd61{s, "cd61", "减免此笔欠费"}, cd62{s, "cd62", "减免该生全部欠费"};
+  // 欠费主窗体下部快捷菜单, of the arrears' statistics; 关闭收费按项目统计的菜单, of the payments'.
+  kit::Action cd82{s, "cd82", "刷新并返回"}, a11{s, "a11", "关闭统计栏"};
   // 欠费主窗体大表快捷菜单.
   kit::Action cd91{s, "cd91", "减免此笔欠费"}, cd92{s, "cd92", "减免该生全部欠费"};
 

@@ -4,6 +4,7 @@
 #include <deque>
 
 #include "kit/screen.h"
+#include "shell/statistics.h"
 
 namespace shell {
 
@@ -14,6 +15,21 @@ struct OverviewButton {
   std::vector<int> anyOf;  // rights; empty: always enabled
 };
 
+// The bar that the zoom picture opens below the list.
+struct StatisticsPlan {
+  const char* notice;  // while it adds up
+  Statistics (*compute)(store::Store& store, base::Date today);
+  const char* firstTip;
+  std::vector<kit::ListColumn> first;
+  const char* secondTip;
+  std::vector<kit::ListColumn> second;
+};
+
+struct Figure {
+  const char* name;
+  const char* label;
+};
+
 // What makes one overview differ from another.
 struct OverviewPlan {
   kit::Panel panel;
@@ -22,6 +38,20 @@ struct OverviewPlan {
   const char* notice;  // while it loads
   std::vector<kit::ListColumn> columns;
   std::vector<OverviewButton> buttons;
+  StatisticsPlan statistics;
+  std::vector<Figure> figures;  // sums that stand beside the list's bar
+};
+
+class StatisticsBar {
+ public:
+  StatisticsBar(kit::Screen& screen, const std::string& overview, const StatisticsPlan& plan);
+  void fill(kit::Desk& desk);
+  void close();  // its lists are filled anew each time it opens
+
+  const StatisticsPlan& plan;
+  kit::Frame frame;
+  kit::List first, second;
+  kit::Field totals;
 };
 
 class Overview {
@@ -36,14 +66,23 @@ class Overview {
   kit::Frame frame;
   kit::List list;
   kit::Field bar;
+  std::deque<kit::Field> figures;
+  StatisticsBar statistics;
+  kit::Action zoom;
   std::deque<kit::Action> buttons;
 };
 
 extern const OverviewPlan studentsPlan, paymentsPlan, arrearsPlan;
 
+// What a fill saw on its way.
+struct Filled {
+  long long count = 0, men = 0;
+  base::Money due, paid, waived;
+};
+
 // Fills the overview's list from "select * from <table> " + where, and its bar.
-void fillStudents(Overview& overview, kit::Desk& desk);
-void fillPayments(Overview& overview, kit::Desk& desk);
-void fillArrears(Overview& overview, kit::Desk& desk);
+Filled fillStudents(Overview& overview, kit::Desk& desk);
+Filled fillPayments(Overview& overview, kit::Desk& desk);  // paid: the sum
+Filled fillArrears(Overview& overview, kit::Desk& desk);   // by what the overview holds: arrears, not paid, less paid
 
 }  // namespace shell

@@ -6,6 +6,7 @@
 #include "kit/rows.h"
 #include "kit/settings.h"
 #include "shell/console.h"
+#include "shell/payment_summary.h"
 #include "shell/rights.h"
 #include "students/student_card.h"
 
@@ -35,7 +36,8 @@ void Formzct::wireFront() {
   for (kit::Action* entry : {&cd63, &arrears.due}) entry->onPress([this] { showDueArrears(); });
   cd61.onPress([this] { waiveOnCard(false); });
   cd62.onPress([this] { waiveOnCard(true); });
-  arrears.list.onDoubleClick([this] { notYet("交费信息统计"); });
+  cd510.onPress([this] { summarise(payments.list, "jfjl"); });
+  arrears.list.onDoubleClick([this] { summarise(arrears.list, "qfjl"); });
 
   class_strip.onPress([this] {
     if (inFront()) return;
@@ -182,6 +184,14 @@ void Formzct::openFeeWindowFor(kit::List& list, const char* table) {
   desk.session.fee_normal_mode = true;
   open<collection::Formzctsf4>();
   showStudent();
+}
+
+void Formzct::summarise(kit::List& list, const char* table) {
+  if (list.selected() < 0) return;
+  RecordSet row = rows(Sql::table(table) + " where lsh='" + list.key() + "'");
+  if (row.empty()) return;
+  desk.session.summary_xh = row.get("xh").trimmed();
+  open<Formzct1>();
 }
 
 void Formzct::pickFromClass() {

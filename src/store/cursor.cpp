@@ -1,5 +1,7 @@
 #include "store/cursor.h"
 
+#include <unordered_map>
+
 #include "store/error.h"
 #include "store/typing.h"
 
@@ -52,6 +54,7 @@ void Cursor::resume() {
 }
 
 void Cursor::step() {
+  row_.reset();  // of the row before, read while the stream was let go of
   if (single_ && place_ == Place::Row) {
     place_ = Place::End;
   } else {
@@ -110,6 +113,25 @@ void Cursor::standOn(std::int64_t rowNo) {
   drop();
   rowNo_ = rowNo;
   place_ = Place::Row;
+}
+
+void Cursor::visit(std::span<const std::int64_t> rowNos, const std::function<void(bool there)>& visit) {
+  const std::string sql = rowsStatement(query_, database().engine().phrases(), readTogether);
+  inPortions(rowNos, [&](const std::vector<Cell>& portion) {
+    std::unordered_map<std::int64_t, Row> found;
+    {
+      const Loan statement(database(), sql, portion);
+      while (statement->step()) found.emplace(statement->integer(0), rowOf(*statement));
+    }
+    for (const Cell& one : portion) {
+      const auto rowNo = std::get<std::int64_t>(one);
+      if (rowNo == 0) return;
+      const auto row = found.find(rowNo);
+      standOn(rowNo);
+      if (row != found.end()) row_ = std::move(row->second);
+      visit(row != found.end());
+    }
+  });
 }
 
 bool Cursor::empty() {

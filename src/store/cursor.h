@@ -2,15 +2,31 @@
 // numbers of the rows that remain and reads each afresh, so that a walk that writes or deletes keeps its own rows.
 #pragma once
 
+#include <algorithm>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "store/database.h"
 #include "store/query.h"
 
 namespace store {
+
+// Rows that are named by their numbers go into a statement in portions of one size, so that it is always the same one;
+// no row has the number 0 that fills the last portion up.
+constexpr std::size_t readTogether = 200;
+template <class Visit>
+void inPortions(std::span<const std::int64_t> rowNos, Visit visit) {
+  for (; !rowNos.empty(); rowNos = rowNos.subspan(std::min(readTogether, rowNos.size()))) {
+    const auto part = rowNos.first(std::min(readTogether, rowNos.size()));
+    std::vector<Cell> values(part.begin(), part.end());
+    values.resize(readTogether, std::int64_t{0});
+    visit(std::move(values));
+  }
+}
 
 class Cursor {
  public:
@@ -31,6 +47,8 @@ class Cursor {
   std::int64_t rowNo();  // of the current row; raises Fault::RowGone when there is none
   Value value(std::size_t column);
   void standOn(std::int64_t rowNo);  // a row that has just been written; nothing comes behind it
+  // Stands on each of the rows in turn, all read in few statements; there is false for a row that was deleted.
+  void visit(std::span<const std::int64_t> rowNos, const std::function<void(bool there)>& visit);
   bool empty();
   long long count();
 

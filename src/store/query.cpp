@@ -54,8 +54,8 @@ Query plan(const dialect::Select& select, Connection connection, const Phrases& 
     for (const Column* column : group) order.emplace_back(column, false);
   }
 
-  std::string source = " from " + quoted(table.name);
-  if (select.where) source += " where " + condition(*select.where, table, phrases, query.values);
+  if (select.where) query.where = " where " + condition(*select.where, table, phrases, query.values);
+  const std::string source = " from " + quoted(table.name) + query.where;
   std::string grouping;
   for (const Column* column : group) {
     grouping += (grouping.empty() ? " group by " : ", ") + phrases.key(quoted(column->name), column->type);
@@ -73,10 +73,26 @@ Query plan(const dialect::Select& select, Connection connection, const Phrases& 
   return query;
 }
 
-std::string rowStatement(const Query& query, const Phrases& phrases) {
+namespace {
+
+std::string rowsOf(const Query& query) {
   std::string columns = "row_no";
   for (const Column* column : query.columns) columns += ", " + quoted(column->name);
-  return "select " + columns + " from " + quoted(query.table->name) + " where row_no = " + phrases.place(0);
+  return "select " + columns + " from " + quoted(query.table->name) + " where row_no ";
+}
+
+std::string placesFrom(std::size_t first, std::size_t count, const Phrases& phrases) {
+  std::string places;
+  for (std::size_t i = 0; i < count; ++i) places += (i ? ", " : "") + phrases.place(first + i);
+  return "(" + places + ")";
+}
+
+}  // namespace
+
+std::string rowStatement(const Query& query, const Phrases& phrases) { return rowsOf(query) + "= " + phrases.place(0); }
+
+std::string rowsStatement(const Query& query, const Phrases& phrases, std::size_t count) {
+  return rowsOf(query) + "in " + placesFrom(0, count, phrases);
 }
 
 std::string insertStatement(const Table& table, const std::vector<const Column*>& columns, const Phrases& phrases) {
@@ -100,5 +116,17 @@ std::string updateStatement(const Table& table, const std::vector<const Column*>
 std::string removeStatement(const Table& table, const Phrases& phrases) {
   return "delete from " + quoted(table.name) + " where row_no = " + phrases.place(0);
 }
+
+std::string updateAllStatement(const Query& query, const Column& column, const Phrases& phrases) {
+  return "update " + quoted(query.table->name) + " set " + quoted(column.name) + " = " +
+         phrases.place(query.values.size()) + query.where;
+}
+
+std::string updateRowsStatement(const Query& query, const Column& column, const Phrases& phrases, std::size_t count) {
+  return "update " + quoted(query.table->name) + " set " + quoted(column.name) + " = " + phrases.place(0) +
+         " where row_no in " + placesFrom(1, count, phrases);
+}
+
+std::string removeAllStatement(const Query& query) { return "delete from " + quoted(query.table->name) + query.where; }
 
 }  // namespace store

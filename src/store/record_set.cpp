@@ -56,6 +56,15 @@ struct RecordSet::State {
     if (rows().query().grouped) throw StoreError(Fault::Statement, "分组得到的记录不能修改！");
   }
 
+  // What many rows of the set are to hold; the set is read anew behind it.
+  std::pair<const Column*, Cell> wholly(std::string_view name, const Value& value) {
+    mustBeWritable();
+    leaveRow();
+    const Column* one = rows().query().columns[column(name)];
+    rows().drop();
+    return {one, cell(typed(value, *one))};
+  }
+
   void write() {
     Cursor& at = rows();
     const Table& table = at.table();
@@ -168,12 +177,49 @@ void RecordSet::remove() {
   state_->editing = State::Editing::Removed;
 }
 
+long long RecordSet::setAll(std::string_view name, const Value& value) {
+  const auto [column, stored] = state_->wholly(name, value);
+  Cursor& rows = state_->rows();
+  std::vector<Cell> values = rows.query().values;
+  values.push_back(stored);
+  Database& database = rows.database();
+  return database.write(rows.table(), updateAllStatement(rows.query(), *column, database.engine().phrases()), values);
+}
+
+long long RecordSet::setMarked(std::span<const std::int64_t> marks, std::string_view name, const Value& value) {
+  const auto [column, stored] = state_->wholly(name, value);
+  Cursor& rows = state_->rows();
+  Database& database = rows.database();
+  const std::string sql = updateRowsStatement(rows.query(), *column, database.engine().phrases(), readTogether);
+  long long changed = 0;
+  inPortions(marks, [&](std::vector<Cell> rowNos) {
+    rowNos.insert(rowNos.begin(), stored);
+    changed += database.write(rows.table(), sql, rowNos);
+  });
+  return changed;
+}
+
+long long RecordSet::removeAll() {
+  state_->mustBeWritable();
+  state_->leaveRow();
+  Cursor& rows = state_->rows();
+  rows.drop();
+  return rows.database().write(rows.table(), removeAllStatement(rows.query()), rows.query().values);
+}
+
 bool RecordSet::hasMarks() { return !state_->rows().query().grouped; }
 std::int64_t RecordSet::mark() { return state_->rows().rowNo(); }
 
 void RecordSet::goTo(std::int64_t mark) {
   state_->leaveRow();
   state_->rows().standOn(mark);
+}
+
+void RecordSet::visit(std::span<const std::int64_t> marks, const std::function<void(bool there)>& visit) {
+  state_->rows().visit(marks, [&](bool there) {
+    state_->leaveRow();
+    visit(there);
+  });
 }
 
 RecordSet RecordSet::another() const { return RecordSet(*state_->store, state_->sql, state_->connection); }

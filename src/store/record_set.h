@@ -7,7 +7,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,6 +43,11 @@ class RecordSet {
   void addNew();                                   // a new row in memory; columns not set stay Null
   void update();                                   // writes the row; it stays current. Nothing to write: does nothing
   void remove();  // deletes the current row; update() behind it does nothing, next() goes on
+  // The same for every row of the set, in one statement; both give back the number of rows. The set is read anew behind
+  // it. Not of grouped rows.
+  long long setAll(std::string_view column, const Value& value);
+  long long removeAll();
+  long long setMarked(std::span<const std::int64_t> marks, std::string_view column, const Value& value);
   std::vector<std::string> fields();
 
   // What long lists keep instead of rows. A mark stands for a row as long as it exists; goTo makes that row current, with
@@ -48,6 +55,8 @@ class RecordSet {
   bool hasMarks();
   std::int64_t mark();
   void goTo(std::int64_t mark);
+  // Goes to each mark in turn, the rows read together; there is false for a row that was deleted meanwhile.
+  void visit(std::span<const std::int64_t> marks, const std::function<void(bool there)>& visit);
   RecordSet another() const;  // a set of its own on the same statement
 
  private:

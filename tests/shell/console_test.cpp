@@ -3,6 +3,7 @@
 #include "arrears/arrears_delete.h"
 #include "arrears/arrears_edit.h"
 #include "arrears/arrears_entry.h"
+#include "arrears/due_settings.h"
 #include "collection/fee_window.h"
 #include "feesetup/desk_settings.h"
 #include "reports/print_options.h"
@@ -338,6 +339,16 @@ TEST(Console, EditsArrearsFromTheOverview) {
   t->k4.press();
   t->timer1.tick();
   t->arrears_overview.list.doubleClick(0);  // without the right to modify it opens nothing
+}
+
+TEST(Console, ShowsWhatAnImportHasAdded) {
+  Office office;
+  auto s = opened<Formzct>(office);
+  s->k4.press();
+  s->timer1.tick();
+  office.navigator.expect<arrears::Formqfcl2>([&](arrears::Formqfcl2&) { office.owe("1", "1001", {2026, 9, 13}, "100"); });
+  s->arrears_overview.button("导入").press();
+  EXPECT_EQ(s->arrears_overview.list.count(), 1);
 }
 
 TEST(Console, SaysGoodbyeInItsOrder) {

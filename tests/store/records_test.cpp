@@ -157,6 +157,43 @@ TEST_P(Records, AWalkKeepsItsOwnRows) {
               ElementsAre("2", "4", "6", "91", "93", "95"));
 }
 
+TEST_P(Records, AWholeSetIsWrittenOrDeletedInOneStatement) {
+  addNumbered(6);
+  RecordSet others(*store_, "select * from jfjl order by lsh desc");
+  others.first();
+  RecordSet odd(*store_, Sql("select * from jfjl where xm='") + std::string("odd") + "' and je<5");
+  EXPECT_EQ(odd.setAll("skr", "王芳"), 2);
+  EXPECT_EQ(odd.get("skr"), Value("王芳"));
+  EXPECT_EQ(column("select * from jfjl where skr='王芳'", "lsh"), (std::vector<std::string>{"1", "3"}));
+  step();
+  EXPECT_EQ(odd.removeAll(), 2);
+  EXPECT_TRUE(odd.empty());
+  EXPECT_EQ(all(), (std::vector<std::string>{"2", "4", "5", "6"}));
+  std::vector<std::string> left;
+  for (; !others.atEnd(); others.next()) left.push_back(others.get("lsh").text());
+  EXPECT_EQ(left, (std::vector<std::string>{"6", "5", "4", "2"})) << "a walk under way goes on without them";
+}
+
+TEST_P(Records, MarkedRowsAreReadTogetherInTheirOwnOrder) {
+  addNumbered(450);
+  RecordSet set(*store_, "select lsh,je from jfjl order by je desc");
+  std::vector<std::int64_t> marks;
+  forEach(set, [&](RecordSet& row) { marks.push_back(row.mark()); });
+  RecordSet(*store_, "select * from jfjl where lsh='440'").removeAll();
+  step();
+  RecordSet behind = set.another();
+  long long wanted = 450;
+  EXPECT_EQ(behind.setMarked(std::span(marks).first(300), "je", 7), 299);
+  step();
+  EXPECT_THAT(column("select * from jfjl where je=7", "lsh"), SizeIs(300)) << "and the seventh";
+  behind.visit(marks, [&](bool there) {
+    EXPECT_EQ(there, wanted != 440);
+    EXPECT_EQ(there ? behind.get("lsh").text() : "440", std::to_string(wanted));
+    --wanted;
+  });
+  EXPECT_EQ(wanted, 0);
+}
+
 TEST_P(Records, RowsThatOthersDeleteAreSkippedAndReadAfresh) {
   addNumbered(5);
   RecordSet walk(*store_, "select * from jfjl order by lsh");
@@ -195,6 +232,17 @@ TEST_P(Records, AWalkGoesOnFromItsFirstRowAfterTheEvent) {
     for (walk.next(); !walk.atEnd(); walk.next()) behind.push_back(walk.get("lsh").text());
     EXPECT_THAT(behind, ElementsAre("2", "3", "4"));
   }
+}
+
+TEST_P(Records, AWalkReadsEachOfItsRowsWhileAnotherTableIsWritten) {
+  addNumbered(4);
+  RecordSet walk(*store_, "select * from jfjl order by lsh");
+  std::vector<std::string> seen;
+  forEach(walk, [&](RecordSet& row) {
+    add("czjl", {"yhxm"}, {{row.get("lsh")}});
+    seen.push_back(row.get("lsh").text());
+  });
+  EXPECT_THAT(seen, ElementsAre("1", "2", "3", "4"));
 }
 
 TEST_P(Records, GroupsGoOnWhileTheTableChanges) {

@@ -1,0 +1,53 @@
+#include "shell/payment_summary.h"
+
+#include "base/text.h"
+
+namespace shell {
+
+using store::RecordSet;
+using store::Sql;
+
+Formzct1::Formzct1(kit::Desk& all) : Screen(all, "Formzct1", "学生交费信息统计") {
+  heading.prominent = true;
+  back.setTip("单击返回");
+  back.onPress([this] { close(); });
+  for (kit::List* list : {&payments, &sums}) list->onDoubleClick([this] { close(); });
+}
+
+void Formzct1::load() {
+  const std::string& xh = desk.session.summary_xh;
+  RecordSet student = rows(Sql("select * from xs where xh='") + xh + "'");
+  RecordSet paid = rows(Sql("select * from jfjl where xh='") + xh + "' order by jfrq desc");
+  // A student who has left the register is still named by the payments.
+  RecordSet& named = student.empty() ? paid : student;
+  heading.set("学生：" + (named.empty() ? "" : named.get("xm").trimmed()) + " [ " + xh + " ] 交费信息统计");
+  payments.fill(paid);
+  addSums(xh);
+  back.focus();
+}
+
+void Formzct1::addSums(const std::string& xh) {
+  sums.clear();
+  RecordSet paid = rows(Sql("select xq,sfxm,je from jfjl where xh='") + xh + "' order by xq,sfxm");
+  std::string term, item;
+  base::Money sum;
+  int times = 0;
+  const auto addSum = [&] {
+    if (times > 0) sums.addRow({base::trim(term), base::trim(item), base::paddedAmount(sum), std::to_string(times)});
+  };
+  store::forEach(paid, [&](RecordSet& row) {
+    const std::string nextTerm = row.get("xq").text(), nextItem = row.get("sfxm").text();
+    if (!base::sameText(nextTerm, term) || !base::sameText(nextItem, item)) {
+      addSum();
+      term = nextTerm;
+      item = nextItem;
+      sum = {};
+      times = 0;
+    }
+    sum += row.get("je").money();
+    ++times;
+  });
+  addSum();
+}
+
+}  // namespace shell
