@@ -3,11 +3,13 @@
 #include <xlsxwriter.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <string_view>
 #include <system_error>
 
 #include "base/text.h"
 #include "platform/desktop.h"
+#include "sheets/row_bytes.h"
 
 namespace sheets {
 namespace {
@@ -187,10 +189,13 @@ std::filesystem::path XlsxSheet::finish() {
     const auto width = static_cast<double>(std::clamp(widths_[i] + margin, narrowest, widest));
     check(worksheet_set_column(sheet_, column, column, width, nullptr));
   }
-  // The library does not look at what became of the rows' scratch file; a full disk would cut the sheet short.
+  // The library does not look at what becomes of its scratch files: on a full disk the sheet would lack rows without a
+  // word. So the rows' file is looked at here, and what arrived in the workbook is held against it.
   lxw_worksheet_write_single_row(sheet_);
   if (std::fflush(sheet_->file) != 0 || std::ferror(sheet_->file)) notWritten();
+  const long written = std::ftell(sheet_->file);
   if (workbook_close(book_.release()) != LXW_NO_ERROR) notWritten();
+  if (rowBytes(unfinished_) != static_cast<std::size_t>(written)) notWritten();
   const fs::path finished = freeName();
   std::error_code fault;
   fs::rename(unfinished_, finished, fault);
