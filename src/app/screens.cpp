@@ -25,6 +25,7 @@
 #include "feesetup/form_standards.h"
 #include "feesetup/major_edit.h"
 #include "feesetup/setup.h"
+#include "reports/income_statement.h"
 #include "reports/print_options.h"
 #include "shell/about.h"
 #include "shell/console.h"
@@ -36,6 +37,10 @@
 #include "students/student_edit.h"
 #include "students/student_query.h"
 #include "students/student_view.h"
+#include "students/suspension_edit.h"
+#include "students/suspension_list.h"
+#include "students/suspension_query.h"
+#include "upkeep/clearing.h"
 #include "upkeep/first_run.h"
 #include "upkeep/password_change.h"
 #include "upkeep/user_edit.h"
@@ -99,6 +104,14 @@ const std::vector<Entry>& screens() {
       screen<reports::Formzctxsdy>("Formzctxsdy"),
       screen<reports::Formzctjfjldy>("Formzctjfjldy"),
       screen<reports::Formzctqfjldy>("Formzctqfjldy"),
+      screen<reports::Formkh>("Formkh"),
+      screen<reports::Formkh1>("Formkh1"),
+      screen<upkeep::Formcsh3>("Formcsh3"),
+      screen<upkeep::Formcsh4>("Formcsh4"),
+      screen<students::Formxxfk3>("Formxxfk3"),
+      screen<students::Formxxfk>("Formxxfk"),
+      screen<students::Formxxfk1>("Formxxfk1"),
+      screen<students::Formxxfk2>("Formxxfk2"),
   };
   return all;
 }

@@ -5,6 +5,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "base/money.h"
 #include "store/record_set.h"
@@ -76,6 +77,21 @@ struct Session {
     std::string term, lead, deadline;
   } due_import;
   bool due_import_ended = false;
+
+  // The income statement: the period that is asked for, and what the worker computed last.
+  int statement_year = 0, statement_month = 0;
+  struct IncomeLine {
+    std::string item;
+    base::Money month, year;
+  };
+  struct Income {
+    int year = 0, month = 0;
+    std::vector<IncomeLine> lines;
+  } income;
+
+  // Suspensions: the filter of their list, and whether a query has just set it.
+  store::Sql suspension_where;
+  bool suspensions_queried = false;
 
   // Receipt printing.
   std::string print_fpbh, print_xh, print_xm, print_bjmc, print_xq, print_jffs, print_jfrq;

@@ -36,8 +36,8 @@ std::vector<std::string_view> columnsOf(std::string_view table) {
   return names;
 }
 
-bool mayPrint(kit::Desk& desk, const std::string& question) {
-  return desk.person.ask(kit::Box::AskWarning, question + "\n点“是”继续；否则，点“否”撤销此操作！ ", "信息提示");
+bool mayPrint(kit::Desk& desk, const std::string& question, const std::string& title) {
+  return desk.person.ask(kit::Box::AskWarning, question + "\n点“是”继续；否则，点“否”撤销此操作！ ", title);
 }
 
 void showReport(kit::Desk& desk, std::string_view name) {

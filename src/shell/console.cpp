@@ -7,10 +7,13 @@
 #include "feesetup/setup.h"
 #include "kit/settings.h"
 #include "reports/export.h"
+#include "reports/income_statement.h"
 #include "reports/print_options.h"
 #include "shell/about.h"
 #include "shell/rights.h"
 #include "students/student_edit.h"
+#include "students/suspension_list.h"
+#include "upkeep/clearing.h"
 #include "upkeep/password_change.h"
 #include "upkeep/user_list.h"
 #include "upkeep/user_rights.h"
@@ -57,6 +60,7 @@ void Formzct::load() {
 
 void Formzct::wireMenu() {
   const auto opens = [this](kit::Action& entry, auto open) { entry.onPress(open); };
+  opens(cd11, [this] { desk.session.EditMode = reports::openStatement; open<reports::Formkh1>(); });
   opens(cd13, [this] { leaveProgram(); });
   opens(cd21, [this] { open<feesetup::Formsz>(); classes.fillTree(); });
   opens(cd22, [this] { openOverview(students_overview); });
@@ -65,9 +69,10 @@ void Formzct::wireMenu() {
   opens(cd31, [this] { open<upkeep::Formyhxx>(); });
   opens(cd32, [this] { open<upkeep::Formyhxx3>(); });
   opens(cd33, [this] { open<upkeep::Formyhxx1>(); });
+  opens(cd34, [this] { open<upkeep::Formcsh3>(); });
   opens(cd43, [this] { open<Formcsh2>(); });
-  for (kit::Action* entry : {&cd11, &cd121, &cd77, &cd70, &cd75, &cd71, &cd72, &cd14, &cd73, &cd76, &cd74, &cd34, &cd41,
-                             &cd42, &cd44})
+  opens(cd72, [this] { open<students::Formxxfk3>(); });
+  for (kit::Action* entry : {&cd121, &cd77, &cd70, &cd75, &cd71, &cd14, &cd73, &cd76, &cd74, &cd41, &cd42, &cd44})
     entry->onPress([this, entry] { notYet(entry->caption()); });
 }
 

@@ -6,10 +6,13 @@
 #include "arrears/due_settings.h"
 #include "collection/fee_window.h"
 #include "feesetup/desk_settings.h"
+#include "reports/income_statement.h"
 #include "reports/print_options.h"
 #include "shell/rights.h"
 #include "students/student_edit.h"
+#include "students/suspension_list.h"
 #include "support/test_desk.h"
+#include "upkeep/clearing.h"
 
 namespace shell {
 namespace {
@@ -61,6 +64,19 @@ TEST(Console, RightsSettleTheMenuOnce) {
   s->card.xh.type("1001");
   s->card.xh.enter();
   EXPECT_EQ(s->card.xm.text(), "");
+}
+
+TEST(Console, TheMenuLeadsToStatementSuspensionsAndClearing) {
+  Office office;
+  auto s = opened<Formzct>(office);
+  office.session.EditMode = kit::Mode::Delete;
+  office.navigator.expect<reports::Formkh1>([](reports::Formkh1& worker) { worker.timer.tick(); });
+  office.navigator.expect<reports::Formkh>();  // the worker was told to open the statement, whatever was edited before
+  s->cd11.press();
+  office.navigator.expect<students::Formxxfk3>();
+  s->cd72.press();
+  office.navigator.expect<upkeep::Formcsh3>();
+  s->cd34.press();
 }
 
 TEST(Console, FindsByNumberAndShowsCardAndPayments) {
