@@ -28,7 +28,7 @@ Formxxfk::Formxxfk(kit::Desk& all)
   add.onPress([this] { edit(Mode::Add, nullptr); });
   resume.onPress([this] { editSelected(Mode::Modify, "不存在需要复课的休学记录！  "); });
   remove.onPress([this] { editSelected(Mode::Delete, "不存在需要删除的记录！  "); });
-  query.onPress([this] { ask(); });
+  query.onPress([this] { chooseFilter(); });
   print.onPress([this] { printAll(); });
   toSheet.onPress([this] { notYet(toSheet.caption()); });
   clearAll.onPress([this] { empty(); });
@@ -65,7 +65,7 @@ void Formxxfk::edit(Mode mode, store::RecordSet* row) {
   showCount();
 }
 
-void Formxxfk::ask() {
+void Formxxfk::chooseFilter() {
   desk.session.suspensions_queried = false;
   open<Formxxfk2>();
   if (!desk.session.suspensions_queried) return;

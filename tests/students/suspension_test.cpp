@@ -1,4 +1,6 @@
-#include "school.h"
+#include <algorithm>
+
+#include "students/school.h"
 #include "students/suspension_edit.h"
 #include "students/suspension_list.h"
 #include "students/suspension_query.h"
@@ -12,7 +14,7 @@ using support::opened;
 struct Suspensions : School {
   Suspensions() {
     session.Rights.fill(true);
-    for (const auto& [xh, xm] : {std::pair{"1001", "王小明"}, {"1002", "张三"}})
+    for (const auto& [xh, xm] : {std::pair("1001", "王小明"), std::pair("1002", "张三")})
       add("xs", {{"xh", xh}, {"xm", xm}, {"bjmc", "计算机11001班"}, {"xtbh", "11001001"}});
     add("xs", {{"xh", "1003"}, {"xm", "张三"}, {"bjmc", "会计01001班"}, {"xtbh", "01001001"}});
   }
