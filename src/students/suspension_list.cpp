@@ -78,14 +78,16 @@ void Formxxfk::printAll() {
     return reports::refill(desk, "dy_xxfk", Sql("select * from xxfk ") + desk.session.suspension_where,
                            reports::columnsOf("dy_xxfk"));
   };
-  reports::printList(desk, fill, "bbdy_xxfk",
-                     {"要打印休学复课记录吗？请确认打印机连接正常、打印纸准备就绪！ ", "不存在能够打印的休学复课记录！   "});
+  reports::printList(
+      desk, fill, "bbdy_xxfk",
+      {"要打印休学复课记录吗？请确认打印机连接正常、打印纸准备就绪！ ", "不存在能够打印的休学复课记录！   "});
 }
 
 // All rows, whatever the list is filtered by. The second question ends with the choice, where others begin with it.
 void Formxxfk::empty() {
   if (!askStop("您确认是要清空系统中所有的休学复课记录吗？   ", "警告")) return;
-  if (!askStop("休学复课记录清空后不可恢复！您确认继续吗？    \n\n选择“是”继续；否则，点“否”撤销此操作！   ", "再次警告"))
+  if (!askStop("休学复课记录清空后不可恢复！您确认继续吗？    \n\n选择“是”继续；否则，点“否”撤销此操作！   ",
+               "再次警告"))
     return;
   store::RecordSet all = rows("select * from xxfk");
   if (all.empty()) return inform("不存在需要清空的记录！  ", "信息提示");

@@ -63,8 +63,8 @@ TEST(Clearing, EmptiesItsTablesAndNoOthers) {
   std::set<std::string> kept;
   for (const std::string& name : school.filled())
     if (!name.starts_with("dy_")) kept.insert(name);
-  EXPECT_EQ(kept, (std::set<std::string>{"rxxs", "czbz", "tskc1", "tskclsb", "wpkc", "gzlsb", "gzblsb", "ls_gzb", "cjb1",
-                                         "qfjl_wjf", "qfjl_je"}));
+  EXPECT_EQ(kept, (std::set<std::string>{"rxxs", "czbz", "tskc1", "tskclsb", "wpkc", "gzlsb", "gzblsb", "ls_gzb",
+                                         "cjb1", "qfjl_wjf", "qfjl_je"}));
   EXPECT_EQ(school.filled().size() - kept.size(), 8u);  // the print tables
 
   auto& texts = school.progress.texts;
@@ -93,8 +93,8 @@ TEST(Clearing, AFaultLeavesTheTablesBeforeItEmptyAndTheRestUntouched) {
   EXPECT_FALSE(school.progress.shown);
   std::set<std::string> gone{"cjb"};
   std::ranges::set_difference(before, school.filled(), std::inserter(gone, gone.end()));
-  EXPECT_EQ(gone, (std::set<std::string>{"bjzl", "jfjl", "qfjl", "sfbzb", "sfxmb", "xs", "yhxx", "yhxx1", "zymcb", "mvlyb",
-                                         "cjb"}));
+  EXPECT_EQ(gone, (std::set<std::string>{"bjzl", "jfjl", "qfjl", "sfbzb", "sfxmb", "xs", "yhxx", "yhxx1", "zymcb",
+                                         "mvlyb", "cjb"}));
 }
 
 }  // namespace
