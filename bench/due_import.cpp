@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "arrears/due_import.h"
+#include "store/database.h"
 
 namespace bench {
 namespace {
@@ -17,7 +18,8 @@ class Term {
     for (const char* item : {"'101','学费',12000000", "'102','书本费',3000000", "'103','住宿费',6000000"})
       office_.bare.run(std::string("insert into sfbzb (xq, bjmc, sfxmbh, sfxmmc, je) select '2030', bjmc, ") + item +
                        " from bjzl");
-    office_.bare.run("insert into jfjl (xh, sfxm, xq, je) select xh, '学费', '2030', 5000000 from xs where row_no % 4 = 0");
+    office_.bare.run(
+        "insert into jfjl (xh, sfxm, xq, je) select xh, '学费', '2030', 5000000 from xs where row_no % 4 = 0");
     office_.test.session.standard_basis_class = true;
   }
   ~Term() { clear(); }
@@ -44,8 +46,10 @@ class Term {
  private:
   static constexpr const char* insertSelect =
       "insert into qfjl (lsh, xh, xm, bjmc, xtbh, sfxm, qfrq, xq, bjrq, bjje, sbjrq, sbjje, clfs, qfts, skr, bsh) "
-      "select cast(2030907000 + row_number() over (order by s.xtbh, s.row_no, b.sfxmbh, b.row_no) as text), s.xh, s.xm, "
-      "s.bjmc, s.xtbh, b.sfxmmc, '2026-09-07', b.xq, '2026-10-01', b.je - coalesce(p.je, 0), iif(p.je is null, null, ''), "
+      "select cast(2030907000 + row_number() over (order by s.xtbh, s.row_no, b.sfxmbh, b.row_no) as text), s.xh, "
+      "s.xm, "
+      "s.bjmc, s.xtbh, b.sfxmmc, '2026-09-07', b.xq, '2026-10-01', b.je - coalesce(p.je, 0), iif(p.je is null, null, "
+      "''), "
       "0, iif(p.je is null, '', '不足'), 7, '李强', '2026-9-7 8:30:05' "
       "from xs s join sfbzb b on b.bjmc = s.bjmc and b.xq = '2030' "
       "left join (select xh, sfxm, sum(je) as je from jfjl where xq = '2030' group by xh, sfxm) p "
@@ -81,7 +85,12 @@ class Term {
 
 Measure importing(Office& office) {
   const auto term = std::make_shared<Term>(office);
-  return {"import of 30000 amounts due, on the disk", 3, 9, [term] { return term->bare(); }, [term] { return term->ours(); }, 3};
+  return {"import of 30000 amounts due, on the disk",
+          3,
+          9,
+          [term] { return term->bare(); },
+          [term] { return term->ours(); },
+          3};
 }
 
 }  // namespace bench

@@ -1,5 +1,5 @@
-// bench_office LARGE MIDDLE SMALL: measures the daily work on three schools that sample_school has made, against the bare engine
-// on the same files. Prints a table; fails when a limit is missed.
+// bench_office LARGE MIDDLE SMALL: measures the daily work on three schools that sample_school has made, against the bare
+// engine on the same files. Prints a table; fails when a limit is missed.
 #include <cstdio>
 #include <exception>
 
@@ -197,7 +197,8 @@ int main(int count, char** words) {
     const long long rows = large.rows("jfjl");
     const bool within = bench::measureAll(
         {opening(large), filling(large), lastOfOrder(large), lastBySize(large, small), card(large),
-         bench::studentFigures(large), bench::paymentFigures(large), bench::arrearsFigures(large), bench::submitting(large),
+         bench::studentFigures(large), bench::paymentFigures(large), bench::arrearsFigures(large), bench::submitting(large), bench::unpaidList(large),
+         bench::comparison(large),
          paying(large), bench::importing(middle)});
     large.store.close();
     large.bare.run("delete from jfjl where row_no > (select row_no from jfjl order by row_no limit 1 offset " +

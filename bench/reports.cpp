@@ -84,9 +84,9 @@ int main(int argc, char** argv) {
   const platform::Drawing drawing = drawn(store);
   const QTemporaryDir folder;
   const QString file = folder.filePath("list.pdf");
-  return bench::measureAll({{"a list of 1000 rows as PDF", 1.5, 21,
-                             [&] { return bench::timed([&] { paintBare(drawing, file); }); },
-                             [&] { return bench::timed([&] { qt::savePdf(drawn(store), file.toStdString()); }); }}})
+  return bench::measureAll(
+             {{"a list of 1000 rows as PDF", 1.5, 21, [&] { return bench::timed([&] { paintBare(drawing, file); }); },
+               [&] { return bench::timed([&] { qt::savePdf(drawn(store), file.toStdString()); }); }}})
              ? 0
              : 1;
 }

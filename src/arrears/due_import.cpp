@@ -141,7 +141,8 @@ std::string firstNumber(store::Store& store, base::Date today) {
 // The rows on their way into the book.
 class Entries {
  public:
-  Entries(kit::Desk& desk, Common common) : desk_(desk), common_(std::move(common)), ledger_(desk.store, "select * from qfjl") {}
+  Entries(kit::Desk& desk, Common common)
+      : desk_(desk), common_(std::move(common)), ledger_(desk.store, "select * from qfjl") {}
 
   int count() const { return count_; }
 
@@ -184,8 +185,9 @@ class Entries {
 
   [[noreturn]] void tooMany() {
     finish();
-    throw store::StoreError(store::Fault::Other, "一次最多只能导入" + std::to_string(mostRows) +
-                                                     "条应交费记录，超出的部分没有导入！已导入的记录有效，请再次导入以补齐其余记录。");
+    throw store::StoreError(store::Fault::Other,
+                            "一次最多只能导入" + std::to_string(mostRows) +
+                                "条应交费记录，超出的部分没有导入！已导入的记录有效，请再次导入以补齐其余记录。");
   }
 
   kit::Desk& desk_;

@@ -19,11 +19,11 @@ std::optional<int> Formqfcl3::import() {
       screen.close();
     }
   } leaving{desk, *this};
-  const auto count = importDue(desk, desk.session.due_import,
-                               [this](const std::string& words, long long done, long long total) {
-                                 text.set(words);
-                                 desk.progress.show(words, done, total);
-                               });
+  const auto count =
+      importDue(desk, desk.session.due_import, [this](const std::string& words, long long done, long long total) {
+        text.set(words);
+        desk.progress.show(words, done, total);
+      });
   if (count) text.set("共导入应交费记录" + base::caption(*count) + "条");
   return count;
 }

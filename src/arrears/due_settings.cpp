@@ -48,9 +48,8 @@ Formqfcl2::Formqfcl2(kit::Desk& all)
     const RangeWords& words = wordsOf(range);
     value.setChoices(kit::columnTexts(desk.store, words.values, words.column));
   });
-  item.onDrop([this] {
-    item.setChoices(kit::columnTexts(desk.store, "select * from sfxmb order by sfxmbh", "sfxmmc"));
-  });
+  item.onDrop(
+      [this] { item.setChoices(kit::columnTexts(desk.store, "select * from sfxmb order by sfxmbh", "sfxmmc")); });
   xq.onDrop([this] { xq.setChoices(kit::columnTexts(desk.store, "select xq from jfjl group by xq", "xq")); });
   confirm.onPress([this] { import(); });
   cancel.onPress([this] { close(); });
@@ -83,11 +82,11 @@ void Formqfcl2::itemsChanged() {
 }
 
 std::vector<kit::Rule> Formqfcl2::rules() {
-  return {{&item, [this] { return onlyOneItem() && item.blank(); }, "请选择您要导入的收费项目名称！    ", "操作提示"},
-          {&value, [this] { return chosenRange() != Range::School && value.blank(); }, wordsOf(range).missing,
-           "操作提示"},
-          {&xq, kit::blank(xq), "请选择或输入学年学期 ！      ", "操作提示"},
-          {&bjrq, kit::notDate(bjrq), "补交日期格式不正确，请输入正确的格式 yyyy-m-d  ！  ", "操作提示"}};
+  return {
+      {&item, [this] { return onlyOneItem() && item.blank(); }, "请选择您要导入的收费项目名称！    ", "操作提示"},
+      {&value, [this] { return chosenRange() != Range::School && value.blank(); }, wordsOf(range).missing, "操作提示"},
+      {&xq, kit::blank(xq), "请选择或输入学年学期 ！      ", "操作提示"},
+      {&bjrq, kit::notDate(bjrq), "补交日期格式不正确，请输入正确的格式 yyyy-m-d  ！  ", "操作提示"}};
 }
 
 kit::Session::DueImport Formqfcl2::chosen() {

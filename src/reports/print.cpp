@@ -1,33 +1,13 @@
 #include "reports/print.h"
 
 #include "reports/drawing.h"
+#include "reports/notice.h"
 
 namespace reports {
 namespace {
 
 using store::RecordSet;
 using store::Sql;
-
-// The notice of long work; it goes when the work ends, also by a fault.
-class Notice {
- public:
-  explicit Notice(kit::Desk& desk) : progress_(desk.progress) {}
-  ~Notice() {
-    if (shown_) progress_.hide();
-  }
-  Notice(const Notice&) = delete;
-  Notice& operator=(const Notice&) = delete;
-  void count(const char* text, long long done) {
-    constexpr long long step = 500;
-    if (done % step != 0) return;
-    shown_ = true;
-    progress_.show(text, done);
-  }
-
- private:
-  kit::Progress& progress_;
-  bool shown_ = false;
-};
 
 }  // namespace
 

@@ -6,6 +6,7 @@
 #include "feesetup/desk_settings.h"
 #include "feesetup/setup.h"
 #include "kit/settings.h"
+#include "reports/export.h"
 #include "reports/income_statement.h"
 #include "reports/print_options.h"
 #include "shell/about.h"
@@ -19,6 +20,8 @@
 
 namespace shell {
 
+using reports::exportList;
+using reports::List;
 using store::RecordSet;
 using store::Sql;
 
@@ -124,7 +127,14 @@ void Formzct::wireToolbar() {
     if (panel == kit::Panel::Payments) open<reports::Formzctjfjldy>();
     if (panel == kit::Panel::Arrears) open<reports::Formzctqfjldy>();
   });
-  chain(k8, {StudentQuery, PaymentQuery, ArrearsQuery}, [this](kit::Panel) { notYet(k8.caption()); });
+  chain(k8, {StudentQuery, PaymentQuery, ArrearsQuery}, [this](kit::Panel panel) {
+    const int mode = desk.session.arrears_list_mode;
+    if (panel == kit::Panel::Students) return exportList(desk, List::Students, desk.session.student_where);
+    if (panel == kit::Panel::Payments) return exportList(desk, List::Payments, desk.session.payment_where);
+    if (mode == 2) return exportList(desk, List::Unpaid);
+    if (mode == 3) return exportList(desk, List::Comparison);
+    exportList(desk, List::Arrears, desk.session.arrears_where);
+  });
   chain(k9, {StudentClear, PaymentClear, ArrearsClear}, [this](kit::Panel panel) { clearPanel(panel); });
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "kit/rights.h"
+#include "reports/export.h"
 #include "reports/print.h"
 #include "students/suspension_edit.h"
 #include "students/suspension_query.h"
@@ -30,7 +31,7 @@ Formxxfk::Formxxfk(kit::Desk& all)
   remove.onPress([this] { editSelected(Mode::Delete, "不存在需要删除的记录！  "); });
   query.onPress([this] { chooseFilter(); });
   print.onPress([this] { printAll(); });
-  toSheet.onPress([this] { notYet(toSheet.caption()); });
+  toSheet.onPress([this] { reports::exportList(desk, reports::List::Suspensions, desk.session.suspension_where); });
   clearAll.onPress([this] { empty(); });
   back.onPress([this] { close(); });
 }

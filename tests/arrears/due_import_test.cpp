@@ -16,7 +16,12 @@ using support::TestDesk;
 constexpr const char* term = "2026 Fall";
 
 Due dueOf(Range range, const std::string& value = "", const std::string& code = "") {
-  return {.range = range, .value = value, .major_code = code, .item = std::nullopt, .term = term, .lead = "7天",
+  return {.range = range,
+          .value = value,
+          .major_code = code,
+          .item = std::nullopt,
+          .term = term,
+          .lead = "7天",
           .deadline = "2026-10-1"};
 }
 
@@ -97,11 +102,10 @@ TEST(DueImport, unpaidAndPartlyPaidItems) {
   test.pay("书本费", Money::fen(5));
   test.pay("住宿费", Money::yuan(501));
   EXPECT_EQ(import(test, dueOf(Range::School)), 2);
-  EXPECT_THAT(
-      book(test),
-      testing::ElementsAre(
-          "2026907001|1001|王小明|会计1班|0101001|书本费|2026-9-7|2026 Fall|2026-10-1|199.85||0|不足|7|李芳|2026-9-7 8:30:05|",
-          "2026907002|1001|王小明|会计1班|0101001|学费|2026-9-7|2026 Fall|2026-10-1|1200|Null|0||7|李芳|2026-9-7 8:30:05|"));
+  EXPECT_THAT(book(test), testing::ElementsAre("2026907001|1001|王小明|会计1班|0101001|书本费|2026-9-7|2026 "
+                                               "Fall|2026-10-1|199.85||0|不足|7|李芳|2026-9-7 8:30:05|",
+                                               "2026907002|1001|王小明|会计1班|0101001|学费|2026-9-7|2026 "
+                                               "Fall|2026-10-1|1200|Null|0||7|李芳|2026-9-7 8:30:05|"));
   store::RecordSet standard(test.store, "select * from sfbzb where sfxmmc='学费'");
   standard.set("je", Money::yuan(2000));
   standard.update();
@@ -143,7 +147,8 @@ TEST(DueImport, stopsAtTheCountsLimitAndKeepsItsRows) {
     import(test, dueOf(Range::School));
     ADD_FAILURE() << "no overflow";
   } catch (const store::StoreError& error) {
-    EXPECT_STREQ(error.what(), "一次最多只能导入32767条应交费记录，超出的部分没有导入！已导入的记录有效，请再次导入以补齐其余记录。");
+    EXPECT_STREQ(error.what(),
+                 "一次最多只能导入32767条应交费记录，超出的部分没有导入！已导入的记录有效，请再次导入以补齐其余记录。");
   }
   EXPECT_EQ(test.count("select * from qfjl"), 32767);
   EXPECT_EQ(import(test, dueOf(Range::School)), 182 * 182 - 32767);

@@ -47,17 +47,29 @@ void fillSchool(support::TestDesk& test, unsigned seed) {
                     {"rxxs", anyOf(random, forms)},
                     {"xtbh", "0" + std::to_string(random.below(3)) + std::to_string(random.below(20))}});
   for (int i = 0; i < 40; ++i) {
-    test.add("sfbzb", {{"bjmc", anyOf(random, classes)}, {"xq", anyOf(random, terms)},
-                       {"sfxmbh", anyOf(random, codes)}, {"sfxmmc", anyOf(random, items)}, {"je", amount(random)}});
-    test.add("sfbzbrxxs", {{"rxxs", anyOf(random, forms)}, {"xq", anyOf(random, terms)},
-                           {"sfxmbh", anyOf(random, codes)}, {"sfxmmc", anyOf(random, items)}, {"je", amount(random)}});
+    test.add("sfbzb", {{"bjmc", anyOf(random, classes)},
+                       {"xq", anyOf(random, terms)},
+                       {"sfxmbh", anyOf(random, codes)},
+                       {"sfxmmc", anyOf(random, items)},
+                       {"je", amount(random)}});
+    test.add("sfbzbrxxs", {{"rxxs", anyOf(random, forms)},
+                           {"xq", anyOf(random, terms)},
+                           {"sfxmbh", anyOf(random, codes)},
+                           {"sfxmmc", anyOf(random, items)},
+                           {"je", amount(random)}});
   }
   for (int i = 0; i < 120; ++i)
-    test.add("jfjl", {{"xh", random.percent(3) ? Value() : Value(number(random))}, {"sfxm", anyOf(random, items)},
-                      {"xq", anyOf(random, terms)}, {"je", amount(random)}, {"sftj", random.percent(50) ? "*" : ""}});
+    test.add("jfjl", {{"xh", random.percent(3) ? Value() : Value(number(random))},
+                      {"sfxm", anyOf(random, items)},
+                      {"xq", anyOf(random, terms)},
+                      {"je", amount(random)},
+                      {"sftj", random.percent(50) ? "*" : ""}});
   for (int i = 0; i < 25; ++i)
-    test.add("qfjl", {{"lsh", "20261107" + std::to_string(100 + i)}, {"xh", number(random)},
-                      {"sfxm", anyOf(random, items)}, {"xq", anyOf(random, terms)}, {"bjje", amount(random)}});
+    test.add("qfjl", {{"lsh", "20261107" + std::to_string(100 + i)},
+                      {"xh", number(random)},
+                      {"sfxm", anyOf(random, items)},
+                      {"xq", anyOf(random, terms)},
+                      {"bjje", amount(random)}});
   unit.finish();
 }
 
@@ -67,12 +79,22 @@ void addPlainly(support::TestDesk& test, const Due& chosen, RecordSet& student, 
                 std::optional<Money> paid, const std::string& lsh) {
   const auto text = [&](const char* column) { return Value(student.get(column).trimmed()); };
   const Money je = standard.get("je").money();
-  test.add("qfjl", {{"xh", text("xh")}, {"xm", text("xm")}, {"bjmc", text("bjmc")}, {"xtbh", text("xtbh")},
-                    {"sfxm", standard.get("sfxmmc").trimmed()}, {"qfrq", test.clock.today().plain()},
-                    {"xq", chosen.term}, {"bjrq", chosen.deadline}, {"bjje", paid ? je - *paid : je},
-                    {"sbjrq", paid ? Value("") : Value()}, {"sbjje", 0}, {"clfs", paid ? "不足" : ""},
-                    {"qfts", base::leadingNumber(chosen.lead)}, {"skr", test.session.SessionUser},
-                    {"bsh", test.clock.now().plain()}, {"lsh", lsh}});
+  test.add("qfjl", {{"xh", text("xh")},
+                    {"xm", text("xm")},
+                    {"bjmc", text("bjmc")},
+                    {"xtbh", text("xtbh")},
+                    {"sfxm", standard.get("sfxmmc").trimmed()},
+                    {"qfrq", test.clock.today().plain()},
+                    {"xq", chosen.term},
+                    {"bjrq", chosen.deadline},
+                    {"bjje", paid ? je - *paid : je},
+                    {"sbjrq", paid ? Value("") : Value()},
+                    {"sbjje", 0},
+                    {"clfs", paid ? "不足" : ""},
+                    {"qfts", base::leadingNumber(chosen.lead)},
+                    {"skr", test.session.SessionUser},
+                    {"bsh", test.clock.now().plain()},
+                    {"lsh", lsh}});
 }
 
 std::string firstPlainly(support::TestDesk& test) {
@@ -90,7 +112,8 @@ Sql standardsPlainly(support::TestDesk& test, const Due& chosen, RecordSet& stud
   const std::string item = chosen.item.value_or("");
   const bool school = chosen.range == Due::Range::School;
   if (test.session.standard_basis_class) {
-    const Sql all = Sql("select * from sfbzb where bjmc='") + student.get("bjmc").trimmed() + "' and xq='" + chosen.term;
+    const Sql all =
+        Sql("select * from sfbzb where bjmc='") + student.get("bjmc").trimmed() + "' and xq='" + chosen.term;
     return chosen.item ? all + "' and sfxmmc='" + item + "' order by sfxmbh" : all + "' order by sfxmbh";
   }
   const Sql all =

@@ -177,6 +177,36 @@ TEST(Console, TheChainOfThreeRightsIsNotTiedToThePanel) {
   t->k8.press();
 }
 
+TEST(Console, ExportsTheListInFrontUnderItsFilter) {
+  Office office;
+  office.owe("1", "1001", {2026, 9, 1}, "300");
+  office.add("qfjl_wjf", {{"xh", "1001"}});
+  office.add("qfjl_je", {{"xh", "1001"}});
+  office.session.student_where = " where xm='张三'";
+  auto s = opened<Formzct>(office);
+  const struct {
+    kit::Panel panel;
+    int listMode;
+    const char *object, *title;
+    std::size_t rows;
+  } exports[] = {{kit::Panel::Students, 1, "学生的学籍资料", "按查询条件导出的学生学籍资料", 2},
+                 {kit::Panel::Payments, 2, "交费记录", "学员交费记录", 2},
+                 {kit::Panel::Arrears, 1, "学生的欠费记录", "学员欠费记录", 1},
+                 {kit::Panel::Arrears, 2, "未交费学生名单", "未交费学生名单导出", 1},
+                 {kit::Panel::Arrears, 3, "应交与实交对比结果", "应交与实交对比结果导出", 1}};
+  for (const auto& one : exports) {
+    office.session.ConsolePanel = one.panel;
+    office.session.arrears_list_mode = one.listMode;
+    const std::string title = one.title, file = (office.desktop.exportFolder() / (title + " 2026-09-07.xlsx")).string();
+    office.person
+        .answer(true, Box::Ask, std::string("此操作将导出") + one.object + "为EXCEL格式表，您确认继续吗？      ", "信息提示")
+        .expect(Box::Information,
+                "“" + title + "”已导出，共 " + std::to_string(one.rows) + " 条记录，文件保存在：\n" + file, "信息提示");
+    s->k8.press();
+    EXPECT_EQ(office.sheets.kept.back().rows.size(), one.rows);
+  }
+}
+
 TEST(Console, DeletesOnlyOwnUnsubmittedPayments) {
   Office office;
   office.set("sfctsz", 0);

@@ -11,7 +11,7 @@ Nodes question(QuestionFields& fields) { return {fields.bjmc, fields.xq, fields.
 }  // namespace
 
 Layout Formqfcl11::layout() {
-  const Node own = column({form({xq, bjmc, xh, xm, sfxm, clfs}, 2), row({qfrq.node(), bjrq.node(), sbjrq.node()})});
+  const Node own = column({form({xq, bjmc, xh, xm, sfxm, clfs}, 2), row({qfrq.node(), bjrq.node()}), row({sbjrq.node(), stretch()})});
   Nodes comparison = question(compared);
   comparison.push_back(due);
   return {.root = column({tabs({group("欠费记录", {queryNode(own), buttons({byScope, clearAll, confirm})}),
