@@ -13,8 +13,8 @@ struct Period {
   int year = 0, month = 0;
 };
 
-// A line for each fee item of the payments, in their order. The month adds up the same month of all years, the year does
-// not: the office compares its months that way. onItem is told each item as its rows are reached.
+// A line for each fee item of the payments, in their order. The month adds up the same month of all years, the year
+// does not: the office compares its months that way. onItem is told each item as its rows are reached.
 std::vector<kit::Session::IncomeLine> computeIncome(store::Store& store, Period period,
                                                     const std::function<void(const std::string& item)>& onItem);
 

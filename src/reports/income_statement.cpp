@@ -71,7 +71,8 @@ void Formkh1::print() {
     }
     unit.finish();
   }
-  if (mayPrint(desk, "要打印经营损益表数据吗？请确认打印机连接正常、打印纸准备就绪！ ", "")) showReport(desk, "bbdy_kh");
+  if (mayPrint(desk, "要打印经营损益表数据吗？请确认打印机连接正常、打印纸准备就绪！ ", ""))
+    showReport(desk, "bbdy_kh");
 }
 
 // The headings are those of another list; the office has read its statement under them for years.

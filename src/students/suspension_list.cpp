@@ -29,7 +29,7 @@ Formxxfk::Formxxfk(kit::Desk& all)
   add.onPress([this] { edit(Mode::Add, nullptr); });
   resume.onPress([this] { editSelected(Mode::Modify, "不存在需要复课的休学记录！  "); });
   remove.onPress([this] { editSelected(Mode::Delete, "不存在需要删除的记录！  "); });
-  query.onPress([this] { ask(); });
+  query.onPress([this] { chooseFilter(); });
   print.onPress([this] { printAll(); });
   toSheet.onPress([this] { reports::exportList(desk, reports::List::Suspensions, desk.session.suspension_where); });
   clearAll.onPress([this] { empty(); });
@@ -66,7 +66,7 @@ void Formxxfk::edit(Mode mode, store::RecordSet* row) {
   showCount();
 }
 
-void Formxxfk::ask() {
+void Formxxfk::chooseFilter() {
   desk.session.suspensions_queried = false;
   open<Formxxfk2>();
   if (!desk.session.suspensions_queried) return;
@@ -79,14 +79,16 @@ void Formxxfk::printAll() {
     return reports::refill(desk, "dy_xxfk", Sql("select * from xxfk ") + desk.session.suspension_where,
                            reports::columnsOf("dy_xxfk"));
   };
-  reports::printList(desk, fill, "bbdy_xxfk",
-                     {"要打印休学复课记录吗？请确认打印机连接正常、打印纸准备就绪！ ", "不存在能够打印的休学复课记录！   "});
+  reports::printList(
+      desk, fill, "bbdy_xxfk",
+      {"要打印休学复课记录吗？请确认打印机连接正常、打印纸准备就绪！ ", "不存在能够打印的休学复课记录！   "});
 }
 
 // All rows, whatever the list is filtered by. The second question ends with the choice, where others begin with it.
 void Formxxfk::empty() {
   if (!askStop("您确认是要清空系统中所有的休学复课记录吗？   ", "警告")) return;
-  if (!askStop("休学复课记录清空后不可恢复！您确认继续吗？    \n\n选择“是”继续；否则，点“否”撤销此操作！   ", "再次警告"))
+  if (!askStop("休学复课记录清空后不可恢复！您确认继续吗？    \n\n选择“是”继续；否则，点“否”撤销此操作！   ",
+               "再次警告"))
     return;
   store::RecordSet all = rows("select * from xxfk");
   if (all.empty()) return inform("不存在需要清空的记录！  ", "信息提示");

@@ -30,7 +30,7 @@ class Formxxfk : public kit::Screen {  // 学生休学复课管理前台
   void showCount();
   void edit(kit::Mode mode, store::RecordSet* row);
   void editSelected(kit::Mode mode, const std::string& none);
-  void ask();
+  void chooseFilter();
   void printAll();
   void empty();
 };

@@ -68,11 +68,13 @@ TEST(Income, OneWalkGivesWhatTheStatementsGive) {
 }
 
 TEST(Income, CellsArePaddedByThePlainLengthAndLongOnesAreLeftOut) {
-  const struct { base::Money amount; const char* shown; } cells[] = {
-      {base::Money::yuan(5), "            5.00"},
-      {base::Money::fen(-1250), "        -12.50"},
-      {base::Money::yuan(123456789012), " 123456789012.00"},
-      {base::Money::yuan(-123456789012), ""}};
+  const struct {
+    base::Money amount;
+    const char* shown;
+  } cells[] = {{base::Money::yuan(5), "            5.00"},
+               {base::Money::fen(-1250), "        -12.50"},
+               {base::Money::yuan(123456789012), " 123456789012.00"},
+               {base::Money::yuan(-123456789012), ""}};
   for (const auto& one : cells) EXPECT_EQ(incomeCell(one.amount), one.shown);
 }
 
@@ -107,8 +109,9 @@ struct Office : TestDesk {
     return text + "|" + s.month_total.text() + "|" + s.year_total.text();
   }
   void asked(bool yes) {
-    person.answer(yes, Box::AskWarning,
-                  "要打印经营损益表数据吗？请确认打印机连接正常、打印纸准备就绪！ \n点“是”继续；否则，点“否”撤销此操作！ ", "");
+    person.answer(
+        yes, Box::AskWarning,
+        "要打印经营损益表数据吗？请确认打印机连接正常、打印纸准备就绪！ \n点“是”继续；否则，点“否”撤销此操作！ ", "");
   }
 };
 

@@ -1,4 +1,6 @@
-#include "school.h"
+#include <algorithm>
+
+#include "students/school.h"
 #include "students/suspension_edit.h"
 #include "students/suspension_list.h"
 #include "students/suspension_query.h"
@@ -12,12 +14,13 @@ using support::opened;
 struct Suspensions : School {
   Suspensions() {
     session.Rights.fill(true);
-    for (const auto& [xh, xm] : {std::pair{"1001", "王小明"}, {"1002", "张三"}})
+    for (const auto& [xh, xm] : {std::pair("1001", "王小明"), std::pair("1002", "张三")})
       add("xs", {{"xh", xh}, {"xm", xm}, {"bjmc", "计算机11001班"}, {"xtbh", "11001001"}});
     add("xs", {{"xh", "1003"}, {"xm", "张三"}, {"bjmc", "会计01001班"}, {"xtbh", "01001001"}});
   }
   void suspend(const char* xh, const char* xm, const char* bjmc, const char* fksj = "") {
-    add("xxfk", {{"xh", xh}, {"xm", xm}, {"bjmc", bjmc}, {"xxsj", base::Date{2026, 3, 2}}, {"fksj", fksj}, {"xtbh", "x"}});
+    add("xxfk",
+        {{"xh", xh}, {"xm", xm}, {"bjmc", bjmc}, {"xxsj", base::Date{2026, 3, 2}}, {"fksj", fksj}, {"xtbh", "x"}});
   }
   void suspendThree() {
     suspend("1003", "张三", "会计01001班");
@@ -38,12 +41,14 @@ TEST(Suspension, TheNoticeOpensTheListAndCloses) {
 
 TEST(Suspension, RightsSettleTheButtons) {
   Suspensions test;
-  const struct { int right; std::vector<kit::Action Formxxfk::*> opens; } gates[] = {
-      {-1, {}},
-      {40, {&Formxxfk::resume}},
-      {41, {&Formxxfk::remove}},
-      {42, {&Formxxfk::clearAll}},
-      {43, {&Formxxfk::query, &Formxxfk::print, &Formxxfk::toSheet}}};
+  const struct {
+    int right;
+    std::vector<kit::Action Formxxfk::*> opens;
+  } gates[] = {{-1, {}},
+               {40, {&Formxxfk::resume}},
+               {41, {&Formxxfk::remove}},
+               {42, {&Formxxfk::clearAll}},
+               {43, {&Formxxfk::query, &Formxxfk::print, &Formxxfk::toSheet}}};
   for (const auto& gate : gates) {
     test.session.Rights.fill(false);
     if (gate.right >= 0) test.session.Rights[static_cast<std::size_t>(gate.right)] = true;
@@ -122,11 +127,15 @@ TEST(Suspension, QueriesFilterTheListAndItsPrint) {
   Suspensions test;
   test.suspendThree();
   auto s = opened<Formxxfk>(test);
-  const struct { const char* bjmc; const char* xm; const char* where; const char* found; } queries[] = {
-      {"计算机11001班", "张三", " where bjmc='计算机11001班' and xm='张三'", "记录个数: 1"},
-      {"计算机11001班", "", " where bjmc='计算机11001班'", "记录个数: 2"},
-      {"", "", "", "记录个数： 3"},
-      {"", "张三", " where xm='张三'", "记录个数: 2"}};
+  const struct {
+    const char* bjmc;
+    const char* xm;
+    const char* where;
+    const char* found;
+  } queries[] = {{"计算机11001班", "张三", " where bjmc='计算机11001班' and xm='张三'", "记录个数: 1"},
+                 {"计算机11001班", "", " where bjmc='计算机11001班'", "记录个数: 2"},
+                 {"", "", "", "记录个数： 3"},
+                 {"", "张三", " where xm='张三'", "记录个数: 2"}};
   for (const auto& one : queries) {
     test.navigator.expect<Formxxfk2>([&](Formxxfk2& query) {
       query.bjmc.type(one.bjmc);
@@ -141,9 +150,10 @@ TEST(Suspension, QueriesFilterTheListAndItsPrint) {
   s->query.press();
   EXPECT_EQ(s->count.text(), "记录个数: 2");
 
-  test.person.answer(true, Box::AskWarning,
-                     "要打印休学复课记录吗？请确认打印机连接正常、打印纸准备就绪！ \n点“是”继续；否则，点“否”撤销此操作！ ",
-                     "信息提示");
+  test.person.answer(
+      true, Box::AskWarning,
+      "要打印休学复课记录吗？请确认打印机连接正常、打印纸准备就绪！ \n点“是”继续；否则，点“否”撤销此操作！ ",
+      "信息提示");
   s->print.press();
   EXPECT_EQ(test.dump("dy_xxfk", "xtbh|xh|xm|bjmc|xxsj|fksj"),
             "x|1003|张三|会计01001班|2026-3-2|\nx|1002|张三|计算机11001班|2026-3-2|2026-6-1\n");
@@ -161,7 +171,8 @@ TEST(Suspension, ClearsAllRowsWhateverTheFilter) {
   s->query.press();
   const auto answered = [&](bool yes) {
     test.person.answer(true, Box::AskStop, "您确认是要清空系统中所有的休学复课记录吗？   ", "警告")
-        .answer(yes, Box::AskStop, "休学复课记录清空后不可恢复！您确认继续吗？    \n\n选择“是”继续；否则，点“否”撤销此操作！   ",
+        .answer(yes, Box::AskStop,
+                "休学复课记录清空后不可恢复！您确认继续吗？    \n\n选择“是”继续；否则，点“否”撤销此操作！   ",
                 "再次警告");
   };
   answered(false);

@@ -20,8 +20,8 @@ Layout Formxxfk1::layout() {
 }
 
 Layout Formxxfk2::layout() {
-  return {.root = column({form({wide(bjmc, 18), wide(xm, 18)}), note("都不填写时显示全部记录"),
-                          buttons({confirm, cancel})}),
+  return {.root = column(
+              {form({wide(bjmc, 18), wide(xm, 18)}), note("都不填写时显示全部记录"), buttons({confirm, cancel})}),
           .confirm = &confirm,
           .cancel = &cancel};
 }
