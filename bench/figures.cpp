@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "arrears/comparison.h"
 #include "collection/submission.h"
 #include "shell/statistics.h"
 
@@ -74,6 +75,57 @@ Measure submitting(Office& office) {
                 .expect(kit::Box::Information, "记录提交完毕！     ", "信息提示");
             return timed([&] { screen.submit.press(); });
           }};
+}
+
+namespace {
+
+// The term and item that a hand-written statement and the comparison ask for.
+const char* const term = "2026学年下学期";
+const char* const item = "学费";
+const base::DateTime now{{2026, 9, 7}, 8, 30, 5};
+
+Measure comparing(Office& office, std::string what, std::vector<std::string> statements, std::function<long long()> ours) {
+  return {std::move(what), 3, runs,
+          [&office, statements] {
+            return timed([&] {
+              office.bare.run("begin immediate");
+              for (const std::string& sql : statements) office.bare.run(sql);
+              office.bare.run("commit");
+            });
+          },
+          [ours] {
+            return timed([&] {
+              if (ours() == 0) throw std::runtime_error("nobody found");
+            });
+          }};
+}
+
+std::string paymentsOfTerm() { return std::string("xq = '") + term + "' and sfxm = '" + item + "'"; }
+
+}  // namespace
+
+Measure unpaidList(Office& office) {
+  return comparing(office, "who of " + std::to_string(office.rows("xs")) + " students has not paid",
+                   {"delete from qfjl_wjf",
+                    std::string("insert into qfjl_wjf (xh, xm, bjmc, lxdh, sjhm, xqrq, sfxm, bsh) select xh, xm, bjmc, lxdh, sjhm, '") +
+                        term + "', '" + item + "', '2026-9-7 8:30:05' from xs where xh not in (select xh from jfjl where " +
+                        paymentsOfTerm() + ")"},
+                   [&office] { return arrears::listUnpaid(office.store, {"", term, item, {}, {}}, now, {}); });
+}
+
+Measure comparison(Office& office) {
+  return comparing(office, "due against paid of " + std::to_string(office.rows("xs")) + " students",
+                   {"delete from qfjl_je",
+                    std::string("insert into qfjl_je (xh, xm, bjmc, lxdh, sjhm, xqrq, sfxm, bsh, yjje, sjje, ce) select xs.xh, xm, bjmc, "
+                                "lxdh, sjhm, '") +
+                        term + "', '" + item + "', '2026-9-7 8:30:05', 50000000, coalesce(paid, 0), 50000000 - coalesce(paid, 0) "
+                        "from xs left join (select xh, sum(je) as paid from jfjl where " + paymentsOfTerm() +
+                        " group by xh) as sums on sums.xh = xs.xh",
+                    "delete from qfjl_je where sjje >= yjje"},
+                   [&office] {
+                     return arrears::listByPaid(office.store, {"", term, item, {}, {}}, base::Money::yuan(5000),
+                                                arrears::PaidAs::Less, now, {});
+                   });
 }
 
 }  // namespace bench

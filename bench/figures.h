@@ -1,4 +1,4 @@
-// What adds up or marks many rows at once: the statistics bars, the submission of a shift.
+// What adds up or marks many rows at once: the statistics bars, the submission of a shift, the comparison tables.
 #pragma once
 
 #include "measure.h"
@@ -10,5 +10,7 @@ Measure studentFigures(Office& office);
 Measure paymentFigures(Office& office);
 Measure arrearsFigures(Office& office);
 Measure submitting(Office& office);
+Measure unpaidList(Office& office);
+Measure comparison(Office& office);
 
 }  // namespace bench

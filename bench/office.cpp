@@ -1,17 +1,16 @@
-// bench_office LARGE SMALL: measures the daily work on two schools that sample_school has made, against the bare engine
-// on the same files. Prints a table; fails when a limit is missed.
+// bench_office LARGE MIDDLE SMALL: measures the daily work on three schools that sample_school has made, against the bare
+// engine on the same files. Prints a table; fails when a limit is missed.
 #include <cstdio>
 #include <exception>
 
-#include "bare.h"
 #include "collection/payment_ledger.h"
+#include "due_import.h"
 #include "figures.h"
 #include "measure.h"
 #include "office.h"
 #include "sample/random.h"
 #include "shell/console_front.h"
 #include "shell/console_overview.h"
-#include "store/database.h"
 #include "students/student_card.h"
 
 namespace {
@@ -189,17 +188,18 @@ Measure paying(Office& office) {
 }  // namespace
 
 int main(int count, char** words) {
-  if (count != 3) {
-    std::fprintf(stderr, "usage: bench_office LARGE SMALL\n");
+  if (count != 4) {
+    std::fprintf(stderr, "usage: bench_office LARGE MIDDLE SMALL\n");
     return 2;
   }
   try {
-    Office large(words[1]), small(words[2]);
+    Office large(words[1]), middle(words[2]), small(words[3]);
     const long long rows = large.rows("jfjl");
     const bool within = bench::measureAll(
         {opening(large), filling(large), lastOfOrder(large), lastBySize(large, small), card(large),
-         bench::studentFigures(large), bench::paymentFigures(large), bench::arrearsFigures(large), bench::submitting(large),
-         paying(large)});
+         bench::studentFigures(large), bench::paymentFigures(large), bench::arrearsFigures(large), bench::submitting(large), bench::unpaidList(large),
+         bench::comparison(large),
+         paying(large), bench::importing(middle)});
     large.store.close();
     large.bare.run("delete from jfjl where row_no > (select row_no from jfjl order by row_no limit 1 offset " +
                    std::to_string(rows - 1) + ")");

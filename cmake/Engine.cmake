@@ -1,6 +1,7 @@
 # The embedded engine: the encrypted SQLite amalgamation, compiled once, without our warnings and sanitizers.
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(sodium REQUIRED IMPORTED_TARGET libsodium)
+pkg_check_modules(pq REQUIRED IMPORTED_TARGET libpq)  # the larger engine's client
 
 set(ENGINE_SOURCES ${CMAKE_SOURCE_DIR}/node_modules/better-sqlite3-multiple-ciphers/deps/sqlite3)
 if(NOT EXISTS ${ENGINE_SOURCES}/sqlite3.c)

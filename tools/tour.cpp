@@ -158,6 +158,8 @@ int main(int argc, char** argv) {
   const QTemporaryDir runtime;
   if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) qputenv("XDG_RUNTIME_DIR", runtime.path().toUtf8());
   qputenv("QT_QPA_PLATFORMTHEME", "none");  // the toolkit's own file dialog: the player knows its parts
+  // What is exported comes into the tour's folder.
+  if (argc == 2) qputenv("HOME", QString::fromStdString(std::filesystem::absolute(argv[1]).string()).toUtf8());
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   qt::applyTheme(application);
@@ -199,8 +201,13 @@ int main(int argc, char** argv) {
     return 1;
   }
   int numbered = next.pictures();
+  const auto exported = [&] {
+    long long files = 0;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) files += entry.path().extension() == ".xlsx";
+    return files;
+  };
   const int differences = playDay(folder / "school", folder, numbered);
-  if (differences != 0) ++wrong;
+  if (differences != 0 || exported() != 3) ++wrong;
   checkRows(program);
   if (keys > 7) ++wrong;
   for (const char* name : names)

@@ -19,7 +19,7 @@ void openRow(QWidget& w, const char* list, int row) {
 
 // Whom the day is about; looked up before it begins.
 struct People {
-  std::string pays, paysClass;        // has paid everything but is paying the next term's fees
+  std::string pays, paysName, paysClass;        // has paid everything but is paying the next term's fees
   std::string owes, waived, corrected;  // with open arrears of one row
 };
 
@@ -39,6 +39,7 @@ struct School {
 People choosePeople(School& school) {
   People people;
   people.pays = school.value("select * from xs order by xh", "xh");
+  people.paysName = school.value(Sql("select * from xs where xh='") + people.pays + "'", "xm");
   people.paysClass = school.value(Sql("select * from xs where xh='") + people.pays + "'", "bjmc");
   std::string* const roles[] = {&people.owes, &people.waived, &people.corrected};
   std::size_t next = 0;
@@ -72,6 +73,9 @@ Steps lookAround() {
                    said("请确认打印机连接正常"),
                    {"preview", one.what + "报表预览", [](QWidget& w) { press(w, "close"); }},
                    {one.printing, one.what + "打印选项返回", [](QWidget& w) { press(w, "back"); }},
+                   {list, one.what + "导出", [](QWidget& w) { menu(w, "k8"); }},
+                   said("此操作将导出"),
+                   said("已导出，共"),
                    {list, one.what + "返回", [back = one.back](QWidget& w) { press(w, back); }}});
   }
   return steps;
@@ -164,6 +168,87 @@ Steps submit(const People& people) {
           said("这是一条已提交记录，前台不能删除它")};
 }
 
+// What the office asks of its students' money: by conditions, keyword, scope and term, who has not paid, who paid less.
+Steps askQuestions(const People& people) {
+  return {{"Formzct", "学籍查询前", [](QWidget& w) { menu(w, "k2"); }},
+          {"Formzct/students_zoom", "打开学籍查询", [](QWidget& w) { press(w, "students_open"); }},
+          {"Formzctxscx1", "学籍查询", [people](QWidget& w) {
+             pick(w, "bjmc", people.paysClass);
+             pick(w, "xb", "女");
+             press(w, "confirm");
+           }},
+          {"Formzct/students_zoom", "学籍查询结果", [](QWidget& w) { press(w, "students_open"); }},
+          {"Formzctxscx1", "按拼音缩小名单", [](QWidget& w) { type(w, "zymc", "jsj"); }},
+          {"Formzctxscx1", "改为单项查询", [](QWidget& w) { press(w, "single"); }},
+          {"Formzctxscx", "单项查询", [](QWidget& w) {
+             pick(w, "way", "模糊查询");
+             type(w, "value", "江西");
+             press(w, "confirm");
+           }},
+          {"Formzct/students_zoom", "单项查询结果", [](QWidget& w) { press(w, "students_back"); }},
+          {"Formzct", "交费查询前", [](QWidget& w) { menu(w, "k3"); }},
+          {"Formzct/payments_overview_zoom", "打开交费查询", [](QWidget& w) { press(w, "payments_open"); }},
+          {"Formzctsf31", "交费查询", [](QWidget& w) { press(w, "scope"); }},
+          {"Formzctsf3", "按范围查询", [people](QWidget& w) {
+             chooseOption(w, "班级信息");
+             chooseOption(w, "按学期");
+             pick(w, "of", people.paysClass);
+             pick(w, "xq", "2027学年上学期");
+             press(w, "confirm");
+           }},
+          {"Formzct/payments_overview_zoom", "按范围查询结果", [](QWidget& w) {
+             chooseRow(w, "payments_overview_rows", 0);
+             press(w, "payments_modify");
+           }},
+          {"Formzctsf1", "交费记录编辑", [](QWidget& w) { press(w, "cancel"); }},
+          {"Formzct/payments_overview_zoom", "交费返回", [](QWidget& w) { press(w, "payments_back"); }},
+          {"Formzct", "欠费查询前", [](QWidget& w) { menu(w, "k4"); }},
+          {"Formzct/arrears_overview_zoom", "打开欠费查询", [](QWidget& w) { press(w, "arrears_open"); }},
+          {"Formqfcl11", "欠费查询", [](QWidget& w) { chooseTab(w, "未交费学生名单"); }},
+          {"Formqfcl11", "未交费查询", [](QWidget& w) {
+             type(w, "unpaid_xq", "2027学年上学期");
+             press(w, "searchUnpaid");
+           }},
+          said("信息搜索完毕"),
+          {"Formzct/arrears_overview_zoom", "未交费学生名单", [](QWidget& w) { press(w, "arrears_open"); }},
+          {"Formqfcl11", "应交实交对比前", [](QWidget& w) { chooseTab(w, "应交实交金额对比"); }},
+          {"Formqfcl11", "应交实交对比", [](QWidget& w) {
+             type(w, "due", "3000");
+             type(w, "compared_xq", "2026学年下学期");
+             press(w, "compare");
+           }},
+          said("信息搜索完毕"),
+          {"Formzct/arrears_overview_zoom", "应交实交对比结果", [](QWidget& w) { press(w, "arrears_import"); }},
+          {"Formqfcl2", "应交费导入设置", [](QWidget& w) { press(w, "confirm"); }},
+          said("导入可能需要一定的时间"),
+          said("导入完毕"),
+          {"Formzct/arrears_overview_zoom", "再次导入", [](QWidget& w) { press(w, "arrears_import"); }},
+          {"Formqfcl2", "再次导入设置", [](QWidget& w) { press(w, "confirm"); }},
+          said("导入可能需要一定的时间"),
+          said("共导入应交费记录0条"),
+          {"Formzct/arrears_overview_zoom", "导入后返回", [](QWidget& w) { press(w, "arrears_close"); }}};
+}
+
+// The statement of the month and the one before, and a student who suspends studies.
+Steps lookAtTheSchool(const People& people) {
+  return {{"Formzct", "经营分析", [](QWidget& w) { menu(w, "cd11"); }},
+          {"Formkh", "经营损益", [](QWidget& w) { press(w, "previous"); }},
+          {"Formkh", "上月损益", [](QWidget& w) { press(w, "print"); }},
+          said("要打印经营损益表数据吗"),
+          {"preview", "损益表预览", [](QWidget& w) { press(w, "close"); }},
+          {"Formkh", "损益返回", [](QWidget& w) { press(w, "back"); }},
+          {"Formzct", "休学复课", [](QWidget& w) { menu(w, "cd72"); }},
+          {"Formxxfk", "休学复课名单", [](QWidget& w) { press(w, "add"); }},
+          {"Formxxfk1", "休学登记", [people](QWidget& w) {
+             pick(w, "bjmc", people.paysClass);
+             pick(w, "xm", people.paysName);
+             press(w, "confirm");
+           }},
+          {"Formxxfk", "休学已登记", [](QWidget& w) { press(w, "back"); }},
+          findStudent(people.pays, "休学中的学生"),
+          {"Formzct/class_strip", "休学状态", [](QWidget&) {}}};
+}
+
 int wrong = 0;
 
 void check(const char* what, const std::string& found, const std::string& expected) {
@@ -182,6 +267,8 @@ void checkDay(School& school, const People& people, long long paymentsBefore) {
   check("the state of the waived arrears", school.value(Sql("select * from qfjl where xh='") + people.waived + "'", "clfs"), "减免");
   check("the corrected arrears", std::to_string(school.count("select * from qfjl where bjje=888.8")), "1");
   check("what the user has not submitted", std::to_string(school.count("select * from jfjl where skr='王芳' and sftj<>'*'")), "0");
+  check("the suspension", school.value(Sql("select * from xxfk where xh='") + people.pays + "'", "fksj"), "");
+  check("the students suspended", std::to_string(school.count("select * from xxfk")), "1");
   check("the payments", std::to_string(school.count("select * from jfjl")),
         std::to_string(paymentsBefore + school.count(next)));
 }
@@ -197,7 +284,7 @@ int playDay(const std::filesystem::path& folder, const std::filesystem::path& pi
     paymentsBefore = before.count("select * from jfjl");
   }
   Steps steps = logIn("王芳");
-  for (const Steps& more : {lookAround(), payShort(people), followUp(people), correct(), submit(people), leave()}) append(steps, more);
+  for (const Steps& more : {lookAround(), payShort(people), followUp(people), correct(), submit(people), askQuestions(people), lookAtTheSchool(people), leave()}) append(steps, more);
   Player day(steps, pictures, numbered);
   app::Office(folder.string()).run();
   numbered = day.pictures();

@@ -8,6 +8,7 @@
 #include "qt/person.h"
 #include "qt/printing/qt_printer.h"
 #include "qt/progress.h"
+#include "sheets/xlsx_sheets.h"
 
 namespace app {
 
@@ -24,9 +25,10 @@ class Office {
   qt::QtNavigator navigator_;
   qt::QtClock clock_;
   qt::QtPrinter printer_;
+  sheets::XlsxSheets sheets_;
   qt::QtDesktop desktop_;
   qt::QtProgress progress_;
-  kit::Desk desk_{session_, store_, person_, navigator_, clock_, printer_, desktop_, progress_};
+  kit::Desk desk_{session_, store_, person_, navigator_, clock_, printer_, sheets_, desktop_, progress_};
 };
 
 }  // namespace app

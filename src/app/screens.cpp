@@ -3,9 +3,14 @@
 #include "arrears/arrears_delete.h"
 #include "arrears/arrears_edit.h"
 #include "arrears/arrears_entry.h"
+#include "arrears/arrears_query.h"
+#include "arrears/due_progress.h"
+#include "arrears/due_settings.h"
 #include "collection/batch_window.h"
 #include "collection/fee_window.h"
 #include "collection/fee_window_wait.h"
+#include "collection/payment_edit.h"
+#include "collection/payment_query.h"
 #include "collection/receipt_form.h"
 #include "collection/receipt_notes.h"
 #include "collection/receipt_print.h"
@@ -21,6 +26,7 @@
 #include "feesetup/form_standards.h"
 #include "feesetup/major_edit.h"
 #include "feesetup/setup.h"
+#include "reports/income_statement.h"
 #include "reports/print_options.h"
 #include "shell/about.h"
 #include "shell/console.h"
@@ -31,7 +37,12 @@
 #include "shell/view/shell_views.h"
 #include "students/class_transfer_window.h"
 #include "students/student_edit.h"
+#include "students/student_query.h"
 #include "students/student_view.h"
+#include "students/suspension_edit.h"
+#include "students/suspension_list.h"
+#include "students/suspension_query.h"
+#include "upkeep/clearing.h"
 #include "upkeep/first_run.h"
 #include "upkeep/password_change.h"
 #include "upkeep/user_edit.h"
@@ -63,6 +74,8 @@ const std::vector<Entry>& screens() {
       screen<upkeep::Formyhxx3>("Formyhxx3"),
       screen<students::Formzctxs>("Formzctxs"),
       screen<students::Formzctxsll>("Formzctxsll"),
+      screen<students::Formzctxscx>("Formzctxscx"),
+      screen<students::Formzctxscx1>("Formzctxscx1"),
       screen<students::Formtb>("Formtb"),
       screen<feesetup::Formsz>("Formsz"),
       screen<feesetup::Formszqt>("Formszqt"),
@@ -76,8 +89,15 @@ const std::vector<Entry>& screens() {
       screen<feesetup::Formszsfbz3>("Formszsfbz3"),
       screen<feesetup::Formszsfbz4>("Formszsfbz4"),
       screen<arrears::Formqfcl>("Formqfcl"),
+      screen<arrears::Formqfcl1>("Formqfcl1"),
+      screen<arrears::Formqfcl11>("Formqfcl11"),
       screen<arrears::Formqf>("Formqf"),
       screen<arrears::Formqfcl5>("Formqfcl5"),
+      screen<collection::Formzctsf1>("Formzctsf1"),
+      screen<collection::Formzctsf3>("Formzctsf3"),
+      screen<collection::Formzctsf31>("Formzctsf31"),
+      screen<arrears::Formqfcl2>("Formqfcl2"),
+      screen<arrears::Formqfcl3>("Formqfcl3"),
       screen<collection::Formzctsf4>("Formzctsf4"),
       screen<collection::Formzctsf6>("Formzctsf6"),
       screen<collection::Formzctsf8>("Formzctsf8"),
@@ -88,6 +108,14 @@ const std::vector<Entry>& screens() {
       screen<reports::Formzctxsdy>("Formzctxsdy"),
       screen<reports::Formzctjfjldy>("Formzctjfjldy"),
       screen<reports::Formzctqfjldy>("Formzctqfjldy"),
+      screen<reports::Formkh>("Formkh"),
+      screen<reports::Formkh1>("Formkh1"),
+      screen<upkeep::Formcsh3>("Formcsh3"),
+      screen<upkeep::Formcsh4>("Formcsh4"),
+      screen<students::Formxxfk3>("Formxxfk3"),
+      screen<students::Formxxfk>("Formxxfk"),
+      screen<students::Formxxfk1>("Formxxfk1"),
+      screen<students::Formxxfk2>("Formxxfk2"),
   };
   return all;
 }

@@ -10,7 +10,7 @@ using store::Sql;
 
 std::string nextArrearsNumber(store::Store& store, base::Date today) {
   RecordSet ledger(store, "select * from qfjl order by lsh");
-  return kit::numberOfDay(ledger, "lsh", today, "001");
+  return kit::numberOfDay(ledger, "lsh", today.digits(), "001");
 }
 
 void addArrears(store::Store& store, const ArrearsEntry& entry, base::Date today) {

@@ -13,7 +13,7 @@ using store::Sql;
 
 std::string nextRecordNumber(store::Store& store, base::Date today) {
   RecordSet ledger(store, Sql("select * from jfjl order by lsh"));
-  return kit::numberOfDay(ledger, "lsh", today, "0001");
+  return kit::numberOfDay(ledger, "lsh", today.digits(), "0001");
 }
 
 std::string nextReceiptNumber(store::Store& store) {

@@ -16,6 +16,7 @@ class Action : public Member {
   void setCaption(std::string caption);
   const std::string icon;      // name of a picture of the icon set; empty for none
   bool pictureAbove = false;   // picture above the caption instead of left of it
+  bool link = false;           // words alone, red under the mouse
 
   void onPress(Handler handler) { press_.push_back(std::move(handler)); }
   void press();  // the person's side

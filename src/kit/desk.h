@@ -10,6 +10,7 @@
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/printer.h"
+#include "platform/sheets.h"
 #include "store/store.h"
 
 namespace kit {
@@ -62,6 +63,7 @@ struct Desk {
   Navigator& navigator;
   platform::Clock& clock;
   platform::Printer& printer;
+  platform::Sheets& sheets;
   platform::Desktop& desktop;
   Progress& progress;
 };

@@ -29,6 +29,7 @@ class Field : public Member {
 
   std::optional<Colour> colour() const { return colour_; }  // of the text
   void setColour(std::optional<Colour> colour);
+  int calendarFrom = 0;       // where the calendar of an empty date opens, in days from today
   bool rightAligned = false;  // amounts
   bool prominent = false;     // shown large: a total, what the whole window is about
 

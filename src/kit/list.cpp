@@ -56,6 +56,7 @@ void List::empty() {
   window_.clear();
   windowFrom_ = -1;
   selected_ = -1;
+  ++version_;
 }
 
 void List::clear() {
@@ -66,6 +67,7 @@ void List::clear() {
 void List::addRow(const std::vector<std::string>& cells) {
   if (cells.size() != columns_.size()) throw std::logic_error(name + " takes one cell a column");
   for (const std::string& cell : cells) cells_.add(cell);
+  ++version_;
   changed();
 }
 

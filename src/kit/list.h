@@ -50,6 +50,7 @@ class List : public Member {
   // Empties the list and fills it from the set, first to last, by the columns. visit sees each row as it is added.
   void fill(store::RecordSet& set, const std::function<void(store::RecordSet&)>& visit = {});
   long long count() const;
+  long long version() const { return version_; }  // another one whenever the rows are others
   std::string_view cell(long long row, std::size_t column) const;  // until the next call
 
   long long selected() const { return selected_; }  // -1: none
@@ -78,7 +79,7 @@ class List : public Member {
   mutable std::optional<store::RecordSet> behind_;
   mutable Cells window_;
   mutable long long windowFrom_ = -1;
-  long long selected_ = -1;
+  long long selected_ = -1, version_ = 0;
   std::vector<Handler> select_, doubleClick_;
 };
 

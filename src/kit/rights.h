@@ -11,7 +11,7 @@ enum Right {
   PaymentModify = 9, PaymentDelete = 10, PaymentClear = 11, PaymentQuery = 12,
   ArrearsAdd = 13, ArrearsModify = 14, ArrearsDelete = 15, ArrearsClear = 16, ArrearsImport = 17, ArrearsQuery = 18,
   GrantRights = 29, NewStudent = 30, Collect = 31, DeleteUnsubmitted = 34, SeeAllUnsubmitted = 36,
-  WaiveArrears = 37, Income = 44,
+  WaiveArrears = 37, Resume = 40, SuspensionDelete = 41, SuspensionClear = 42, SuspensionQuery = 43, Income = 44,
   Recommendation = 70, ClassTransfer = 71,
 };
 

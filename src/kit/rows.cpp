@@ -17,13 +17,14 @@ void setEach(store::Store& store, const store::Sql& sql, std::string_view column
 
 void removeEach(store::Store& store, const store::Sql& sql) { store::RecordSet(store, sql).removeAll(); }
 
-std::string numberOfDay(store::RecordSet& ordered, std::string_view column, base::Date today, std::string_view first) {
+std::string numberOfDay(store::RecordSet& ordered, std::string_view column, std::string_view day,
+                        std::string_view first) {
   if (!ordered.empty()) {
     ordered.last();
     const std::string last = ordered.get(column).trimmed();
-    if (base::left(last, 8) == today.digits()) return base::nextNumber(last);
+    if (base::left(last, 8) == day) return base::nextNumber(last);
   }
-  return today.digits().append(first);
+  return std::string(day).append(first);
 }
 
 }  // namespace kit

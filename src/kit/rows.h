@@ -16,8 +16,9 @@ std::vector<std::string> columnTexts(store::Store& store, const store::Sql& sql,
 void setEach(store::Store& store, const store::Sql& sql, std::string_view column, const store::Value& value);
 void removeEach(store::Store& store, const store::Sql& sql);
 
-// The running number behind the last row of an ordered set: one more when that row is of today, otherwise today's eight
-// digits and the first number of a day. Good only inside the unit of work that writes it.
-std::string numberOfDay(store::RecordSet& ordered, std::string_view column, base::Date today, std::string_view first);
+// The running number behind the last row of an ordered set: one more when its first eight characters are the day's
+// digits, otherwise those digits and the first number of a day. Good only inside the unit of work that writes it.
+std::string numberOfDay(store::RecordSet& ordered, std::string_view column, std::string_view day,
+                        std::string_view first);
 
 }  // namespace kit

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "base/money.h"
 #include "store/record_set.h"
@@ -48,6 +50,7 @@ struct Session {
   Panel ConsolePanel = Panel::None;
   bool reload_student_list = false, reload_payment_list = false, reload_arrears_list = false;
   store::Sql student_where, payment_where, arrears_where;
+  std::string student_query, payment_heading;  // what a query says of its result; empty: the list's own words
   std::string student_selection, payment_selection, arrears_selection;
   std::string summary_xh;  // the student whose payments the summary adds up
   int arrears_list_mode = 1, payment_list_mode = 5;
@@ -63,6 +66,32 @@ struct Session {
     base::Money due, paid;
   };
   std::array<FeeLine, 10> fee_lines;
+
+  // The import of amounts due: what the settings screen chose, and whether the import then came to its end.
+  struct DueImport {
+    enum class Range { School, Major, Class, Form };
+    Range range = Range::School;
+    std::string value;       // the class or the enrolment form
+    std::string major_code;  // the first two characters of its students' system numbers
+    std::optional<std::string> item;  // nothing: all items
+    std::string term, lead, deadline;
+  } due_import;
+  bool due_import_ended = false;
+
+  // The income statement: the period that is asked for, and what the worker computed last.
+  int statement_year = 0, statement_month = 0;
+  struct IncomeLine {
+    std::string item;
+    base::Money month, year;
+  };
+  struct Income {
+    int year = 0, month = 0;
+    std::vector<IncomeLine> lines;
+  } income;
+
+  // Suspensions: the filter of their list, and whether a query has just set it.
+  store::Sql suspension_where;
+  bool suspensions_queried = false;
 
   // Receipt printing.
   std::string print_fpbh, print_xh, print_xm, print_bjmc, print_xq, print_jffs, print_jfrq;

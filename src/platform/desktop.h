@@ -26,6 +26,10 @@ class Desktop {
   // Width and height in pixels, depth in bits, rate in Hz. A wish: a desktop of today keeps its own mode.
   virtual void SetDisplayMode(int width, int height, int depth, int rate) = 0;
   virtual bool startProgram(const std::filesystem::path& program) = 0;  // does not wait; false: it could not be started
+  // Where the person finds what the program saves for them; it may have to be made.
+  virtual std::filesystem::path exportFolder() = 0;
+  virtual bool openDocument(
+      const std::filesystem::path& file) = 0;  // in the person's program for it; false: there is none
 };
 
 // Files of the program folder; a fault is a PlatformError that names the file.

@@ -1,10 +1,13 @@
 #include "qt/computer.h"
 
 #include <QDateTime>
+#include <QDesktopServices>
 #include <QGuiApplication>
 #include <QProcess>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QSysInfo>
+#include <QUrl>
 
 #include "qt/text.h"
 
@@ -33,6 +36,14 @@ void QtDesktop::SetDisplayMode(int width, int height, int depth, int rate) {
 
 bool QtDesktop::startProgram(const std::filesystem::path& program) {
   return QProcess::startDetached(toQt(program.string()), {}, toQt(program.parent_path().string()));
+}
+
+std::filesystem::path QtDesktop::exportFolder() {
+  return std::filesystem::path(fromQt(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))) / "导出";
+}
+
+bool QtDesktop::openDocument(const std::filesystem::path& file) {
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(toQt(file.string())));
 }
 
 }  // namespace qt

@@ -21,6 +21,8 @@ class QtDesktop : public platform::Desktop {
   std::filesystem::path programFolder() override { return folder_; }
   void SetDisplayMode(int width, int height, int depth, int rate) override;
   bool startProgram(const std::filesystem::path& program) override;
+  std::filesystem::path exportFolder() override;
+  bool openDocument(const std::filesystem::path& file) override;
 
   struct DisplayMode {
     int width, height, depth, rate;

@@ -123,7 +123,7 @@ void dropChoices(QLineEdit& below, const QStringList& choices, std::function<voi
   popup->popUp(list, QSize(wide, rows * row + 4));
 }
 
-void dropCalendar(QLineEdit& below, std::function<void(const QString&)> chosen) {
+void dropCalendar(QLineEdit& below, QDate at, std::function<void(const QString&)> chosen) {
   auto* popup = std::make_unique<Popup>(below).release();
   auto* calendar = new QCalendarWidget(popup);
   calendar->setLocale(QLocale(QLocale::Chinese, QLocale::China));
@@ -136,7 +136,8 @@ void dropCalendar(QLineEdit& below, std::function<void(const QString&)> chosen) 
   weekday.setForeground(theme::accent);
   calendar->setHeaderTextFormat(weekday);
   if (const auto date = base::Date::parse(fromQt(below.text().trimmed())))
-    calendar->setSelectedDate(QDate(date->year, date->month, date->day));
+    at = QDate(date->year, date->month, date->day);
+  calendar->setSelectedDate(at);
   const auto take = [popup, chosen](QDate date) {
     popup->close();
     chosen(toQt(base::Date{date.year(), date.month(), date.day()}.plain()));

@@ -26,6 +26,6 @@ class DropEdit : public QLineEdit {
 };
 
 void dropChoices(QLineEdit& below, const QStringList& choices, std::function<void(const QString&)> chosen);
-void dropCalendar(QLineEdit& below, std::function<void(const QString&)> chosen);
+void dropCalendar(QLineEdit& below, QDate at, std::function<void(const QString&)> chosen);  // at: when it is empty
 
 }  // namespace qt

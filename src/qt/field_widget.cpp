@@ -1,10 +1,15 @@
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QDate>
 #include <QLabel>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
+#include <QStringListModel>
 #include <QStyleOptionFrame>
 #include <algorithm>
 
+#include "base/pinyin.h"
 #include "qt/drop_edit.h"
 #include "qt/member_widgets.h"
 #include "qt/text.h"
@@ -114,11 +119,40 @@ void take(kit::Field& field, Renderer& renderer, const QString& choice) {
   if (renderer.reachable(field) && std::find(choices.begin(), choices.end(), text) != choices.end()) field.take(text);
 }
 
+// While something is typed, a list below narrows to the entries that are meant by it; the focus stays in the edit, and
+// what was typed counts as it stands unless an entry is chosen with the arrow keys or the mouse.
+void narrowWhileTyping(DropEdit& edit, kit::Field& field, Renderer& renderer) {
+  constexpr qsizetype mostOffered = 50;
+  auto* model = new QStringListModel(&edit);
+  auto* completer = new QCompleter(model, &edit);
+  completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
+  completer->setMaxVisibleItems(12);
+  completer->setWidget(&edit);
+  QObject::connect(completer, qOverload<const QString&>(&QCompleter::activated), &renderer,
+                   [&field, &renderer](const QString& choice) { take(field, renderer, choice); });
+  QObject::connect(&edit, &QLineEdit::textEdited, &renderer, [&field, &renderer, &edit, model, completer](const QString& typed) {
+    completer->popup()->hide();
+    if (typed.trimmed().isEmpty() || !renderer.reachable(field)) return;
+    if (field.choices().empty()) field.drop();
+    if (!renderer.reachable(field)) return;
+    QStringList meant;
+    const std::string text = fromQt(typed);
+    for (const std::string& choice : field.choices()) {
+      if (meant.size() == mostOffered) break;
+      if (base::meantBy(choice, text)) meant << toQt(choice);
+    }
+    if (meant.isEmpty() || (meant.size() == 1 && meant.front() == typed)) return;
+    model->setStringList(meant);
+    completer->complete();
+  });
+}
+
 QWidget* dropField(kit::Field& field, Renderer& renderer) {
   auto* edit = new DropEdit("chevron-down", nullptr);
   edit->setReadOnly(field.entry == Entry::Choose);
   edit->opensByDoubleClick = !field.handlesDoubleClick();
   keepInStep(*edit, field, renderer);
+  if (field.entry == Entry::Pick) narrowWhileTyping(*edit, field, renderer);
   const auto fill = [&field, &renderer] {
     if (renderer.reachable(field)) field.drop();
     return renderer.reachable(field) && !field.choices().empty();
@@ -152,7 +186,7 @@ QWidget* dateField(kit::Field& field, Renderer& renderer) {
   keepInStep(*edit, field, renderer);
   QObject::connect(edit, &DropEdit::dropWanted, &renderer, [edit, &field, &renderer] {
     if (!renderer.reachable(field)) return;
-    dropCalendar(*edit, [&](const QString& date) {
+    dropCalendar(*edit, QDate::currentDate().addDays(field.calendarFrom), [&](const QString& date) {
       if (renderer.reachable(field)) field.take(fromQt(date));
     });
   });

@@ -1,8 +1,11 @@
 #include "qt/list_model.h"
 
 #include <algorithm>
+#include <numeric>
 #include <vector>
 
+#include "base/pinyin.h"
+#include "base/text.h"
 #include "qt/text.h"
 
 namespace qt {
@@ -17,6 +20,10 @@ bool isAmount(const kit::ListColumn& column) {
 
 void ListModel::refresh() {
   const int rows = static_cast<int>(list_.count()), columns = static_cast<int>(list_.columns().size());
+  if (version_ != list_.version()) {
+    version_ = list_.version();
+    order_.clear();  // other rows first appear in their own order
+  }
   if (rows == rows_ && columns == columns_) {
     if (rows > 0) emit dataChanged(index(0, 0), index(rows - 1, columns - 1));
     return;
@@ -25,6 +32,69 @@ void ListModel::refresh() {
   rows_ = rows;
   columns_ = columns;
   endResetModel();
+}
+
+namespace {
+
+// What a column is ordered by: amounts and days by what they are, texts as they are read.
+std::string sortKey(std::string_view cell, kit::Format format) {
+  const std::string text = base::trim(cell);
+  std::string key(8, '\0');
+  const auto number = [&](std::int64_t value) {
+    auto bits = static_cast<std::uint64_t>(value) ^ (1ULL << 63);  // so that bytes order as the numbers do
+    for (std::size_t i = 8; i > 0; --i, bits >>= 8) key[i - 1] = static_cast<char>(bits & 0xff);
+    return key;
+  };
+  switch (format) {
+    case kit::Format::Money:
+    case kit::Format::Padded:
+      return number(base::Money::leading(text).units());
+    case kit::Format::Date:
+      if (const auto day = base::Date::parse(text)) return number(day->year * 10000 + day->month * 100 + day->day);
+      return "";
+    default:
+      return base::readingKey(text);
+  }
+}
+
+}  // namespace
+
+void ListModel::sortBy(int column, Qt::SortOrder order) {
+  const auto at = static_cast<std::size_t>(column);
+  const kit::Format format = list_.columns().at(at).format;
+  std::vector<std::string> keys;
+  keys.reserve(static_cast<std::size_t>(rows_));
+  for (int row = 0; row < rows_; ++row) keys.push_back(sortKey(list_.cell(row, at), format));
+  std::vector<int> sorted(keys.size());
+  std::iota(sorted.begin(), sorted.end(), 0);
+  std::stable_sort(sorted.begin(), sorted.end(), [&](int a, int b) {
+    const auto& first = keys[static_cast<std::size_t>(order == Qt::AscendingOrder ? a : b)];
+    return first < keys[static_cast<std::size_t>(order == Qt::AscendingOrder ? b : a)];
+  });
+  emit layoutAboutToBeChanged();
+  order_ = std::move(sorted);
+  emit layoutChanged();
+}
+
+void ListModel::unsort() {
+  emit layoutAboutToBeChanged();
+  order_.clear();
+  emit layoutChanged();
+}
+
+int ListModel::shownRow(long long listRow) const {
+  if (order_.empty()) return static_cast<int>(listRow);
+  return static_cast<int>(std::find(order_.begin(), order_.end(), listRow) - order_.begin());
+}
+
+QString ListModel::text(const QModelIndexList& rows) const {
+  QString all;
+  for (const QModelIndex& index : rows) {
+    QStringList cells;
+    for (int column = 0; column < columns_; ++column) cells << data(this->index(index.row(), column), Qt::DisplayRole).toString();
+    all += cells.join('\t') + '\n';
+  }
+  return all;
 }
 
 long long ListModel::find(const QString& start, long long from) const {
@@ -38,7 +108,7 @@ long long ListModel::find(const QString& start, long long from) const {
     const long long row = (from + i) % count;
     for (std::size_t column = 0; column < columns; ++column) {
       if (hits[column] >= 0) continue;
-      std::string_view cell = list_.cell(row, column);
+      std::string_view cell = list_.cell(listRow(static_cast<int>(row)), column);
       cell.remove_prefix(std::min(cell.find_first_not_of(' '), cell.size()));
       if (cell.starts_with(prefix)) hits[column] = row;
     }
@@ -51,7 +121,7 @@ long long ListModel::find(const QString& start, long long from) const {
 QVariant ListModel::data(const QModelIndex& index, int role) const {
   if (index.row() >= list_.count() || index.column() >= static_cast<int>(list_.columns().size())) return {};
   const auto column = static_cast<std::size_t>(index.column());
-  if (role == Qt::DisplayRole) return toQt(list_.cell(index.row(), column)).trimmed();
+  if (role == Qt::DisplayRole) return toQt(list_.cell(listRow(index.row()), column)).trimmed();
   if (role == Qt::TextAlignmentRole)
     return QVariant::fromValue(Qt::AlignVCenter | (isAmount(list_.columns()[column]) ? Qt::AlignRight : Qt::AlignLeft));
   return {};

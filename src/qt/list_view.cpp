@@ -15,7 +15,7 @@ constexpr int searchPause = 1500;  // milliseconds after which typing starts a n
 
 ListView::ListView(QWidget* parent) : QTableView(parent), notice_(new QLabel(this)) {
   setSelectionBehavior(SelectRows);
-  setSelectionMode(SingleSelection);
+  setSelectionMode(ExtendedSelection);  // the current row is the one that counts; more can be copied
   setEditTriggers(NoEditTriggers);
   setAlternatingRowColors(true);
   setTabKeyNavigation(false);
@@ -56,6 +56,7 @@ void ListView::keyPressEvent(QKeyEvent* event) {
     if (currentIndex().isValid() && !event->isAutoRepeat()) emit opened(currentIndex().row());
     return;
   }
+  if (event->matches(QKeySequence::Copy)) return emit copyWanted();
   QTableView::keyPressEvent(event);
 }
 

@@ -17,6 +17,7 @@ class ListView : public QTableView {
  signals:
   void searched(const QString& start, bool further);  // further: longer than the last, from the same row on
   void opened(int row);
+  void copyWanted();
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

@@ -1,7 +1,12 @@
+#include <QClipboard>
+#include <QEvent>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QMenu>
 #include <QScopedValueRollback>
+#include <QSettings>
 #include <QToolTip>
+#include <algorithm>
 #include <memory>
 
 #include "qt/list_model.h"
@@ -21,14 +26,29 @@ class ListLink : public QObject {
   ListLink(kit::List& list, ListView& view, Renderer& renderer)
       : QObject(&view), list_(list), view_(view), renderer_(renderer), model_(list, this) {
     view.setModel(&model_);
+    view.installEventFilter(this);
+    QHeaderView* header = view.horizontalHeader();
+    header->setSectionsClickable(true);
+    connect(header, &QHeaderView::sectionClicked, this, [this](int column) { sortBy(column); });
+    connect(header, &QHeaderView::sectionResized, this, [this] { rememberWidths(); });
+    connect(&view, &ListView::copyWanted, this, [this] {
+      auto rows = view_.selectionModel()->selectedRows();
+      std::sort(rows.begin(), rows.end());
+      QGuiApplication::clipboard()->setText(model_.text(rows));
+    });
     connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& now) { personChose(now.row()); });
     connect(&view, &ListView::opened, this, [this](int row) {
-      if (renderer_.reachable(list_) && row < list_.count()) list_.doubleClick(row);
+      if (renderer_.reachable(list_) && row < list_.count()) list_.doubleClick(model_.listRow(row));
     });
     connect(&view, &ListView::searched, this, [this](const QString& start, bool further) { search(start, further); });
     view.setContextMenuPolicy(Qt::CustomContextMenu);
     connect(&view, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) { popUpMenu(at); });
+  }
+
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (event->type() == QEvent::Show) recallWidths();  // only now it stands in its window, by whose name they are kept
+    return QObject::eventFilter(object, event);
   }
 
   // A list that is filled row by row tells of each: all of them are shown at once, when the event is over.
@@ -45,11 +65,12 @@ class ListLink : public QObject {
     QStringList headings;
     for (const kit::ListColumn& column : list_.columns()) headings << toQt(column.heading);
     model_.refresh();
+    if (!model_.isSorted()) view_.horizontalHeader()->setSortIndicatorShown(false);
     if (headings != headings_) {
       headings_ = headings;
       setWidths();
     }
-    const int row = static_cast<int>(list_.selected());
+    const int row = list_.selected() < 0 ? -1 : model_.shownRow(list_.selected());
     if (row < 0) {
       view_.setCurrentIndex({});
       view_.clearSelection();
@@ -60,20 +81,64 @@ class ListLink : public QObject {
   }
 
  private:
+  // Up, down, and as the list stands by itself.
+  void sortBy(int column) {
+    QHeaderView* header = view_.horizontalHeader();
+    const bool sortedByIt = model_.isSorted() && header->sortIndicatorSection() == column;
+    const bool wasUp = header->sortIndicatorOrder() == Qt::AscendingOrder;
+    if (!sortedByIt && list_.count() > ListModel::mostSorted)
+      return QToolTip::showText(view_.mapToGlobal(QPoint(8, 8)),
+                                QString("记录超过 %1 行，请先用“打开”缩小范围再排序。").arg(ListModel::mostSorted), &view_);
+    const QScopedValueRollback quiet(showing_, true);
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const bool sorts = !sortedByIt || wasUp;
+    if (sorts) {
+      const Qt::SortOrder order = sortedByIt ? Qt::DescendingOrder : Qt::AscendingOrder;
+      model_.sortBy(column, order);
+      header->setSortIndicator(column, order);
+    } else {
+      model_.unsort();
+    }
+    header->setSortIndicatorShown(sorts);
+    QGuiApplication::restoreOverrideCursor();
+    changed();
+  }
+
+  // The widths that a person has given the columns, kept on this computer for the next time.
+  QString widthsKey() const {
+    return view_.window()->objectName() + "/" + toQt(list_.name) + "/" + QString::number(list_.columns().size());
+  }
+  void rememberWidths() {
+    if (!(QGuiApplication::mouseButtons() & Qt::LeftButton)) return;  // the window has grown, no person has drawn
+    QVariantList widths;
+    for (int i = 0; i < view_.model()->columnCount(); ++i) widths << view_.columnWidth(i);
+    listSettings().setValue(widthsKey(), widths);
+  }
+  void recallWidths() {
+    const QVariantList widths = listSettings().value(widthsKey()).toList();
+    for (int i = 0; i < widths.size() && i < view_.model()->columnCount(); ++i) view_.setColumnWidth(i, widths[i].toInt());
+  }
+  static QSettings& listSettings() {
+    static QSettings settings(QSettings::IniFormat, QSettings::UserScope, "fee-office", "lists");
+    return settings;
+  }
+
   void setWidths() {
     for (int i = 0; i < static_cast<int>(list_.columns().size()); ++i) {
       const auto& column = list_.columns()[static_cast<std::size_t>(i)];
       const int heading = view_.horizontalHeader()->fontMetrics().horizontalAdvance(toQt(column.heading).trimmed());
       view_.setColumnWidth(i, qMax(charactersWide(view_.fontMetrics(), column.width), heading) + cellMargins);
     }
+    if (view_.isVisible()) recallWidths();
     // An amount that stands on the right stays beside what it belongs to.
     view_.horizontalHeader()->setStretchLastSection(list_.columns().empty() || !isAmount(list_.columns().back()));
   }
 
   void personChose(int row) {
     if (showing_) return;
-    if (row >= 0 && row < list_.count() && renderer_.reachable(list_)) list_.select(row);
-    if (list_.selected() != row) changed();
+    const long long chosen = row < 0 ? row : model_.listRow(row);
+    if (chosen >= 0 && chosen < list_.count() && renderer_.reachable(list_)) list_.select(chosen);
+    if (list_.selected() != chosen) changed();
   }
 
   void search(const QString& start, bool further) {

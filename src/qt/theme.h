@@ -24,6 +24,7 @@ const QColor quiet(84, 108, 112);   // labels and notes
 const QColor faint(134, 156, 159);  // what is disabled
 const QColor rule(176, 203, 203);
 const QColor paper(255, 255, 255);
+const QColor found(255, 226, 120);  // behind a text that was searched for
 const QColor paperAlternate(244, 250, 250);
 const QColor stop(186, 45, 45);
 const QColor warning(176, 112, 8);

@@ -26,20 +26,23 @@ struct Place {
   double x, width;
 };
 
+bool onTheRight(Shows shows) { return shows == Shows::Number || shows == Shows::Money; }
+
+// What stands on the right of its column keeps clear of the column behind it.
 std::vector<Place> placesOf(const std::vector<Column>& columns) {
+  constexpr double gap = 2;
   double all = 0;
   for (const Column& column : columns) all += column.width;
   std::vector<Place> places;
   double x = left;
   for (const Column& column : columns) {
     const double width = (right - left) * column.width / all;
-    places.push_back({x, width});
+    const bool clear = onTheRight(column.shows) && &column != &columns.back();
+    places.push_back({x, width - (clear ? gap : 0)});
     x += width;
   }
   return places;
 }
-
-bool onTheRight(Shows shows) { return shows == Shows::Number || shows == Shows::Money; }
 
 std::string shown(const store::Value& value, Shows shows) {
   switch (shows) {
@@ -111,8 +114,9 @@ void Writer::startPage() {
   const Place whole{left, right - left};
   if (firstPage || report.furniture != Furniture::TitleOnce)
     put(page(), whole, titleTop - aboveText, report.title, Align::Centre, titleSize);
-  if (report.furniture != Furniture::Library) put(page(), {left, 86}, furnitureTop, "学校名称：" + printing.school);
-  put(page(), {left + 88, 56}, furnitureTop, "打印时间：" + printing.time.plain());
+  const bool school = report.furniture != Furniture::Library;
+  if (school) put(page(), {left, 86}, furnitureTop, "学校名称：" + printing.school);
+  put(page(), {school ? left + 88 : left, 56}, furnitureTop, "打印时间：" + printing.time.plain());
   y = tableTop;
   rule(y);
   if (!report.card()) headings();

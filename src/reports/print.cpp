@@ -1,33 +1,13 @@
 #include "reports/print.h"
 
 #include "reports/drawing.h"
+#include "reports/notice.h"
 
 namespace reports {
 namespace {
 
 using store::RecordSet;
 using store::Sql;
-
-// The notice of long work; it goes when the work ends, also by a fault.
-class Notice {
- public:
-  explicit Notice(kit::Desk& desk) : progress_(desk.progress) {}
-  ~Notice() {
-    if (shown_) progress_.hide();
-  }
-  Notice(const Notice&) = delete;
-  Notice& operator=(const Notice&) = delete;
-  void count(const char* text, long long done) {
-    constexpr long long step = 500;
-    if (done % step != 0) return;
-    shown_ = true;
-    progress_.show(text, done);
-  }
-
- private:
-  kit::Progress& progress_;
-  bool shown_ = false;
-};
 
 }  // namespace
 
@@ -56,8 +36,8 @@ std::vector<std::string_view> columnsOf(std::string_view table) {
   return names;
 }
 
-bool mayPrint(kit::Desk& desk, const std::string& question) {
-  return desk.person.ask(kit::Box::AskWarning, question + "\n点“是”继续；否则，点“否”撤销此操作！ ", "信息提示");
+bool mayPrint(kit::Desk& desk, const std::string& question, const std::string& title) {
+  return desk.person.ask(kit::Box::AskWarning, question + "\n点“是”继续；否则，点“否”撤销此操作！ ", title);
 }
 
 void showReport(kit::Desk& desk, std::string_view name) {

@@ -25,7 +25,7 @@ long long refill(kit::Desk& desk, const char* table, const store::Sql& source,
 // All columns of a table, for those whose print table is alike.
 std::vector<std::string_view> columnsOf(std::string_view table);
 
-bool mayPrint(kit::Desk& desk, const std::string& question);
+bool mayPrint(kit::Desk& desk, const std::string& question, const std::string& title = "信息提示");
 
 // A preview of the report over its table as it stands; nothing when the table has no rows.
 void showReport(kit::Desk& desk, std::string_view name);

@@ -7,17 +7,23 @@
 #include "feesetup/desk_settings.h"
 #include "feesetup/setup.h"
 #include "kit/settings.h"
+#include "reports/export.h"
+#include "reports/income_statement.h"
 #include "reports/print_options.h"
 #include "shell/about.h"
 #include "shell/rights.h"
 #include "students/class_transfer_window.h"
 #include "students/student_edit.h"
+#include "students/suspension_list.h"
+#include "upkeep/clearing.h"
 #include "upkeep/password_change.h"
 #include "upkeep/user_list.h"
 #include "upkeep/user_rights.h"
 
 namespace shell {
 
+using reports::exportList;
+using reports::List;
 using store::RecordSet;
 using store::Sql;
 
@@ -56,6 +62,7 @@ void Formzct::load() {
 
 void Formzct::wireMenu() {
   const auto opens = [this](kit::Action& entry, auto open) { entry.onPress(open); };
+  opens(cd11, [this] { desk.session.EditMode = reports::openStatement; open<reports::Formkh1>(); });
   opens(cd13, [this] { leaveProgram(); });
   opens(cd14, [this] { open<students::Formtb>(); });
   opens(cd21, [this] { open<feesetup::Formsz>(); classes.fillTree(); });
@@ -65,9 +72,10 @@ void Formzct::wireMenu() {
   opens(cd31, [this] { open<upkeep::Formyhxx>(); });
   opens(cd32, [this] { open<upkeep::Formyhxx3>(); });
   opens(cd33, [this] { open<upkeep::Formyhxx1>(); });
+  opens(cd34, [this] { open<upkeep::Formcsh3>(); });
   opens(cd43, [this] { open<Formcsh2>(); });
-  for (kit::Action* entry : {&cd11, &cd121, &cd77, &cd70, &cd75, &cd71, &cd72, &cd73, &cd76, &cd74, &cd34, &cd41,
-                             &cd42, &cd44})
+  opens(cd72, [this] { open<students::Formxxfk3>(); });
+  for (kit::Action* entry : {&cd121, &cd77, &cd70, &cd75, &cd71, &cd73, &cd76, &cd74, &cd41, &cd42, &cd44})
     entry->onPress([this, entry] { notYet(entry->caption()); });
 }
 
@@ -125,7 +133,14 @@ void Formzct::wireToolbar() {
     if (panel == kit::Panel::Payments) open<reports::Formzctjfjldy>();
     if (panel == kit::Panel::Arrears) open<reports::Formzctqfjldy>();
   });
-  chain(k8, {StudentQuery, PaymentQuery, ArrearsQuery}, [this](kit::Panel) { notYet(k8.caption()); });
+  chain(k8, {StudentQuery, PaymentQuery, ArrearsQuery}, [this](kit::Panel panel) {
+    const int mode = desk.session.arrears_list_mode;
+    if (panel == kit::Panel::Students) return exportList(desk, List::Students, desk.session.student_where);
+    if (panel == kit::Panel::Payments) return exportList(desk, List::Payments, desk.session.payment_where);
+    if (mode == 2) return exportList(desk, List::Unpaid);
+    if (mode == 3) return exportList(desk, List::Comparison);
+    exportList(desk, List::Arrears, desk.session.arrears_where);
+  });
   chain(k9, {StudentClear, PaymentClear, ArrearsClear}, [this](kit::Panel panel) { clearPanel(panel); });
 }
 

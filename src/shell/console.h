@@ -73,7 +73,10 @@ class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
   void closeOverviews();
   Filled fill(Overview& overview);
   void openPanel();
+  void refillWhenAsked();
   void refillAfterQuery();
+  void queryArrears();
+  void editPayment(kit::Mode mode);
   void editStudent(kit::Mode mode);
   void addArrears();
   void editArrears(kit::Mode mode);

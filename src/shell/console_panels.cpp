@@ -2,13 +2,18 @@
 #include "arrears/arrears_delete.h"
 #include "arrears/arrears_edit.h"
 #include "arrears/arrears_entry.h"
+#include "arrears/arrears_query.h"
+#include "arrears/due_settings.h"
 #include "arrears/waiver.h"
 #include "base/text.h"
 #include "collection/fee_window.h"
+#include "collection/payment_edit.h"
+#include "collection/payment_query.h"
 #include "kit/rows.h"
 #include "shell/console.h"
 #include "shell/rights.h"
 #include "students/student_edit.h"
+#include "students/student_query.h"
 #include "students/student_view.h"
 
 namespace shell {
@@ -30,10 +35,18 @@ void Formzct::wireOverviews() {
                              Place{&arrears_overview, &session.arrears_selection}}) {
     Overview& overview = *place.overview;
     overview.list.onSelect([&overview, selection = place.selection] { *selection = overview.list.key(); });
-    overview.button("打开").onPress([this] { notYet("查询"); });
     overview.button("返回").onPress([this] { closeOverviews(); });
   }
 
+  students_overview.button("打开").onPress([this] {
+    open<students::Formzctxscx1>();
+    refillWhenAsked();
+  });
+  payments_overview.button("打开").onPress([this] {
+    open<collection::Formzctsf31>();
+    refillWhenAsked();
+  });
+  arrears_overview.button("打开").onPress([this] { queryArrears(); });
   students_overview.button("添加").onPress([this] { editStudent(kit::Mode::Add); });
   students_overview.button("修改").onPress([this] { editStudent(kit::Mode::Modify); });
   students_overview.button("删除").onPress([this] { editStudent(kit::Mode::Delete); });
@@ -43,9 +56,12 @@ void Formzct::wireOverviews() {
     open<students::Formzctxsll>();
   });
   payments_overview.list.setTip("双击选定记录修改");
-  for (const char* caption : {"修改", "删除"})
-    payments_overview.button(caption).onPress([this] { notYet("交费记录编辑"); });
-  payments_overview.list.onDoubleClick([this] { notYet("交费记录编辑"); });
+  kit::Action& modifyPayment = payments_overview.button("修改");
+  modifyPayment.onPress([this] { editPayment(kit::Mode::Modify); });
+  payments_overview.button("删除").onPress([this] { editPayment(kit::Mode::Delete); });
+  payments_overview.list.onDoubleClick([this, &modifyPayment] {
+    if (modifyPayment.enabled()) editPayment(kit::Mode::Modify);
+  });
   kit::Action& modifyArrears = arrears_overview.button("修改");
   modifyArrears.onPress([this] { editArrears(kit::Mode::Modify); });
   arrears_overview.button("删除").onPress([this] { editArrears(kit::Mode::Delete); });
@@ -55,7 +71,10 @@ void Formzct::wireOverviews() {
   cd91.onPress([this] { waiveInOverview(false); });
   cd92.onPress([this] { waiveInOverview(true); });
   arrears_overview.list.menu = arrearsOverviewPopUp();
-  arrears_overview.button("导入").onPress([this] { notYet("应交费用导入"); });
+  arrears_overview.button("导入").onPress([this] {
+    open<arrears::Formqfcl2>();
+    fill(arrears_overview);
+  });
   arrears_overview.button("添加").onPress([this] { addArrears(); });
 }
 
@@ -100,6 +119,21 @@ Filled Formzct::fill(Overview& overview) {
   return fillArrears(overview, desk);
 }
 
+void Formzct::refillWhenAsked() {
+  const auto& session = desk.session;
+  if (session.reload_student_list || session.reload_payment_list || session.reload_arrears_list) timer4.start();
+}
+
+// Arrears can be edited as soon as their list is chosen; the two computed lists cannot.
+void Formzct::queryArrears() {
+  open<arrears::Formqfcl11>();
+  if (!desk.session.reload_arrears_list) return;
+  const bool arrears = desk.session.arrears_list_mode == 1;
+  for (const char* caption : {"添加", "修改", "删除"}) arrears_overview.button(caption).enable(arrears);
+  if (arrears) timer4.start();
+  else refillAfterQuery();
+}
+
 void Formzct::refillAfterQuery() {
   timer4.stop();
   auto& session = desk.session;
@@ -114,6 +148,8 @@ void Formzct::refillAfterQuery() {
     wanted.reload = false;
     fill(wanted.overview);
   }
+  if (!session.student_query.empty()) ready.set(session.student_query);
+  if (!session.payment_heading.empty()) payments_overview.bar.set(session.payment_heading);
   desk.progress.hide();
 }
 
@@ -140,6 +176,13 @@ void Formzct::editStudent(kit::Mode mode) {
   if (mode == kit::Mode::Add)
     desk.session.student_where = Sql(" where bsh='") + base::trim(desk.session.ComputerName) + "'";
   fill(students_overview);
+}
+
+void Formzct::editPayment(kit::Mode mode) {
+  if (desk.session.payment_selection.empty()) return;
+  desk.session.EditMode = mode;
+  open<collection::Formzctsf1>();
+  fill(payments_overview);
 }
 
 void Formzct::addArrears() {

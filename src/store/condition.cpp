@@ -98,8 +98,11 @@ class Writer {
 
  private:
   std::string bound(Cell value) {
+    const Stored form = std::holds_alternative<std::string>(value) ? Stored::Text
+                        : std::holds_alternative<double>(value)    ? Stored::Real
+                                                                   : Stored::Whole;
     values_.push_back(std::move(value));
-    return phrases_.place(values_.size() - 1);
+    return phrases_.place(values_.size() - 1, form);
   }
 
   std::string joined(const std::vector<Expr>& parts, const char* word) {
@@ -309,17 +312,18 @@ class Writer {
     return money ? Operand{plain(asMoney(left), expr.kind, asMoney(right).sql), Type::Money}
                  : Operand{plain(left, expr.kind, right.sql), Type::Number};
   }
+  static std::string real(const Operand& value) { return "cast(" + value.sql + " as double precision)"; }
   Operand product(const Expr& expr) {
     const Operand left = numeric(expr.parts[0]), right = numeric(expr.parts[1]);
     const bool both = left.type == Type::Money && right.type == Type::Money;
     const bool money = left.type == Type::Money || right.type == Type::Money;
-    return {"(" + left.sql + " * " + right.sql + (both ? " / 10000.0)" : ")"), money ? Type::Money : Type::Number};
+    return {"(" + real(left) + " * " + right.sql + (both ? " / 10000)" : ")"), money ? Type::Money : Type::Number};
   }
   Operand quotient(const Expr& expr) {
     const Operand left = numeric(expr.parts[0]), right = numeric(expr.parts[1]);
     const bool scaled = left.type != Type::Money && right.type == Type::Money;
     const bool money = left.type == Type::Money && right.type != Type::Money;
-    return {"(" + left.sql + (scaled ? " * 10000.0" : " * 1.0") + " / nullif(" + right.sql + ", 0))",
+    return {"(" + real(left) + (scaled ? " * 10000" : "") + " / nullif(" + right.sql + ", 0))",
             money ? Type::Money : Type::Number};
   }
 

@@ -6,6 +6,11 @@
 #include "store/typing.h"
 
 namespace store {
+namespace {
+
+constexpr std::ptrdiff_t readAhead = 64;
+
+}  // namespace
 
 Cursor::Cursor(std::shared_ptr<Database> database, Query query)
     : database_(std::move(database)), query_(std::move(query)), generation_(database_->generation()) {
@@ -29,13 +34,15 @@ void Cursor::drop() {
   atFirst_ = unread_ = false;
   row_.reset();
   rest_.clear();
+  ahead_.clear();
   groups_.clear();
+  interrupted_ = false;
   place_ = Place::Before;
 }
 
 void Cursor::start(const std::string& sql, bool single) {
   drop();
-  stream_ = Loan(database(), sql, query_.values);
+  stream_ = Loan(database(), sql, query_.values, single ? Rows::Few : Rows::Many);
   single_ = single;
   step();
   atFirst_ = !single && place_ == Place::Row;
@@ -44,7 +51,7 @@ void Cursor::start(const std::string& sql, bool single) {
 // Goes on behind the first row, which may not be the first any more: then all others come behind it.
 void Cursor::resume() {
   unread_ = false;
-  stream_ = Loan(database(), query_.walk, query_.values);
+  stream_ = Loan(database(), query_.walk, query_.values, Rows::Many);
   bool row = stream_->step();
   if (row && stream_->integer(0) == rowNo_) return;
   for (; row; row = stream_->step()) {
@@ -54,6 +61,7 @@ void Cursor::resume() {
 }
 
 void Cursor::step() {
+  row_.reset();  // of the row before, read while the stream was let go of
   if (single_ && place_ == Place::Row) {
     place_ = Place::End;
   } else {
@@ -76,6 +84,7 @@ bool Cursor::atRow() {
 
 void Cursor::next() {
   if (!atRow()) return;
+  if (interrupted_) throw StoreError(Fault::Other, "读取到一半时中断了，请刷新后再试！");
   if (unread_) resume();
   atFirst_ = false;
   if (stream_) return step();
@@ -87,8 +96,8 @@ void Cursor::next() {
   }
   while (!rest_.empty()) {
     rowNo_ = rest_.front();
+    row_ = fetchAhead();
     rest_.pop_front();
-    row_ = fetch(rowNo_);
     if (row_) return;
   }
   place_ = Place::End;
@@ -100,6 +109,7 @@ std::int64_t Cursor::rowNo() {
 }
 
 Value Cursor::value(std::size_t column) {
+  if (query_.columns[column]->type == Type::Bytes && !query_.grouped) return bytes(column);
   if (stream_) return read(*stream_, static_cast<int>(column) + 1, query_.columns[column]->type);
   rowNo();
   if (stream_) return value(column);
@@ -145,9 +155,18 @@ long long Cursor::count() {
 }
 
 void Cursor::release() {
-  if (!stream_ || !atFirst_ || query_.grouped) return pinStream();
-  stream_.giveBack();
-  unread_ = true;
+  ahead_.clear();
+  if (stream_ && atFirst_ && !query_.grouped) {
+    stream_.giveBack();
+    unread_ = true;
+    return;
+  }
+  try {
+    pinStream();
+  } catch (const StoreError&) {  // told to who goes on with the walk
+    stream_.giveBack();
+    interrupted_ = true;
+  }
 }
 
 void Cursor::pin() {
@@ -169,7 +188,13 @@ void Cursor::pinStream() {
 }
 
 void Cursor::forget() {
+  ahead_.clear();
   if (!query_.grouped) row_.reset();
+}
+
+void Cursor::forget(std::int64_t rowNo) {
+  ahead_.erase(rowNo);
+  if (!query_.grouped && rowNo == rowNo_) row_.reset();
 }
 
 Cursor::Row Cursor::rowOf(const Statement& statement) const {
@@ -182,8 +207,30 @@ Cursor::Row Cursor::rowOf(const Statement& statement) const {
 }
 
 std::optional<Cursor::Row> Cursor::fetch(std::int64_t rowNo) {
-  const Loan statement(database(), rowStatement(query_, database_->engine().phrases()), {rowNo});
+  const Loan statement(database(), rowsStatement(query_, database_->engine().phrases(), 1), {rowNo});
   return statement->step() ? std::optional(rowOf(*statement)) : std::nullopt;
+}
+
+// The row at the head of the rest. Nobody else writes during a unit, and what it writes itself is forgotten: there the
+// rows behind are read with it.
+std::optional<Cursor::Row> Cursor::fetchAhead() {
+  const auto known = [&] {
+    auto found = ahead_.extract(rowNo_);
+    return found ? std::optional(std::move(found.mapped())) : std::nullopt;
+  };
+  if (std::optional<Row> row = known()) return row;
+  if (!database().inUnit() || rest_.size() < readAhead) return fetch(rowNo_);
+  std::vector<Cell> rows(rest_.begin(), rest_.begin() + readAhead);
+  const Loan statement(*database_, rowsStatement(query_, database_->engine().phrases(), readAhead), rows);
+  while (statement->step()) ahead_.insert_or_assign(statement->integer(0), rowOf(*statement));
+  return known();
+}
+
+Value Cursor::bytes(std::size_t column) {
+  const Column& wanted = *query_.columns[column];
+  const Loan statement(database(), bytesStatement(query_, wanted, database_->engine().phrases()), {rowNo()});
+  if (statement->step()) return read(*statement, 0, wanted.type);
+  throw StoreError(Fault::RowGone, "这条记录已被删除，请刷新后再试！");
 }
 
 }  // namespace store

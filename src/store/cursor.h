@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <unordered_map>
 #include <vector>
 
 #include "store/database.h"
@@ -55,7 +56,8 @@ class Cursor {
   void pin();  // before a write to its table: notes the rows that remain
   void
   release();  // holds no lock from here on; what others write may join a walk that has not gone on from its first row
-  void forget();  // what it read of its current row may be old
+  void forget();                    // what it read of its rows may be old
+  void forget(std::int64_t rowNo);  // of this row
 
  private:
   enum class Place { Before, Row, End };
@@ -66,6 +68,8 @@ class Cursor {
   void resume();
   void pinStream();
   std::optional<Row> fetch(std::int64_t rowNo);
+  std::optional<Row> fetchAhead();
+  Value bytes(std::size_t column);
   Row rowOf(const Statement& statement) const;
 
   std::shared_ptr<Database> database_;
@@ -77,9 +81,11 @@ class Cursor {
   bool atFirst_ = false;  // the walk stands on its first row
   bool unread_ = false;   // and has let go of its stream there: a look at a large table costs one row
   std::int64_t rowNo_ = 0;
-  std::optional<Row> row_;         // the current row of a pinned walk, once read
-  std::deque<std::int64_t> rest_;  // the rows behind it
-  std::deque<Row> groups_;         // the same of a grouped walk, whose rows have no numbers
+  bool interrupted_ = false;                     // the rows that remain could not be noted
+  std::optional<Row> row_;                       // the current row of a pinned walk, once read
+  std::unordered_map<std::int64_t, Row> ahead_;  // rows of a pinned walk in a unit, read before their turn
+  std::deque<std::int64_t> rest_;                // the rows behind it
+  std::deque<Row> groups_;                       // the same of a grouped walk, whose rows have no numbers
 };
 
 }  // namespace store

@@ -9,7 +9,6 @@ namespace store {
 namespace {
 
 constexpr std::size_t mostIdle = 200;  // prepared statements that wait for their next use
-constexpr const char* nothingSaved = "本次操作的内容全部没有保存！";
 
 struct Ending {  // of the outermost unit, whatever comes of it
   int& depth;
@@ -18,8 +17,8 @@ struct Ending {  // of the outermost unit, whatever comes of it
 
 }  // namespace
 
-Loan::Loan(Database& database, std::string sql, const std::vector<Cell>& values)
-    : database_(&database), sql_(std::move(sql)), statement_(database.take(sql_)) {
+Loan::Loan(Database& database, std::string sql, const std::vector<Cell>& values, Rows rows)
+    : database_(&database), sql_(std::move(sql)), statement_(database.take(sql_, rows)) {
   for (std::size_t i = 0; i < values.size(); ++i) statement_->bind(i, values[i]);
 }
 
@@ -67,13 +66,14 @@ void Database::settle() {
   for (Cursor* cursor : cursors_) cursor->release();
 }
 
-long long Database::write(const Table& table, const std::string& sql, const std::vector<Cell>& values) {
+long long Database::write(const Table& table, const std::string& sql, const std::vector<Cell>& values,
+                          std::int64_t rowNo) {
   failIfLost();
   // Outside a unit no read may stay under way: two computers that read while they write would wait for each other.
   for (Cursor* cursor : cursors_) {
     if (&cursor->table() == &table) {
       cursor->pin();
-      cursor->forget();
+      rowNo == manyRows ? cursor->forget() : cursor->forget(rowNo);
     } else if (!inUnit()) {
       cursor->release();
     }
@@ -84,7 +84,7 @@ long long Database::write(const Table& table, const std::string& sql, const std:
     statement->step();
   } catch (const StoreError& error) {
     if (!inUnit() || to.inTransaction()) throw;
-    throw StoreError(error.fault, error.what() + std::string(nothingSaved));
+    throw withNothingSaved(error);
   }
   const long long changes = to.changes();
   if (!inUnit()) to.committed();
@@ -119,19 +119,20 @@ void Database::abandonUnit() noexcept {
 // The engine rolls back by itself when the disk is full or fails: what came before is gone too.
 void Database::failIfLost() const {
   if (inUnit() && !engine_->inTransaction()) {
-    throw StoreError(Fault::Other, std::string("前面的内容未能写入磁盘，") + nothingSaved);
+    throw withNothingSaved(StoreError(Fault::Other, "前面的内容未能写入磁盘，"));
   }
 }
 
 void Database::commit() {
   try {
     failIfLost();
+    settle();  // not every engine goes on with a read behind the end of its unit
     engine_->commit();
   } catch (const StoreError& error) {
     engine_->rollback();
     for (Cursor* cursor : cursors_) cursor->forget();
-    const std::string words = error.what();
-    throw StoreError(error.fault, words.ends_with(nothingSaved) ? words : words + nothingSaved);
+    if (error.fault == Fault::Unsure) throw;
+    throw withNothingSaved(error);
   }
 }
 
@@ -140,9 +141,9 @@ void Database::dismiss(Cursor& cursor) {
   if (found != cursors_.rend()) cursors_.erase(std::next(found).base());
 }
 
-std::unique_ptr<Statement> Database::take(const std::string& sql) {
+std::unique_ptr<Statement> Database::take(const std::string& sql, Rows rows) {
   const auto found = byText_.find(sql);
-  if (found == byText_.end()) return engine().prepare(sql);
+  if (found == byText_.end()) return engine().prepare(sql, rows);
   const auto entry = found->second;
   std::unique_ptr<Statement> statement = std::move(entry->second);
   byText_.erase(found);

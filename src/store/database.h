@@ -20,7 +20,7 @@ class Database;
 class Loan {
  public:
   Loan() = default;
-  Loan(Database& database, std::string sql, const std::vector<Cell>& values);
+  Loan(Database& database, std::string sql, const std::vector<Cell>& values, Rows rows = Rows::Few);
   ~Loan() { giveBack(); }
   Loan(Loan&& other) noexcept;
   Loan& operator=(Loan&& other) noexcept;
@@ -50,8 +50,11 @@ class Database {
   int generation() const { return generation_; }
 
   void settle();  // no read is under way any longer
-  // One insert, update or delete; returns the number of rows. Every cursor on the table is safe from it.
-  long long write(const Table& table, const std::string& sql, const std::vector<Cell>& values);
+  // An insert, update or delete of one row, or of many; returns the number of rows. Every cursor on the table is safe
+  // from it.
+  static constexpr std::int64_t newRow = 0, manyRows = -1;
+  long long write(const Table& table, const std::string& sql, const std::vector<Cell>& values,
+                  std::int64_t rowNo = manyRows);
 
   void beginUnit();
   void finishUnit();            // the outermost one commits, or raises StoreError and nothing of it remains
@@ -63,7 +66,7 @@ class Database {
 
  private:
   friend class Loan;
-  std::unique_ptr<Statement> take(const std::string& sql);
+  std::unique_ptr<Statement> take(const std::string& sql, Rows rows);
   void keep(std::string sql, std::unique_ptr<Statement> statement);
   void commit();
   void failIfLost() const;

@@ -16,6 +16,11 @@ namespace store {
 // A value as it is stored: amounts as tenths of a fen, dates as yyyy-mm-dd, moments as yyyy-mm-dd hh:mm:ss, yes as 1.
 using Cell = std::variant<std::monostate, std::int64_t, double, std::string, Bytes>;
 
+enum class Stored { Text, Whole, Real, Bytes };  // the form in which a column holds its values
+
+// How much of its answer a statement is asked for: an answer of many rows is read as it is walked.
+enum class Rows { Few, Many };
+
 // A prepared statement. Places and columns count from 0. Every operation raises StoreError.
 class Statement {
  public:
@@ -34,10 +39,11 @@ class Statement {
 class Phrases {
  public:
   virtual ~Phrases() = default;
-  virtual std::string place(std::size_t index) const = 0;  // of a bound value
-  virtual std::string rowNumber() const = 0;               // the definition of row_no, never given twice
+  virtual std::string place(std::size_t index, Stored form) const = 0;  // of a bound value
+  virtual std::string rowNumber() const = 0;                            // the definition of row_no, never given twice
   virtual std::string columnType(Type type) const = 0;
   virtual std::string key(const std::string& column, Type type) const = 0;  // what rows are ordered and grouped by
+  virtual std::string indexed(const std::vector<std::string>& keys) const = 0;  // what serves an order by them
   virtual std::string folded(const std::string& text) const = 0;            // compares without regard to case
   virtual std::string like(const std::string& text, const std::string& pattern) const = 0;
   virtual std::string shown(const std::string& value, Type type) const = 0;  // as Value::text() shows it
@@ -52,13 +58,14 @@ class Engine {
  public:
   virtual ~Engine() = default;
   virtual const Phrases& phrases() const = 0;
-  virtual std::unique_ptr<Statement> prepare(const std::string& sql) = 0;
+  virtual std::unique_ptr<Statement> prepare(const std::string& sql, Rows rows = Rows::Few) = 0;
   virtual void execute(const std::string& sql) = 0;
   virtual void begin() = 0;  // with the write lock, at once
   virtual void commit() = 0;
   virtual void rollback() noexcept = 0;
   virtual bool inTransaction() const = 0;
   virtual void committed() = 0;  // called behind each write that has reached the disk: others who wait go first
+  virtual void install() = 0;    // what the phrases need in the database itself; when the schema is made
   virtual long long changes() const = 0;
   virtual long long lastRowNo() const = 0;
   virtual int version() = 0;

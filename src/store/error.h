@@ -3,6 +3,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace store {
 
@@ -15,6 +16,8 @@ enum class Fault {
   ReadOnly,
   Busy,           // in use by another computer, after the wait
   DiskFull,
+  Disconnected,   // the server does not answer or the connection broke; the words say what became of the action
+  Unsure,         // it broke while a unit was being saved, and the server could not be asked yet
   RowGone,        // the current row was deleted meanwhile, or there is no current row
   Other,
 };
@@ -24,5 +27,12 @@ class StoreError : public std::runtime_error {
   StoreError(Fault fault, const std::string& message) : std::runtime_error(message), fault(fault) {}
   const Fault fault;
 };
+
+constexpr std::string_view nothingSaved = "本次操作的内容全部没有保存！";
+// The same error, whose words end with that.
+inline StoreError withNothingSaved(const StoreError& error) {
+  const std::string words = error.what();
+  return StoreError(error.fault, words.ends_with(nothingSaved) ? words : words + std::string(nothingSaved));
+}
 
 }  // namespace store

@@ -35,10 +35,6 @@ std::string withSlashes(std::string_view path) {
   return result;
 }
 
-fs::path fileIn(const fs::path& programFolder, Connection which) {
-  return programFolder / withSlashes(livePath(which)).substr(1);
-}
-
 fs::path newFolder(const fs::path& folder) {
   fs::path result = folder;
   result += unfinished;
@@ -89,6 +85,10 @@ void create(const fs::path& programFolder) {
 
 std::string_view livePath(Connection which) {
   return which == Connection::Main ? "\\mv_Database\\morvanegxgl.mdb" : "\\配置文件\\morvanedjpz.mdb";
+}
+
+fs::path fileIn(const fs::path& programFolder, Connection which) {
+  return programFolder / withSlashes(livePath(which)).substr(1);
 }
 
 std::string_view password(Connection which) { return which == Connection::Main ? mainPassword : configPassword; }

@@ -11,6 +11,7 @@ namespace store {
 
 std::string_view livePath(Connection which);  // relative to the program folder, with backslashes
 std::string_view password(Connection which);
+std::filesystem::path fileIn(const std::filesystem::path& programFolder, Connection which);
 
 struct Location {
   std::filesystem::path path;

@@ -5,6 +5,7 @@
 #include "base/text.h"
 #include "store/condition.h"
 #include "store/error.h"
+#include "store/typing.h"
 
 namespace store {
 namespace {
@@ -23,10 +24,25 @@ std::string orderText(const std::vector<std::pair<const Column*, bool>>& order, 
                       const Phrases& phrases) {
   std::string result = " order by ";
   for (const auto& [column, descending] : order) {
-    result += phrases.key(quoted(column->name), column->type) + (descending != reversed ? " desc, " : ", ");
+    result += phrases.key(quoted(column->name), column->type) +
+              (descending != reversed ? " desc nulls last, " : " nulls first, ");
   }
   if (grouped) return result.substr(0, result.size() - 2);
   return result + "row_no" + (reversed ? " desc" : "");
+}
+
+std::string listOf(const Query& query) {
+  std::string result = "row_no";
+  for (const Column* column : query.columns) {
+    result += ", " + (column->type == Type::Bytes ? "null" : quoted(column->name));
+  }
+  return result;
+}
+
+std::string leastOf(const Query& query) {
+  std::string result = "0";
+  for (const Column* column : query.columns) result += ", min(" + quoted(column->name) + ")";
+  return result;
 }
 
 }  // namespace
@@ -60,11 +76,7 @@ Query plan(const dialect::Select& select, Connection connection, const Phrases& 
   for (const Column* column : group) {
     grouping += (grouping.empty() ? " group by " : ", ") + phrases.key(quoted(column->name), column->type);
   }
-  std::string columns = query.grouped ? "0" : "row_no";
-  for (const Column* column : query.columns) {
-    columns += ", " + (query.grouped ? "min(" + quoted(column->name) + ")" : quoted(column->name));
-  }
-  const std::string rows = "select " + columns + source + grouping;
+  const std::string rows = "select " + (query.grouped ? leastOf(query) : listOf(query)) + source + grouping;
   query.walk = rows + orderText(order, false, query.grouped, phrases);
   query.last = rows + orderText(order, true, query.grouped, phrases) + " limit 1";
   query.count =
@@ -75,24 +87,22 @@ Query plan(const dialect::Select& select, Connection connection, const Phrases& 
 
 namespace {
 
-std::string rowsOf(const Query& query) {
-  std::string columns = "row_no";
-  for (const Column* column : query.columns) columns += ", " + quoted(column->name);
-  return "select " + columns + " from " + quoted(query.table->name) + " where row_no ";
-}
-
 std::string placesFrom(std::size_t first, std::size_t count, const Phrases& phrases) {
   std::string places;
-  for (std::size_t i = 0; i < count; ++i) places += (i ? ", " : "") + phrases.place(first + i);
+  for (std::size_t i = 0; i < count; ++i) places += (i ? ", " : "") + phrases.place(first + i, Stored::Whole);
   return "(" + places + ")";
 }
 
 }  // namespace
 
-std::string rowStatement(const Query& query, const Phrases& phrases) { return rowsOf(query) + "= " + phrases.place(0); }
-
 std::string rowsStatement(const Query& query, const Phrases& phrases, std::size_t count) {
-  return rowsOf(query) + "in " + placesFrom(0, count, phrases);
+  return "select " + listOf(query) + " from " + quoted(query.table->name) + " where row_no in " +
+         placesFrom(0, count, phrases);
+}
+
+std::string bytesStatement(const Query& query, const Column& column, const Phrases& phrases) {
+  return "select " + quoted(column.name) + " from " + quoted(query.table->name) +
+         " where row_no = " + phrases.place(0, Stored::Whole);
 }
 
 std::string insertStatement(const Table& table, const std::vector<const Column*>& columns, const Phrases& phrases) {
@@ -100,7 +110,7 @@ std::string insertStatement(const Table& table, const std::vector<const Column*>
   std::string names, places;
   for (std::size_t i = 0; i < columns.size(); ++i) {
     names += (i ? ", " : "") + quoted(columns[i]->name);
-    places += (i ? ", " : "") + phrases.place(i);
+    places += (i ? ", " : "") + phrases.place(i, storedAs(columns[i]->type));
   }
   return "insert into " + quoted(table.name) + " (" + names + ") values (" + places + ")";
 }
@@ -108,23 +118,24 @@ std::string insertStatement(const Table& table, const std::vector<const Column*>
 std::string updateStatement(const Table& table, const std::vector<const Column*>& columns, const Phrases& phrases) {
   std::string sets;
   for (std::size_t i = 0; i < columns.size(); ++i) {
-    sets += (i ? ", " : "") + quoted(columns[i]->name) + " = " + phrases.place(i);
+    sets += (i ? ", " : "") + quoted(columns[i]->name) + " = " + phrases.place(i, storedAs(columns[i]->type));
   }
-  return "update " + quoted(table.name) + " set " + sets + " where row_no = " + phrases.place(columns.size());
+  return "update " + quoted(table.name) + " set " + sets +
+         " where row_no = " + phrases.place(columns.size(), Stored::Whole);
 }
 
 std::string removeStatement(const Table& table, const Phrases& phrases) {
-  return "delete from " + quoted(table.name) + " where row_no = " + phrases.place(0);
+  return "delete from " + quoted(table.name) + " where row_no = " + phrases.place(0, Stored::Whole);
 }
 
 std::string updateAllStatement(const Query& query, const Column& column, const Phrases& phrases) {
   return "update " + quoted(query.table->name) + " set " + quoted(column.name) + " = " +
-         phrases.place(query.values.size()) + query.where;
+         phrases.place(query.values.size(), storedAs(column.type)) + query.where;
 }
 
 std::string updateRowsStatement(const Query& query, const Column& column, const Phrases& phrases, std::size_t count) {
-  return "update " + quoted(query.table->name) + " set " + quoted(column.name) + " = " + phrases.place(0) +
-         " where row_no in " + placesFrom(1, count, phrases);
+  return "update " + quoted(query.table->name) + " set " + quoted(column.name) + " = " +
+         phrases.place(0, storedAs(column.type)) + " where row_no in " + placesFrom(1, count, phrases);
 }
 
 std::string removeAllStatement(const Query& query) { return "delete from " + quoted(query.table->name) + query.where; }

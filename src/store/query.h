@@ -15,7 +15,8 @@ struct Query {
   std::vector<const Column*> columns;  // of the set, in order
   bool grouped = false;
   std::vector<Cell> values;  // bound in this order, in each of the statements
-  // A walk's first column is row_no, a grouped walk's is 0; the set's columns come behind it.
+  // A walk's first column is row_no, a grouped walk's is 0; the set's columns come behind it. Pictures and the like are
+  // left out of walks, as Null: who asks for one reads it by itself.
   std::string walk, last, count, any;
   std::string where;  // the condition alone, with its word; empty: all rows
 };
@@ -25,8 +26,8 @@ struct Query {
 Query plan(const dialect::Select& select, Connection connection, const Phrases& phrases);
 
 // The statements behind the writes and single reads of a set; values in the order of the columns, row_no last.
-std::string rowStatement(const Query& query, const Phrases& phrases);
 std::string rowsStatement(const Query& query, const Phrases& phrases, std::size_t count);  // of so many row_nos
+std::string bytesStatement(const Query& query, const Column& column, const Phrases& phrases);
 std::string insertStatement(const Table& table, const std::vector<const Column*>& columns, const Phrases& phrases);
 std::string updateStatement(const Table& table, const std::vector<const Column*>& columns, const Phrases& phrases);
 std::string removeStatement(const Table& table, const Phrases& phrases);

@@ -77,11 +77,11 @@ struct RecordSet::State {
     }
     if (editing == Editing::NewRow) {
       at.drop();  // nothing comes behind a new row
-      at.database().write(table, insertStatement(table, columns, phrases), values);
+      at.database().write(table, insertStatement(table, columns, phrases), values, Database::newRow);
       at.standOn(at.database().engine().lastRowNo());
     } else if (!changes.empty()) {
       values.emplace_back(at.rowNo());
-      if (at.database().write(table, updateStatement(table, columns, phrases), values) == 0) {
+      if (at.database().write(table, updateStatement(table, columns, phrases), values, at.rowNo()) == 0) {
         throw StoreError(Fault::RowGone, "这条记录已被删除，请刷新后再试！");
       }
     }
@@ -172,7 +172,8 @@ void RecordSet::remove() {
   if (state_->editing == State::Editing::NewRow) return state_->leaveRow();
   if (state_->editing == State::Editing::Removed) return;
   const Table& table = rows.table();
-  rows.database().write(table, removeStatement(table, rows.database().engine().phrases()), {rows.rowNo()});
+  rows.database().write(table, removeStatement(table, rows.database().engine().phrases()), {rows.rowNo()},
+                         rows.rowNo());
   state_->leaveRow();
   state_->editing = State::Editing::Removed;
 }

@@ -80,14 +80,15 @@ std::string indexName(const Table& table, std::string_view index) {
 
 void createIndexes(Engine& engine, const Table& table) {
   for (std::string_view index : table.indexes) {
-    std::string columns;
+    std::vector<std::string> keys;
     for (std::size_t from = 0; from <= index.size();) {
       const std::size_t end = std::min(index.find(',', from), index.size());
-      columns += (from ? ", " : "") + quoted(index.substr(from, end - from));
+      const Column& column = *table.find(index.substr(from, end - from));
+      keys.push_back(engine.phrases().key(quoted(column.name), column.type));
       from = end + 1;
     }
     engine.execute("create index if not exists " + indexName(table, index) + " on " + quoted(table.name) + " (" +
-                   columns + ")");
+                   engine.phrases().indexed(keys) + ")");
   }
 }
 
@@ -106,6 +107,7 @@ void bringUp(Engine& engine, Connection connection) {
     const int from = engine.version();  // another computer may have been faster
     if (from > catalogueVersion) throw newer();
     if (from < catalogueVersion) {
+      engine.install();
       for (const Table& table : tables()) {
         if (table.connection == connection) complete(engine, table);
       }

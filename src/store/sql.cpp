@@ -1,6 +1,19 @@
 #include "store/sql.h"
 
+#include <algorithm>
+#include <stdexcept>
+
 namespace store {
+
+Sql Sql::column(std::string_view name) {
+  const bool plain = !name.empty() && std::all_of(name.begin(), name.end(), [](char c) {
+    return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_';
+  });
+  if (!plain) throw std::logic_error("not a column: " + std::string(name));
+  Sql sql;
+  sql.text_ = name;
+  return sql;
+}
 
 Sql& Sql::operator+=(const Sql& other) {
   const std::size_t offset = text_.size();

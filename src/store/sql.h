@@ -45,6 +45,9 @@ class Sql {
     return sql;
   }
 
+  // A column of the catalogue, for tables of conditions; anything but a plain name raises std::logic_error.
+  static Sql column(std::string_view name);
+
   bool empty() const { return text_.empty(); }
   const std::string& text() const { return text_; }  // the plain statement, for messages and tests
   // Byte ranges [from, to) of text() that came in as values.

@@ -189,7 +189,7 @@ class SqliteEngine final : public Engine {
 
   Link& link() { return link_; }
   const Phrases& phrases() const override { return sqlitePhrases(); }
-  std::unique_ptr<Statement> prepare(const std::string& sql) override {
+  std::unique_ptr<Statement> prepare(const std::string& sql, Rows) override {
     return std::make_unique<SqliteStatement>(link_, sql);
   }
   void execute(const std::string& sql) override {
@@ -202,6 +202,7 @@ class SqliteEngine final : public Engine {
   }
   bool inTransaction() const override { return sqlite3_get_autocommit(link_.connection) == 0; }
   void committed() override { link_.sign.giveWay(); }
+  void install() override {}  // its functions belong to the connection
   long long changes() const override { return sqlite3_changes64(link_.connection); }
   long long lastRowNo() const override { return sqlite3_last_insert_rowid(link_.connection); }
   int version() override {

@@ -11,7 +11,7 @@ std::string call(const std::string& function, const std::string& argument) { ret
 
 class SqlitePhrases final : public Phrases {
  public:
-  std::string place(std::size_t index) const override { return "?" + std::to_string(index + 1); }
+  std::string place(std::size_t index, Stored) const override { return "?" + std::to_string(index + 1); }
   std::string rowNumber() const override { return "integer primary key autoincrement"; }
   std::string columnType(Type type) const override {
     switch (type) {
@@ -29,6 +29,7 @@ class SqlitePhrases final : public Phrases {
     }
   }
   std::string key(const std::string& column, Type) const override { return column; }
+  std::string indexed(const std::vector<std::string>& keys) const override { return base::join(keys, ", "); }
   std::string folded(const std::string& text) const override { return text + " collate nocase"; }
   std::string like(const std::string& text, const std::string& pattern) const override {
     return text + " like " + pattern;
@@ -43,7 +44,7 @@ class SqlitePhrases final : public Phrases {
       case Type::YesNo:
         return "(case " + value + " when 0 then 'False' when 1 then 'True' end)";
       default:
-        return "cast(" + value + " as text)";
+        return call("shown_number", value);
     }
   }
   std::string left(const std::string& text, const std::string& count) const override {
@@ -74,6 +75,11 @@ void shownMoney(sqlite3_context* context, int, sqlite3_value** values) {
   answer(context, base::Money::ofUnits(sqlite3_value_int64(values[0])).plain());
 }
 
+void shownNumber(sqlite3_context* context, int, sqlite3_value** values) {
+  if (sqlite3_value_type(values[0]) == SQLITE_NULL) return;
+  answer(context, base::plainNumber(sqlite3_value_double(values[0])));
+}
+
 void shownMoment(sqlite3_context* context, int, sqlite3_value** values) {
   if (sqlite3_value_type(values[0]) == SQLITE_NULL) return;
   const std::string_view stored = argument(values[0]);
@@ -98,7 +104,8 @@ void addSqliteFunctions(sqlite3* connection) {
     void (*run)(sqlite3_context*, int, sqlite3_value**);
   };
   for (const Function& function :
-       {Function{"shown_money", shownMoney}, {"shown_moment", shownMoment}, {"date_in", dateIn}}) {
+       {Function{"shown_money", shownMoney}, {"shown_number", shownNumber}, {"shown_moment", shownMoment},
+        {"date_in", dateIn}}) {
     sqlite3_create_function_v2(connection, function.name, 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, function.run,
                                nullptr, nullptr, nullptr);
   }

@@ -4,6 +4,7 @@
 
 #include "store/database.h"
 #include "store/files.h"
+#include "store/postgres_engine.h"
 #include "store/schema.h"
 #include "store/sqlite_engine.h"
 
@@ -28,6 +29,8 @@ std::unique_ptr<Engine> upToDate(std::unique_ptr<Engine> engine, Connection whic
   bringUp(*engine, which);
   return engine;
 }
+
+std::string schemaOf(Connection which) { return which == Connection::Main ? "office" : "office_config"; }
 
 }  // namespace
 
@@ -66,11 +69,14 @@ void Store::connect(Connection which, const std::string& text) {
   side.text = text;
   if (same) return;
   side.database->replace([this, which, text] {
-    const Location location = locate(text);
-    createWhenNew(state_->folder);
     const auto told = [this](bool waiting) {
       if (onWait) onWait(waiting);
     };
+    if (const auto server = serverOf(state_->folder)) {
+      return upToDate(openPostgres({*server, schemaOf(which)}, told), which);
+    }
+    const Location location = locate(text);
+    createWhenNew(state_->folder);
     return upToDate(openSqlite({location.path, location.password}, told), which);
   });
 }

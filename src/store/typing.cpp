@@ -102,6 +102,20 @@ std::optional<bool> yesIn(std::string_view text) {
   return std::nullopt;
 }
 
+Stored storedAs(Type type) {
+  switch (type) {
+    case Type::Number:
+      return Stored::Real;
+    case Type::Money:
+    case Type::YesNo:
+      return Stored::Whole;
+    case Type::Bytes:
+      return Stored::Bytes;
+    default:
+      return Stored::Text;
+  }
+}
+
 Cell numberCell(double number) {
   constexpr double exact = 9007199254740992.0;  // whole numbers up to here are exact in both forms
   if (std::abs(number) <= exact && number == std::floor(number)) return static_cast<std::int64_t>(number);

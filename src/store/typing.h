@@ -16,6 +16,8 @@ Value typed(const Value& value, const Column& column);
 Cell cell(const Value& typed);
 Value read(const Statement& statement, int column, Type type);
 
+Stored storedAs(Type type);
+
 std::optional<double> numberIn(std::string_view text);
 std::optional<bool> yesIn(std::string_view text);
 Cell numberCell(double number);  // whole numbers as such, so that they show without decimals

@@ -2,6 +2,8 @@
 
 #include "arrears/arrears_edit.h"
 #include "arrears/arrears_entry.h"
+#include "arrears/due_progress.h"
+#include "arrears/due_settings.h"
 #include "collection/submission.h"
 #include "sample/sample.h"
 #include "store/record_set.h"
@@ -24,6 +26,7 @@ std::string submittedDigest(store::Store& store) {
 
 Operator::Operator(store::Store& store, unsigned seed, Report report)
     : store_(store), report_(std::move(report)), random_(seed) {
+  clock_.moment.date = {2026, 11, 7};
   session_.Rights.fill(true);
   session_.SessionUser = sample::deskUser;
   session_.ComputerName = desktop_.computer;
@@ -167,7 +170,20 @@ void Operator::submit() {
   report_("submitted " + submittedDigest(store_));
 }
 
-void Operator::importDue() {}
+// Twice, and the second time finds nothing that is missing.
+void Operator::importDue() {
+  const auto arrears = [this] { return RecordSet(store_, "select * from qfjl").count(); };
+  console_->k4.press();
+  console_->timer1.tick();
+  long long after = 0;
+  for (const bool again : {false, true}) {
+    console_->arrears_overview.button("导入").press();
+    EXPECT_TRUE(!again || arrears() == after) << "a repeated import added rows";
+    after = arrears();
+  }
+  console_->arrears_overview.button("返回").press();
+  report_("imported");
+}
 
 void Operator::run(kit::Screen& screen) {
   screen.start();
@@ -187,6 +203,11 @@ void Operator::run(kit::Screen& screen) {
     edit->confirm.press();
   } else if (auto* takings = dynamic_cast<collection::Formzctsf9*>(&screen)) {
     takings->submit.press();
+  } else if (auto* settings = dynamic_cast<arrears::Formqfcl2*>(&screen)) {
+    settings->xq.type(RecordSet(store_, "select * from sfbzb").get("xq").trimmed());
+    settings->confirm.press();
+  } else if (auto* import = dynamic_cast<arrears::Formqfcl3*>(&screen)) {
+    import->timer.tick();
   } else {
     ADD_FAILURE() << "unexpected screen " << screen.name;
   }

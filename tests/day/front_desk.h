@@ -73,8 +73,9 @@ class Operator : kit::Navigator {
   support::StillClock clock_;
   support::RecordingPrinter printer_;
   support::FakeDesktop desktop_;
+  support::RecordingSheets sheets_;
   support::RecordingProgress progress_;
-  kit::Desk desk_{session_, store_, person_, *this, clock_, printer_, desktop_, progress_};
+  kit::Desk desk_{session_, store_, person_, *this, clock_, printer_, sheets_, desktop_, progress_};
   std::unique_ptr<shell::Formzct> console_;
 };
 

@@ -56,7 +56,7 @@ TEST_P(EveryField, TakesIt) {
     test.add("sfbzb", {{"bjmc", "甲班"}, {"sfxmmc", "学费"}, {"je", "300"}});
     PatientPerson person(yes);
     PassingNavigator navigator;
-    kit::Desk desk{test.session, test.store, person, navigator, test.clock, test.printer, test.desktop, test.progress};
+    kit::Desk desk{test.session, test.store, person, navigator, test.clock, test.printer, test.sheets, test.desktop, test.progress};
     store::RecordSet row(test.store, "select * from bjzl");
     test.session.edited = &row;
     test.session.EditMode = kit::Mode::Modify;

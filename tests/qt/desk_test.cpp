@@ -100,7 +100,7 @@ TEST(Navigator, keepsAScreenWhileItsHandlersRunAndEndsWithTheLastOne) {
   support::WindowDesk parts;
   qt::QtNavigator navigator({});
   kit::Desk desk{parts.desk.session, parts.desk.store,   parts.desk.person,  navigator,
-                 parts.desk.clock,   parts.desk.printer, parts.desk.desktop, parts.desk.progress};
+                 parts.desk.clock,   parts.desk.printer, parts.desk.sheets, parts.desk.desktop, parts.desk.progress};
   std::vector<std::string> shown, standing;
   navigator.onShown = [&](qt::ScreenWindow& window) {
     shown.push_back(window.screen().name);

@@ -5,8 +5,9 @@
 #include <QLabel>
 #include <QPrinter>
 #include <QProcess>
-#include <QPushButton>
+#include <QLineEdit>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include "collection/batch_voucher.h"
 #include "collection/receipt.h"
@@ -15,6 +16,8 @@
 #include "qt/printing/drawing_files.h"
 #include "qt/printing/drawing_painter.h"
 #include "qt/printing/preview_window.h"
+#include "qt/theme.h"
+#include "qt/xp_button.h"
 
 // The search for a face that has a character leaves patterns of the font library behind.
 extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig"; }
@@ -220,6 +223,28 @@ TEST_F(Printing, FittedTextShrinksThenIsCutAndWrappedTextStaysWithinItsRoom) {
   }
 }
 
+TEST_F(Printing, AlignedTextEndsOrCentresWhereItWasAskedTo) {
+  for (const char* amount : {"国", "国国国国", "国国国国国国国国国国国国国国国国国国国国国国国国国"})
+    for (const double fit : {0.0, 40.0}) {
+      if (fit == 0 && std::string_view(amount).size() > 40) continue;
+      Drawing drawing{.title = "", .width = 210, .height = 60, .pages = {{}}};
+      auto& marks = drawing.pages[0].marks;
+      marks.push_back(Text{100, 5, amount, Face::Song, 12, fit, false, platform::Align::Right});
+      marks.push_back(Text{100, 25, amount, Face::Song, 12, fit, false, platform::Align::Centre});
+      const QImage image = qt::renderPage(drawing, 0, 192);
+      const Box right = ink(image, 192, {0, 0, 210, 20}), centred = ink(image, 192, {0, 20, 210, 60});
+      EXPECT_NEAR(right.right, 100, 0.8) << amount;
+      EXPECT_NEAR((centred.left + centred.right) / 2, 100, 0.8) << amount;
+      EXPECT_GE(right.left, fit > 0 ? 60 - 0.3 : 0) << amount;
+      for (std::size_t i = 0; i < 2; ++i) {
+        const QRectF place = qt::placeOf(std::get<Text>(marks[i]));
+        const Box& box = i == 0 ? right : centred;
+        EXPECT_NEAR(place.left(), box.left, 0.8) << amount;
+        EXPECT_NEAR(place.right(), box.right, 0.8) << amount;
+      }
+    }
+}
+
 TEST_F(Printing, NoCharacterOfTheLayoutsIsMissing) {
   for (const auto& drawing : {collection::layoutOne(receiptOf(10, true)), collection::layoutTwo(receiptOf(5, false)),
                               collection::batchVoucher(voucherOf(true))})
@@ -239,7 +264,7 @@ TEST_F(Printing, ThePreviewShowsWhatIsPrintedAndTurnsItsPages) {
   qt::PreviewWindow window(drawing);
   window.show();
   QCoreApplication::processEvents();
-  const auto button = [&](const char* name) { return window.findChild<QPushButton*>(name); };
+  const auto button = [&](const char* name) { return window.findChild<qt::XPButton*>(name); };
   const QImage first = window.grab().toImage();
   EXPECT_FALSE(button("previousPage")->isEnabled());
   button("nextPage")->click();
@@ -251,6 +276,39 @@ TEST_F(Printing, ThePreviewShowsWhatIsPrintedAndTurnsItsPages) {
   EXPECT_NE(window.grab().toImage(), first);
   button("fitWidth")->click();
   EXPECT_EQ(window.grab().toImage(), first);
+}
+
+bool highlighted(const QImage& image) {
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      if (image.pixelColor(x, y) == qt::theme::found) return true;
+  return false;
+}
+
+TEST_F(Printing, ThePreviewFindsTextsOnAllPagesAndStartsAnewBehindTheLast) {
+  Drawing drawing{.title = "", .width = 210, .height = 297, .pages = {{}, {}, {}}};
+  drawing.pages[0].marks = {platform::Line{10, 10, 50, 10}, Text{10, 10, "张三"}};
+  drawing.pages[2].marks = {Text{10, 10, "李四"}, Text{10, 250, "张三 abc"}, Text{10, 280, "张三丰"}};
+  qt::PreviewWindow window(drawing);
+  window.show();
+  auto* find = window.findChild<QLineEdit*>("find");
+  const auto place = [&] { return window.findChild<QLabel*>("place")->text().toStdString(); };
+  const auto note = [&] { return window.findChild<QLabel*>("note")->text().toStdString(); };
+  find->setText("张三");
+  for (const char* expected : {"第 1 页 / 共 3 页", "第 3 页 / 共 3 页", "第 3 页 / 共 3 页", "第 1 页 / 共 3 页"}) {
+    window.findChild<qt::XPButton*>("findNext")->click();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(place(), expected);
+    EXPECT_TRUE(highlighted(window.grab().toImage()));
+  }
+  find->setFocus();
+  find->setText(" ABC ");
+  QTest::keyClick(find, Qt::Key_Return);
+  EXPECT_EQ(place(), "第 3 页 / 共 3 页");
+  find->setText("王五");
+  QTest::keyClick(find, Qt::Key_Return);
+  EXPECT_EQ(note(), "没有找到“王五”。");
+  EXPECT_EQ(place(), "第 3 页 / 共 3 页");
 }
 
 }  // namespace

@@ -32,7 +32,7 @@ struct WindowDesk {
   QuietPerson person;
   QuietNavigator navigator;
   kit::Desk desk{parts.session, parts.store,   person,        navigator,
-                 parts.clock,   parts.printer, parts.desktop, parts.progress};
+                 parts.clock,   parts.printer, parts.sheets, parts.desktop, parts.progress};
 };
 
 void settle();  // handles all events there are

@@ -3,14 +3,18 @@
 #include "arrears/arrears_delete.h"
 #include "arrears/arrears_edit.h"
 #include "arrears/arrears_entry.h"
+#include "arrears/due_settings.h"
 #include "collection/batch_window.h"
 #include "collection/fee_window.h"
 #include "feesetup/desk_settings.h"
+#include "reports/income_statement.h"
 #include "reports/print_options.h"
 #include "shell/rights.h"
 #include "students/class_transfer_window.h"
 #include "students/student_edit.h"
+#include "students/suspension_list.h"
 #include "support/test_desk.h"
+#include "upkeep/clearing.h"
 
 namespace shell {
 namespace {
@@ -62,6 +66,19 @@ TEST(Console, RightsSettleTheMenuOnce) {
   s->card.xh.type("1001");
   s->card.xh.enter();
   EXPECT_EQ(s->card.xm.text(), "");
+}
+
+TEST(Console, TheMenuLeadsToStatementSuspensionsAndClearing) {
+  Office office;
+  auto s = opened<Formzct>(office);
+  office.session.EditMode = kit::Mode::Delete;
+  office.navigator.expect<reports::Formkh1>([](reports::Formkh1& worker) { worker.timer.tick(); });
+  office.navigator.expect<reports::Formkh>();  // the worker was told to open the statement, whatever was edited before
+  s->cd11.press();
+  office.navigator.expect<students::Formxxfk3>();
+  s->cd72.press();
+  office.navigator.expect<upkeep::Formcsh3>();
+  s->cd34.press();
 }
 
 TEST(Console, FindsByNumberAndShowsCardAndPayments) {
@@ -177,6 +194,36 @@ TEST(Console, TheChainOfThreeRightsIsNotTiedToThePanel) {
   t->timer1.tick();
   third.person.expect(Box::Information, refusal, "权限越界");
   t->k8.press();
+}
+
+TEST(Console, ExportsTheListInFrontUnderItsFilter) {
+  Office office;
+  office.owe("1", "1001", {2026, 9, 1}, "300");
+  office.add("qfjl_wjf", {{"xh", "1001"}});
+  office.add("qfjl_je", {{"xh", "1001"}});
+  office.session.student_where = " where xm='张三'";
+  auto s = opened<Formzct>(office);
+  const struct {
+    kit::Panel panel;
+    int listMode;
+    const char *object, *title;
+    std::size_t rows;
+  } exports[] = {{kit::Panel::Students, 1, "学生的学籍资料", "按查询条件导出的学生学籍资料", 2},
+                 {kit::Panel::Payments, 2, "交费记录", "学员交费记录", 2},
+                 {kit::Panel::Arrears, 1, "学生的欠费记录", "学员欠费记录", 1},
+                 {kit::Panel::Arrears, 2, "未交费学生名单", "未交费学生名单导出", 1},
+                 {kit::Panel::Arrears, 3, "应交与实交对比结果", "应交与实交对比结果导出", 1}};
+  for (const auto& one : exports) {
+    office.session.ConsolePanel = one.panel;
+    office.session.arrears_list_mode = one.listMode;
+    const std::string title = one.title, file = (office.desktop.exportFolder() / (title + " 2026-09-07.xlsx")).string();
+    office.person
+        .answer(true, Box::Ask, std::string("此操作将导出") + one.object + "为EXCEL格式表，您确认继续吗？      ", "信息提示")
+        .expect(Box::Information,
+                "“" + title + "”已导出，共 " + std::to_string(one.rows) + " 条记录，文件保存在：\n" + file, "信息提示");
+    s->k8.press();
+    EXPECT_EQ(office.sheets.kept.back().rows.size(), one.rows);
+  }
 }
 
 TEST(Console, DeletesOnlyOwnUnsubmittedPayments) {
@@ -327,6 +374,16 @@ TEST(Console, EditsArrearsFromTheOverview) {
   t->k4.press();
   t->timer1.tick();
   t->arrears_overview.list.doubleClick(0);  // without the right to modify it opens nothing
+}
+
+TEST(Console, ShowsWhatAnImportHasAdded) {
+  Office office;
+  auto s = opened<Formzct>(office);
+  s->k4.press();
+  s->timer1.tick();
+  office.navigator.expect<arrears::Formqfcl2>([&](arrears::Formqfcl2&) { office.owe("1", "1001", {2026, 9, 13}, "100"); });
+  s->arrears_overview.button("导入").press();
+  EXPECT_EQ(s->arrears_overview.list.count(), 1);
 }
 
 TEST(Console, SaysGoodbyeInItsOrder) {

@@ -12,6 +12,7 @@
 
 #include "store/configurations.h"
 #include "store/sqlite_engine.h"
+#include "support/test_server.h"
 
 namespace store {
 namespace {
@@ -112,9 +113,27 @@ std::string integrity(const Folder& folder) {
   return check->step() ? std::string(check->text(0)) : "";
 }
 
-TEST(Computers, WhatWasReportedSurvivesAnyDeath) {
+class Computers : public testing::TestWithParam<bool> {
+ protected:
+  void SetUp() override {
+    if (onServer) {
+      if (!support::serverRuns())
+        GTEST_SKIP() << "not run: no server; start the tests through tools/postgres-for-tests";
+      server_ = std::make_unique<support::ServerDatabase>();
+      server_->nameIn(folder.path());
+    }
+    Store(folder.path()).database(Connection::Main);
+  }
+  const bool onServer = GetParam();
   const Folder folder;
-  Store(folder.path()).database(Connection::Main);
+
+ private:
+  std::unique_ptr<support::ServerDatabase> server_;
+};
+INSTANTIATE_TEST_SUITE_P(Store, Computers, testing::Bool(),
+                         [](const auto& of) { return std::string(of.param ? "Server" : "File"); });
+
+TEST_P(Computers, WhatWasReportedSurvivesAnyDeath) {
   std::minstd_rand random(11);
   std::map<long long, int> reported;
   for (unsigned round = 0; round < 120; ++round) {
@@ -129,15 +148,13 @@ TEST(Computers, WhatWasReportedSurvivesAnyDeath) {
         const auto receipt = found.find(number);
         ASSERT_TRUE(receipt != found.end() && receipt->second == lines) << number << " was reported as saved";
       }
-      EXPECT_EQ(integrity(folder), "ok");
+      EXPECT_EQ(onServer ? "ok" : integrity(folder), "ok");
     }
   }
   EXPECT_GT(reported.size(), 100u) << "the deaths should come in the middle of writing";
 }
 
-TEST(Computers, TwoGreedyWritersBothGetOn) {
-  const Folder folder;
-  Store(folder.path()).database(Connection::Main);
+TEST_P(Computers, TwoGreedyWritersBothGetOn) {
   Computer first(folder.path(), 4s, 1), second(folder.path(), 4s, 2);
   const auto a = first.reports(), b = second.reports();
   std::map<long long, int> reported;

@@ -15,8 +15,14 @@ std::filesystem::path Folder::file(Connection which) const {
   return locate(connectionText(path_, livePath(which), password(which))).path;
 }
 
-Conformance::Conformance()
-    : store_(GetParam().onDisk ? std::make_unique<Store>(folder_.path()) : std::make_unique<Store>()) {}
+void Conformance::SetUp() {
+  if (GetParam().onServer) {
+    if (!support::serverRuns()) GTEST_SKIP() << "not run: no server; start the tests through tools/postgres-for-tests";
+    server_ = std::make_unique<support::ServerDatabase>();
+    server_->nameIn(folder_.path());
+  }
+  store_ = GetParam().onDisk ? std::make_unique<Store>(folder_.path()) : std::make_unique<Store>();
+}
 
 void Conformance::step() {
   if (GetParam().reopens) store_->close();

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "store/record_set.h"
+#include "support/test_server.h"
 
 namespace store {
 
@@ -29,18 +30,19 @@ class Folder {
 
 struct Configuration {
   std::string name;
-  bool onDisk = false, reopens = false;
+  bool onDisk = false, reopens = false, onServer = false;
 };
 inline void PrintTo(const Configuration& configuration, std::ostream* out) { *out << configuration.name; }
 
 class Conformance : public testing::TestWithParam<Configuration> {
  protected:
-  Conformance();
+  void SetUp() override;
   void step();  // stands between two steps of a test: one configuration closes the store here
   void add(Sql table, const std::vector<std::string>& columns, const std::vector<std::vector<Value>>& rows);
   std::vector<std::string> column(const Sql& sql, std::string_view name, Connection which = Connection::Main);
 
   Folder folder_;
+  std::unique_ptr<support::ServerDatabase> server_;
   std::unique_ptr<Store> store_;
 };
 
@@ -49,7 +51,8 @@ Sql statement(const std::string& text);              // a test's made-up text as
 long long rows(Store& store, const Sql& sql);
 
 inline auto configurations() {
-  return testing::Values(Configuration{"Memory"}, Configuration{"File", true}, Configuration{"Reopened", true, true});
+  return testing::Values(Configuration{"Memory"}, Configuration{"File", true}, Configuration{"Reopened", true, true},
+                         Configuration{"Server", true, false, true}, Configuration{"ServerReopened", true, true, true});
 }
 inline std::string nameOf(const testing::TestParamInfo<Configuration>& of) { return of.param.name; }
 

@@ -86,6 +86,27 @@ TEST_P(Records, AmountsDatesNumbersAndYesNo) {
   EXPECT_EQ(settings.get("qfts"), Value(30));
 }
 
+TEST_P(Records, PicturesComeBackAsTheyWere) {
+  Bytes every;
+  for (int i = 0; i < 100000; ++i) every.push_back(static_cast<std::byte>(i % 256));
+  add("xs", {"xh", "xp"}, {{"1", every}, {"2", Value()}, {"3", Bytes{std::byte{0}}}});
+  RecordSet set(*store_, "select xp, xh from xs order by xh");
+  std::vector<std::size_t> sizes;
+  forEach(set, [&](RecordSet& at) {
+    sizes.push_back(at.get("xp").bytes().size());
+    EXPECT_EQ(at.get("xp").isNull(), at.get("xh").text() == "2");
+  });
+  EXPECT_THAT(sizes, ElementsAre(100000, 0, 1));
+  set.first();
+  EXPECT_EQ(set.get("xp"), Value(every));
+  const Value other(Bytes{std::byte{7}});
+  set.set("xp", other);
+  EXPECT_EQ(set.get("xp"), other) << "before the row is written";
+  set.update();
+  EXPECT_EQ(set.get("xp"), other) << "once it is written";
+  EXPECT_EQ(rows(*store_, "select * from xs where xh='1'"), 1);
+}
+
 TEST_P(Records, EmptyAndNullDiffer) {
   add("jfjl", {"lsh", "sftj"}, {{"1", ""}, {"2", Value()}, {"3", "*"}});
   EXPECT_THAT(column("select * from jfjl where sftj=''", "lsh"), ElementsAre("1"));
@@ -232,6 +253,17 @@ TEST_P(Records, AWalkGoesOnFromItsFirstRowAfterTheEvent) {
     for (walk.next(); !walk.atEnd(); walk.next()) behind.push_back(walk.get("lsh").text());
     EXPECT_THAT(behind, ElementsAre("2", "3", "4"));
   }
+}
+
+TEST_P(Records, AWalkReadsEachOfItsRowsWhileAnotherTableIsWritten) {
+  addNumbered(4);
+  RecordSet walk(*store_, "select * from jfjl order by lsh");
+  std::vector<std::string> seen;
+  forEach(walk, [&](RecordSet& row) {
+    add("czjl", {"yhxm"}, {{row.get("lsh")}});
+    seen.push_back(row.get("lsh").text());
+  });
+  EXPECT_THAT(seen, ElementsAre("1", "2", "3", "4"));
 }
 
 TEST_P(Records, GroupsGoOnWhileTheTableChanges) {

@@ -81,6 +81,9 @@ FakeDesktop::FakeDesktop() {
   folder_ = std::filesystem::temp_directory_path() /
             ("fee-office-test-" + std::to_string(getpid()) + "-" + std::to_string(++number));
   std::filesystem::create_directories(folder_);
+  if (!onServer()) return;
+  database_ = std::make_unique<ServerDatabase>();
+  database_->nameIn(folder_);
 }
 
 FakeDesktop::~FakeDesktop() { std::filesystem::remove_all(folder_); }

@@ -1,4 +1,4 @@
-// A desk for tests: a real store in memory, and around it a person, a navigator, a clock, a printer and a computer that
+// A desk for tests: a real store, in memory or (STORE_ENGINE=postgres) on the throw-away server, and around it a person, a navigator, a clock, a printer and a computer that
 // follow a script and remember what happened.
 #pragma once
 
@@ -13,6 +13,8 @@
 
 #include "kit/desk.h"
 #include "kit/screen.h"
+#include "support/recording_sheets.h"
+#include "support/test_server.h"
 
 namespace support {
 
@@ -82,7 +84,8 @@ struct RecordingPrinter : platform::Printer {
   void show(const platform::Drawing& drawing) override { shown.push_back(drawing); }
 };
 
-// A computer named 收费一号机 with a program folder of its own, removed at the end.
+// A computer named 收费一号机 with a program folder of its own, removed at the end; the folder leads to the server when
+// the suite runs on it.
 class FakeDesktop : public platform::Desktop {
  public:
   FakeDesktop();
@@ -92,14 +95,18 @@ class FakeDesktop : public platform::Desktop {
   std::filesystem::path programFolder() override { return folder_; }
   void SetDisplayMode(int width, int height, int, int) override { modes.push_back({width, height}); }
   bool startProgram(const std::filesystem::path& program) override { started.push_back(program); return true; }
+  std::filesystem::path exportFolder() override { return folder_ / "导出"; }
+  bool openDocument(const std::filesystem::path& file) override { documents.push_back(file); return opensDocuments; }
 
   platform::WorkArea area{0, 0, 1366, 728};
   std::string computer = "收费一号机";
   std::vector<std::pair<int, int>> modes;
-  std::vector<std::filesystem::path> started;
+  std::vector<std::filesystem::path> started, documents;
+  bool opensDocuments = true;
 
  private:
   std::filesystem::path folder_;
+  std::unique_ptr<support::ServerDatabase> database_;
 };
 
 struct RecordingProgress : kit::Progress {
@@ -110,15 +117,16 @@ struct RecordingProgress : kit::Progress {
 };
 
 struct TestDesk {
-  store::Store store;
+  FakeDesktop desktop;
+  store::Store store = onServer() ? store::Store(desktop.programFolder()) : store::Store();
   kit::Session session;
   ScriptedPerson person{store};
   ScriptedNavigator navigator;
   StillClock clock;
   RecordingPrinter printer;
-  FakeDesktop desktop;
+  RecordingSheets sheets;
   RecordingProgress progress;
-  kit::Desk desk{session, store, person, navigator, clock, printer, desktop, progress};
+  kit::Desk desk{session, store, person, navigator, clock, printer, sheets, desktop, progress};
 
   // Writes a row: {{"xh", "1001"}, {"xm", "王小明"}}.
   void add(std::string_view table, const std::vector<std::pair<std::string_view, store::Value>>& values,

@@ -5,6 +5,8 @@
 #include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QTextLayout>
+#include <array>
+#include <optional>
 
 #include "qt/text.h"
 #include "qt/theme.h"
@@ -24,6 +26,47 @@ QFont font(platform::Face face) {
   one.setPixelSize(em);
   one.setHintingPreference(QFont::PreferNoHinting);
   return one;
+}
+
+// The faces of a page, looked up once each.
+class Faces {
+ public:
+  struct Measured {
+    QFont font;
+    QFontMetricsF metrics;
+  };
+  const Measured& of(platform::Face face) {
+    auto& held = faces_[static_cast<std::size_t>(face)];
+    if (!held) {
+      const QFont one = font(face);
+      held.emplace(Measured{one, QFontMetricsF(one)});
+    }
+    return *held;
+  }
+
+ private:
+  std::array<std::optional<Measured>, 3> faces_;
+};
+
+// A text on one line as it is drawn: shrunk, then cut, to fit its room.
+struct Fitted {
+  QString text;
+  double x, scale, width;  // millimetres
+};
+
+Fitted fitted(const platform::Text& mark, const QFontMetricsF& metrics) {
+  Fitted result{toQt(mark.text), mark.x, mark.size * pointMillimetres / em, 0};
+  result.width = metrics.horizontalAdvance(result.text) * result.scale;
+  if (mark.fit > 0 && result.width > mark.fit) {
+    const double share = std::max(mark.fit / result.width, smallest);
+    const bool cut = result.width * smallest > mark.fit;
+    result.scale *= share;
+    if (cut) result.text = metrics.elidedText(result.text, Qt::ElideRight, mark.fit / result.scale);
+    result.width = cut ? metrics.horizontalAdvance(result.text) * result.scale : mark.fit;
+  }
+  if (mark.align == platform::Align::Right) result.x -= result.width;
+  if (mark.align == platform::Align::Centre) result.x -= result.width / 2;
+  return result;
 }
 
 void paintLine(QPainter& painter, QPointF start, double scale, const QFont& face, const QString& text) {
@@ -52,27 +95,16 @@ void paintWrapped(QPainter& painter, const platform::Text& mark, double scale, c
   layout.endLayout();
 }
 
-void paint(QPainter& painter, const platform::Text& mark) {
-  const QFont face = font(mark.face);
-  const double scale = mark.size * pointMillimetres / em;
-  QString text = toQt(mark.text);
-  if (mark.wrap && mark.fit > 0) return paintWrapped(painter, mark, scale, face, text);
-  double fitted = scale;
-  if (mark.fit > 0) {
-    const QFontMetricsF metrics(face);
-    const double width = metrics.horizontalAdvance(text) * scale;
-    if (width > mark.fit) fitted = scale * std::max(mark.fit / width, smallest);
-    if (width * smallest > mark.fit) text = metrics.elidedText(text, Qt::ElideRight, mark.fit / fitted);
-  }
-  double x = mark.x;
-  if (mark.align != platform::Align::Left) {
-    const double width = QFontMetricsF(face).horizontalAdvance(text) * fitted;
-    x -= mark.align == platform::Align::Right ? width : width / 2;
-  }
-  paintLine(painter, {x, mark.y + baseline * em * scale}, fitted, face, text);
+void paint(QPainter& painter, const platform::Text& mark, Faces& faces) {
+  const Faces::Measured& face = faces.of(mark.face);
+  if (mark.wrap && mark.fit > 0)
+    return paintWrapped(painter, mark, mark.size * pointMillimetres / em, face.font, toQt(mark.text));
+  const Fitted line = fitted(mark, face.metrics);
+  const double full = mark.size * pointMillimetres;
+  paintLine(painter, {line.x, mark.y + baseline * full}, line.scale, face.font, line.text);
 }
 
-void paint(QPainter& painter, const platform::Line& mark) {
+void paint(QPainter& painter, const platform::Line& mark, Faces&) {
   painter.setPen(QPen(Qt::black, mark.width, Qt::SolidLine, Qt::SquareCap));
   painter.drawLine(QPointF(mark.x1, mark.y1), QPointF(mark.x2, mark.y2));
 }
@@ -94,8 +126,16 @@ void paintPage(QPainter& painter, const platform::Page& page) {
   painter.setRenderHint(QPainter::TextAntialiasing);
   painter.setRenderHint(QPainter::Antialiasing, false);  // thin rules stay black at the screen's density
   painter.setPen(Qt::black);
-  for (const platform::Mark& mark : page.marks) std::visit([&](const auto& one) { paint(painter, one); }, mark);
+  Faces faces;
+  for (const platform::Mark& mark : page.marks) std::visit([&](const auto& one) { paint(painter, one, faces); }, mark);
   painter.restore();
+}
+
+QRectF placeOf(const platform::Text& mark) {
+  const double height = mark.size * pointMillimetres;
+  if (mark.wrap && mark.fit > 0) return {mark.x, mark.y, mark.fit, height};
+  const Fitted line = fitted(mark, QFontMetricsF(font(mark.face)));
+  return {line.x, mark.y, line.width, height};
 }
 
 void setPaper(QPagedPaintDevice& device, const platform::Drawing& drawing) {

@@ -17,6 +17,9 @@ constexpr double inchMillimetres = 25.4;
 // the face's own measures are, so that faces stand on one line.
 void paintPage(QPainter& painter, const platform::Page& page);
 
+// Where a text stands on its page, in millimetres; of a wrapped one the first line.
+QRectF placeOf(const platform::Text& mark);
+
 // Gives the device the drawing's paper, without margins.
 void setPaper(QPagedPaintDevice& device, const platform::Drawing& drawing);
 // The pages from first to last, counted from 1; false: the device took nothing.

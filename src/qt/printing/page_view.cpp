@@ -27,15 +27,32 @@ void PageView::show(std::size_t page, double zoom) {
 
 double PageView::zoomForWidth(int room) const { return (room - 2 * border) / paper(1).width(); }
 
-void PageView::paintEvent(QPaintEvent*) {
+void PageView::highlight(const QRectF& place) {
+  highlight_ = place;
+  update();
+}
+
+QRect PageView::sheet() const {
   const QSize size = paper(zoom_).toSize();
-  const QRect sheet(QPoint((width() - size.width()) / 2, border), size);
+  return {QPoint((width() - size.width()) / 2, border), size};
+}
+
+QRect PageView::placeInView(const QRectF& place) const {
+  const QRect paperThere = sheet();
+  const double across = paperThere.width() / drawing_.width, down = paperThere.height() / drawing_.height;
+  const QRectF scaled(place.x() * across, place.y() * down, place.width() * across, place.height() * down);
+  return scaled.toAlignedRect().translated(paperThere.topLeft());
+}
+
+void PageView::paintEvent(QPaintEvent*) {
+  const QRect paperHere = sheet();
   QPainter painter(this);
-  painter.fillRect(sheet.translated(shadow, shadow), QColor(0, 0, 0, 70));
-  painter.fillRect(sheet, theme::paper);
-  painter.setClipRect(sheet);
-  painter.translate(sheet.topLeft());
-  painter.scale(size.width() / drawing_.width, size.height() / drawing_.height);
+  painter.fillRect(paperHere.translated(shadow, shadow), QColor(0, 0, 0, 70));
+  painter.fillRect(paperHere, theme::paper);
+  painter.setClipRect(paperHere);
+  if (!highlight_.isNull()) painter.fillRect(placeInView(highlight_.adjusted(-0.5, -0.5, 0.5, 0.5)), theme::found);
+  painter.translate(paperHere.topLeft());
+  painter.scale(paperHere.width() / drawing_.width, paperHere.height() / drawing_.height);
   paintPage(painter, drawing_.pages[page_]);
 }
 

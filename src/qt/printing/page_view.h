@@ -11,6 +11,8 @@ class PageView : public QWidget {
  public:
   explicit PageView(const platform::Drawing& drawing, QWidget* parent = nullptr);
   void show(std::size_t page, double zoom);  // zoom 1 is the size of the paper
+  void highlight(const QRectF& place);  // millimetres of the page shown; null for none
+  QRect placeInView(const QRectF& place) const;
   // The zoom at which the paper is as wide as the room given, in pixels.
   double zoomForWidth(int room) const;
 
@@ -19,9 +21,11 @@ class PageView : public QWidget {
 
  private:
   QSizeF paper(double zoom) const;  // pixels
+  QRect sheet() const;              // where the paper lies
   const platform::Drawing& drawing_;
   std::size_t page_ = 0;
   double zoom_ = 1;
+  QRectF highlight_;
 };
 
 }  // namespace qt

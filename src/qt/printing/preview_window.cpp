@@ -3,7 +3,9 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -22,6 +24,7 @@
 #include "qt/printing/drawing_painter.h"
 #include "qt/printing/page_view.h"
 #include "qt/text.h"
+#include "qt/xp_button.h"
 
 namespace qt {
 
@@ -32,7 +35,7 @@ PreviewWindow::PreviewWindow(const platform::Drawing& drawing, QWidget* parent) 
   setWindowTitle("打印预览 - " + toQt(drawing.title));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   auto* row = new QHBoxLayout;
-  addButton(*row, "print", "打印", "printer", {QKeySequence::Print}, &PreviewWindow::print)->setDefault(true);
+  addButton(*row, "print", "打印", "printer", {QKeySequence::Print}, &PreviewWindow::print)->setDefaultLook(true);
   addButton(*row, "savePdf", "另存为 PDF", "save", {QKeySequence::Save}, &PreviewWindow::savePdfAs);
   row->addSpacing(12);
   addButton(*row, "zoomIn", "放大", "zoom-in", {QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")},
@@ -43,10 +46,19 @@ PreviewWindow::PreviewWindow(const platform::Drawing& drawing, QWidget* parent) 
   previous_ =
       addButton(*row, "previousPage", "上一页", "chevron-left", {QKeySequence("PgUp")}, &PreviewWindow::previousPage);
   row->addWidget(place_ = new QLabel);
+  place_->setObjectName("place");
   next_ = addButton(*row, "nextPage", "下一页", "chevron-right", {QKeySequence("PgDown")}, &PreviewWindow::nextPage);
   row->addSpacing(12);
-  row->addWidget(note_ = new QLabel, 1);
-  note_->setObjectName("note");
+  row->addWidget(find_ = new QLineEdit, 1);
+  find_->setObjectName("find");
+  find_->setPlaceholderText("查找文字");
+  find_->setClearButtonEnabled(true);
+  connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
+    find_->setFocus();
+    find_->selectAll();
+  });
+  addButton(*row, "findNext", "查找", "search", {QKeySequence("F3")}, &PreviewWindow::findNext);
+  row->addSpacing(12);
   addButton(*row, "close", "关闭", "x", {}, &PreviewWindow::reject);  // Escape closes every dialog
 
   scroll_ = new QScrollArea;
@@ -56,22 +68,35 @@ PreviewWindow::PreviewWindow(const platform::Drawing& drawing, QWidget* parent) 
   scroll_->viewport()->installEventFilter(this);
   auto* all = new QVBoxLayout(this);
   all->addLayout(row);
+  all->addWidget(note_ = new QLabel);
+  note_->setObjectName("note");
+  note_->hide();
   all->addWidget(scroll_, 1);
-  resize(1000, 680);
+  resize(1180, 690);
+  scroll_->setFocus();
   refresh();
 }
 
-QPushButton* PreviewWindow::addButton(QBoxLayout& row, const char* name, const QString& caption, const QString& picture,
-                                      std::initializer_list<QKeySequence> keys, void (PreviewWindow::*pressed)()) {
-  auto* button = new QPushButton(icon(picture), caption);
+XPButton* PreviewWindow::addButton(QBoxLayout& row, const char* name, const QString& caption, const QString& picture,
+                                   std::initializer_list<QKeySequence> keys, void (PreviewWindow::*pressed)()) {
+  auto* button = new XPButton;
   button->setObjectName(name);
-  button->setAutoDefault(false);
-  if (keys.size() > 0) button->setToolTip(caption + "  " + keys.begin()->toString(QKeySequence::NativeText));
-  connect(button, &QPushButton::clicked, this, pressed);
+  button->setText(caption);
+  button->setIconName(picture);
+  if (keys.size() > 0) button->setMyToolTip(caption + "  " + keys.begin()->toString(QKeySequence::NativeText));
+  connect(button, &XPButton::Click, this, pressed);
   for (const QKeySequence& key : keys)
-    connect(new QShortcut(key, this), &QShortcut::activated, button, &QPushButton::click);
+    connect(new QShortcut(key, this), &QShortcut::activated, button, [this, button, pressed] {
+      if (button->isEnabled()) (this->*pressed)();
+    });
   row.addWidget(button);
   return button;
+}
+
+// Enter finds what stands in the search field, and prints from anywhere else.
+void PreviewWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QDialog::keyPressEvent(event);
+  find_->hasFocus() ? findNext() : print();
 }
 
 void PreviewWindow::resizeEvent(QResizeEvent* event) {
@@ -124,8 +149,42 @@ void PreviewWindow::nextPage() {
 
 void PreviewWindow::turnTo(std::size_t page) {
   page_ = page;
+  nextMark_ = 0;
+  view_->highlight({});
   refresh();
   scroll_->verticalScrollBar()->setValue(0);
+}
+
+// From behind the last place found to the end, then from the beginning round to it again.
+void PreviewWindow::findNext() {
+  const QString wanted = find_->text().trimmed();
+  if (wanted.isEmpty()) return find_->setFocus();
+  std::size_t page = page_, mark = nextMark_;
+  for (std::size_t turned = 0; turned <= drawing_.pages.size(); ++turned) {
+    const auto& marks = drawing_.pages[page].marks;
+    for (; mark < marks.size(); ++mark) {
+      const auto* text = std::get_if<platform::Text>(&marks[mark]);
+      if (text && toQt(text->text).contains(wanted, Qt::CaseInsensitive)) return showFound(page, mark);
+    }
+    page = (page + 1) % drawing_.pages.size();
+    mark = 0;
+  }
+  note("没有找到“" + wanted + "”。");
+}
+
+void PreviewWindow::showFound(std::size_t page, std::size_t mark) {
+  note({});
+  if (page != page_) turnTo(page);
+  nextMark_ = mark + 1;
+  const QRectF place = placeOf(std::get<platform::Text>(drawing_.pages[page].marks[mark]));
+  view_->highlight(place);
+  const QRect there = view_->placeInView(place);
+  scroll_->ensureVisible(there.center().x(), there.center().y(), there.width() / 2 + 40, 80);
+}
+
+void PreviewWindow::note(const QString& text) {
+  note_->setText(text);
+  note_->setVisible(!text.isEmpty());
 }
 
 void PreviewWindow::refresh() {
@@ -172,7 +231,7 @@ void PreviewWindow::savePdfAs() {
   if (!path.endsWith(".pdf", Qt::CaseInsensitive)) path += ".pdf";
   try {
     savePdf(drawing_, path.toStdString());
-    note_->setText("已保存：" + QDir::toNativeSeparators(path));
+    note("已保存：" + QDir::toNativeSeparators(path));
   } catch (const platform::PlatformError& error) {
     QMessageBox::critical(this, "错误提示", toQt(error.what()));
   }

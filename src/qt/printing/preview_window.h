@@ -1,4 +1,4 @@
-// The preview: shows what is to be printed, prints it, saves it as PDF.
+// The preview: shows what is to be printed, finds texts in it, prints it, saves it as PDF.
 #pragma once
 
 #include <QDialog>
@@ -8,13 +8,14 @@
 class QAction;
 class QBoxLayout;
 class QLabel;
+class QLineEdit;
 class QPrinter;
-class QPushButton;
 class QScrollArea;
 
 namespace qt {
 
 class PageView;
+class XPButton;
 
 class PreviewWindow : public QDialog {
  public:
@@ -22,11 +23,12 @@ class PreviewWindow : public QDialog {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  QPushButton* addButton(QBoxLayout& row, const char* name, const QString& caption, const QString& icon,
-                         std::initializer_list<QKeySequence> keys, void (PreviewWindow::*pressed)());
+  XPButton* addButton(QBoxLayout& row, const char* name, const QString& caption, const QString& icon,
+                      std::initializer_list<QKeySequence> keys, void (PreviewWindow::*pressed)());
   void print();
   void print(QPrinter& printer);
   void savePdfAs();
@@ -36,14 +38,19 @@ class PreviewWindow : public QDialog {
   void previousPage();
   void nextPage();
   void turnTo(std::size_t page);
+  void findNext();
+  void showFound(std::size_t page, std::size_t mark);
+  void note(const QString& text);
   void setZoom(double zoom);
   void refresh();
 
   const platform::Drawing& drawing_;
   PageView* view_;
   QScrollArea* scroll_;
-  QPushButton *previous_, *next_;
+  XPButton *previous_, *next_;
   QLabel *place_, *note_;
+  QLineEdit* find_;
+  std::size_t nextMark_ = 0;  // of the page shown: the search goes on from there
   std::size_t page_ = 0;
   double zoom_ = 1;
   bool fitsWidth_ = true;

@@ -1,0 +1,246 @@
+#include "arrears/arrears_query.h"
+
+#include "kit/rows.h"
+#include "kit/validation.h"
+
+namespace arrears {
+
+using kit::Condition;
+using store::Sql;
+
+namespace {
+
+constexpr const char* fault = "错误提示";
+
+const kit::QueryPlan plan{"qfjl",
+                          "qfrq",
+                          {"", "单击确认查看当日欠费记录", "单击确认查看本月欠费记录", "单击确认查看本年度欠费记录", "单击确认查看全部欠费记录"},
+                          {"  where xm like  '%", "%' or xq like  '%", "%' or xh like  '%", "%'  or qfrq like  '%",
+                           "%' or bjmc like  '%", "%' or clfs like  '%", "%' or sfxm like  '%", "%' or bjrq like  '%",
+                           "%' or sbjrq like  '%", "%' or skr like  '%"},
+                          "%'",
+                          &kit::Session::arrears_where,
+                          &kit::Session::reload_arrears_list};
+
+// Behind another condition the later days are asked for with =>: the office's older conditions are written so, and the
+// store takes both.
+void writeLaterAsEver(Condition& one, std::string_view column) { one.next = Sql::column(column) + "=>#"; }
+
+}  // namespace
+
+QuestionFields::QuestionFields(kit::Screen& screen, const std::string& prefix)
+    : bjmc(screen, prefix + "bjmc", "班级名称（为空时为全校）", kit::Entry::Pick),
+      xq(screen, prefix + "xq", "学年学期", kit::Entry::Pick),
+      sfxm(screen, prefix + "sfxm", "收费项目", kit::Entry::Pick),
+      from(screen, prefix + "from", "交费日期从", kit::Entry::Date),
+      to(screen, prefix + "to", "到", kit::Entry::Date) {}
+
+Formqfcl11::Formqfcl11(kit::Desk& all)
+    : QueryScreen(all, "Formqfcl11", "打开欠费信息", plan),
+      wanted(*this, "wanted", {"实交少于应交的学生", "实交等于应交的学生", "实交多于应交的学生"}) {
+  offer(xq, "xq", [] { return Sql("select xq from qfjl group by xq"); });
+  offer(bjmc, "bjmc", [] { return Sql("select bjmc from qfjl group by bjmc"); });
+  offer(xm, "xm", [this] {
+    return bjmc.blank() ? Sql("select xm from qfjl group by xm")
+                        : Sql("select xm from qfjl where bjmc='") + bjmc.trimmed() + "' group by xm";
+  });
+  offer(sfxm, "sfxm", [] { return Sql("select sfxm from qfjl group by sfxm"); });
+  offer(clfs, "clfs", [] { return Sql("select clfs from qfjl group by clfs"); });
+  wireConditions();
+  wire(unpaid);
+  wire(compared);
+  due.rightAligned = true;
+  searchUnpaid.onPress([this] { showUnpaid(); });
+  compare.onPress([this] { showCompared(); });
+  byScope.onPress([this] {
+    close();
+    open<Formqfcl1>();
+  });
+}
+
+void Formqfcl11::wire(QuestionFields& fields) {
+  offer(fields.bjmc, "bjmc", [] { return Sql("select * from bjzl order by bjdh"); });
+  offer(fields.xq, "xq", [] { return Sql("select xq from jfjl group by xq"); });
+  offer(fields.sfxm, "sfxmmc", [] { return Sql("select * from sfxmb order by sfxmbh"); });
+}
+
+std::vector<kit::Field*> Formqfcl11::conditionFields() {
+  return {&xq, &bjmc, &xh, &xm, &sfxm, &qfrq.day, &bjrq.day, &sbjrq.day, &clfs};
+}
+
+std::optional<std::vector<Condition>> Formqfcl11::conditions() {
+  std::vector<Condition> all{kit::equals("xq", xq.text()), kit::equals("bjmc", bjmc.text()), kit::equals("xh", xh.text()),
+                             kit::equals("xm", xm.text()), kit::equals("sfxm", sfxm.text())};
+  const struct {
+    const kit::DateCondition& field;
+    const char* column;
+  } dates[] = {{qfrq, "qfrq"}, {bjrq, "bjrq"}, {sbjrq, "sbjrq"}};
+  for (const auto& date : dates) {
+    auto condition = dated(date.field, date.column);
+    if (!condition) return std::nullopt;
+    if (date.field.compare() == kit::Compare::AtLeast) writeLaterAsEver(*condition, date.column);
+    all.push_back(std::move(*condition));
+  }
+  all.push_back(kit::equals("clfs", clfs.text()));
+  return all;
+}
+
+std::optional<PaymentQuestion> Formqfcl11::asked(QuestionFields& fields) {
+  PaymentQuestion question{fields.bjmc.trimmed(), fields.xq.trimmed(), fields.sfxm.trimmed(),
+                           base::Date::parse(fields.from.trimmed()), base::Date::parse(fields.to.trimmed())};
+  const auto refuse = [&](const char* text) {
+    stop(text, fault);
+    (fields.from.blank() ? fields.from : fields.to).focus();
+    return std::nullopt;
+  };
+  if (fields.from.blank() != fields.to.blank()) return refuse("交费日期是一个区间值！ ");
+  for (kit::Field* day : {&fields.from, &fields.to}) {
+    if (day->blank() || base::Date::parse(day->trimmed())) continue;
+    refuseDate(*day);
+    return std::nullopt;
+  }
+  if (question.from && *question.to < *question.from) return refuse("起始日期不能大于截止日期！ ");
+  if (!hasStudents(desk.store, question)) {
+    inform("不存在需要查询的学生信息！    ", "信息提示");
+    return std::nullopt;
+  }
+  return question;
+}
+
+namespace {
+
+// The notice goes when the search is over, also by a fault.
+struct Notice {
+  kit::Progress& progress;
+  ~Notice() { progress.hide(); }
+};
+
+constexpr long long betweenNotices = 200;  // students
+
+}  // namespace
+
+void Formqfcl11::showUnpaid() {
+  const auto question = asked(unpaid);
+  if (!question) return;
+  long long found = 0, students = 0;
+  {
+    const Notice notice{desk.progress};
+    desk.progress.show("开始搜索 ...");
+    found = listUnpaid(desk.store, *question, desk.clock.now(), [&](const std::string&, long long so_far) {
+      if (++students % betweenNotices == 0) desk.progress.show("已搜索到" + std::to_string(so_far) + "条记录 ...");
+    });
+  }
+  if (found == 0) return inform("相关记录不存在！    ", "信息提示");
+  inform("信息搜索完毕！    ", "信息提示");
+  show(2);
+}
+
+void Formqfcl11::showCompared() {
+  if (!kit::holds(desk.person, {{&due, kit::blank(due), "应交金额不能为空！ ", fault},
+                                {&due, kit::notAmount(due), "应交金额应该是数字，请重新输入！ ", fault}}))
+    return;
+  const auto question = asked(compared);
+  if (!question) return;
+  long long found = 0, students = 0;
+  {
+    const Notice notice{desk.progress};
+    desk.progress.show("开始搜索相关记录，请稍等 ...");
+    found = listByPaid(desk.store, *question, base::Money::leading(due.text()), static_cast<PaidAs>(wanted.chosen()),
+                       desk.clock.now(), [&](const std::string& name, long long) {
+                         if (++students % betweenNotices == 0) desk.progress.show("正在加载" + name + "的信息 ...");
+                       });
+    desk.progress.show("正在筛选已加载的信息 ...");
+  }
+  if (found == 0) return inform("不存在相匹配记录！ ", "信息提示");
+  inform("信息搜索完毕！ ", "信息提示");
+  show(3);
+}
+
+void Formqfcl11::show(int listMode) {
+  desk.session.arrears_list_mode = listMode;
+  desk.session.arrears_where = {};
+  desk.session.reload_arrears_list = true;
+  close();
+}
+
+namespace {
+enum Scope { School, Major, Class, Student };
+enum Period { ByDate, ByTerm };
+}  // namespace
+
+Formqfcl1::Formqfcl1(kit::Desk& all)
+    : Screen(all, "Formqfcl1", "欠费记录查询条件设置"),
+      scope(*this, "scope", {"全校信息", "专业信息", "班级信息", "学生信息"}),
+      period(*this, "period", {"按日期", "按学期"}) {
+  scope.onChange([this] {
+    of.clear();
+    showChoice();
+  });
+  period.onChange([this] { showChoice(); });
+  of.onDrop([this] {
+    of.setChoices(scope.chosen() == Major ? kit::columnTexts(desk.store, "select * from zymcb order by zybh", "zymc")
+                                          : kit::columnTexts(desk.store, "select * from bjzl order by bjdh", "bjmc"));
+  });
+  xq.onDrop([this] { xq.setChoices(kit::columnTexts(desk.store, "select xq from qfjl group by xq order by xq", "xq")); });
+  clfs.onDrop([this] { clfs.setChoices(kit::columnTexts(desk.store, "select clfs from qfjl group by clfs", "clfs")); });
+  sfxm.onDrop([this] { sfxm.setChoices(kit::columnTexts(desk.store, "select * from sfxmb order by sfxmbh", "sfxmmc")); });
+  confirm.onPress([this] { query(); });
+  cancel.onPress([this] { close(); });
+}
+
+void Formqfcl1::load() {
+  for (kit::Field* day : {&from, &to}) day->set(desk.clock.today().plain());
+  showChoice();
+}
+
+void Formqfcl1::showChoice() {
+  const int chosen = scope.chosen();
+  of.show(chosen == Major || chosen == Class);
+  of.setLabel(chosen == Major ? "请选择专业" : "请选择班级");
+  for (kit::Field* field : {&xh, &xm}) field->show(chosen == Student);
+  for (kit::Field* field : {&from, &to}) field->show(period.chosen() == ByDate);
+  xq.show(period.chosen() == ByTerm);
+}
+
+bool Formqfcl1::valid() {
+  const auto scopeIs = [this](int wantedScope, bool lacking) { return scope.chosen() == wantedScope && lacking; };
+  const bool byDate = period.chosen() == ByDate;
+  const auto badDay = [byDate](const kit::Field& day) { return [byDate, &day] { return byDate && kit::notDate(day)(); }; };
+  const char* const badDate = "日期格式不正确,应该是 yyyy-m-d 格式！      ";
+  return kit::holds(
+      desk.person,
+      {{&of, [&] { return scopeIs(Major, of.blank()); }, "请选择专业！     ", fault},
+       {&of, [&] { return scopeIs(Class, of.blank()); }, "请选择一个班级！     ", fault},
+       {&xh, [&] { return scopeIs(Student, xh.blank() && xm.blank()); },
+        "请输入学号或姓名！学号具有唯一性，建议用学号查询！     ", fault},
+       {&from, badDay(from), badDate, fault},
+       {&to, badDay(to), badDate, fault},
+       {&xq, [&] { return !byDate && xq.blank(); }, "请选择学年学期！     ", fault}});
+}
+
+void Formqfcl1::query() {
+  if (!valid()) return;
+  const std::string chosen = of.trimmed();
+  std::vector<Condition> all{
+      scope.chosen() == Major ? kit::majorIs(kit::majorCode(desk.store, chosen)) : Condition{},
+      kit::equals("bjmc", scope.chosen() == Class ? chosen : ""),
+      kit::equals("xh", scope.chosen() == Student ? xh.text() : ""),
+      kit::equals("xm", scope.chosen() == Student && xh.blank() ? xm.text() : "")};
+  if (period.chosen() == ByDate) {
+    all.push_back(kit::onDate("qfrq", kit::Compare::AtLeast, *base::Date::parse(from.trimmed())));
+    all.push_back(kit::onDate("qfrq", kit::Compare::AtMost, *base::Date::parse(to.trimmed())));
+  } else {
+    all.push_back(kit::equals("xq", xq.text()));
+  }
+  all.push_back(kit::equals("clfs", clfs.text()));
+  all.push_back(kit::equals("sfxm", sfxm.text()));
+  const Sql filter = kit::chain(all);
+  if (rows(Sql("select * from qfjl") + filter).empty())
+    return inform("相关记录不存在，请检查条件设置是否正确！    ", "信息提示");
+  desk.session.arrears_list_mode = 1;
+  desk.session.arrears_where = filter;
+  desk.session.reload_arrears_list = true;
+  close();
+}
+
+}  // namespace arrears

@@ -1,0 +1,43 @@
+#include "arrears/due_progress.h"
+
+#include "arrears/due_import.h"
+#include "base/text.h"
+
+namespace arrears {
+
+Formqfcl3::Formqfcl3(kit::Desk& all) : LoadingScreen(all, "Formqfcl3") {
+  notice.set("正在导入学生应交费信息，请稍等 ...");
+  text.clear();
+}
+
+std::optional<int> Formqfcl3::import() {
+  struct Leaving {  // also when a fault ends the import: the screen has no other way out
+    kit::Desk& desk;
+    kit::Screen& screen;
+    ~Leaving() {
+      desk.progress.hide();
+      screen.close();
+    }
+  } leaving{desk, *this};
+  const auto count =
+      importDue(desk, desk.session.due_import, [this](const std::string& words, long long done, long long total) {
+        text.set(words);
+        desk.progress.show(words, done, total);
+      });
+  if (count) text.set("共导入应交费记录" + base::caption(*count) + "条");
+  return count;
+}
+
+void Formqfcl3::proceed() {
+  const auto& item = desk.session.due_import.item;
+  if (item && base::blank(*item)) {
+    close();
+    return stop("请设置要导入的收费项目！ ", "错误提示");
+  }
+  const std::optional<int> count = import();
+  if (!count) return inform("不存在需要导入的学生信息，请建立完整的学生档案后再进行导入 ！  ", "导入提示");
+  desk.session.due_import_ended = true;
+  inform("共导入应交费记录" + base::caption(*count) + "条，导入完毕 ！   ", "导入提示");
+}
+
+}  // namespace arrears

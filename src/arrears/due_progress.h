@@ -1,0 +1,21 @@
+// Runs the import of amounts due once it has been painted. It cannot be left before the import has ended.
+#pragma once
+
+#include "kit/loading_screen.h"
+
+namespace arrears {
+
+class Formqfcl3 : public kit::LoadingScreen {  // 应交费导入进度
+ public:
+  explicit Formqfcl3(kit::Desk& desk);
+  kit::Layout layout() override;
+  bool mayClose() override { return false; }
+
+  kit::Field notice{*this, "notice", "", kit::Entry::Shown};
+
+ private:
+  void proceed() override;
+  std::optional<int> import();
+};
+
+}  // namespace arrears

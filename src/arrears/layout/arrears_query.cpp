@@ -1,0 +1,36 @@
+#include "arrears/arrears_query.h"
+
+namespace arrears {
+
+using namespace kit;
+
+namespace {
+
+Nodes question(QuestionFields& fields) { return {fields.bjmc, fields.xq, fields.sfxm, fields.from, fields.to}; }
+
+}  // namespace
+
+Layout Formqfcl11::layout() {
+  const Node own = column({form({xq, bjmc, xh, xm, sfxm, clfs}, 2), row({qfrq.node(), bjrq.node()}), row({sbjrq.node(), stretch()})});
+  Nodes comparison = question(compared);
+  comparison.push_back(due);
+  return {.root = column({tabs({group("欠费记录", {queryNode(own), buttons({byScope, clearAll, confirm})}),
+                                group("未交费学生名单", {form(question(unpaid)), stretch(), buttons({searchUnpaid})}),
+                                group("应交实交金额对比",
+                                      {form(std::move(comparison)), group("对比结果", {wanted}), stretch(), buttons({compare})})}),
+                          buttons({cancel})}),
+          .confirm = &confirm,
+          .cancel = &cancel,
+          .width = 860};
+}
+
+Layout Formqfcl1::layout() {
+  return {.root = column({row({group("查询范围", {scope}), group("查询方式", {period})}),
+                          group("查询条件", {form({of, xh, xm, from, to, xq, clfs, sfxm}), note("（收费项目为空时为所有项目）")}),
+                          buttons({confirm, cancel})}),
+          .confirm = &confirm,
+          .cancel = &cancel,
+          .width = 560};
+}
+
+}  // namespace arrears

@@ -1,0 +1,171 @@
+#include "collection/payment_query.h"
+
+#include "base/text.h"
+#include "kit/rows.h"
+
+namespace collection {
+
+using kit::Condition;
+using store::Sql;
+
+namespace {
+
+const kit::QueryPlan plan{"jfjl",
+                          "jfrq",
+                          {"", "单击确认查看当日收费记录", "单击确认查看本月收费记录", "单击确认查看本年度收费记录", "单击确认查看全部收费记录"},
+                          {"  where xm like  '%", "%' or xq like  '%", "%' or xh like  '%", "%' or jfrq like  '%",
+                           "%' or bjmc like  '%", "%' or jffs like  '%", "%' or sfxm like  '%", "%' or rxxs like  '%",
+                           "%' or fpbh like  '%"},
+                          "%'",
+                          &kit::Session::payment_where,
+                          &kit::Session::reload_payment_list};
+
+constexpr const char* fault = "错误提示";
+
+}  // namespace
+
+Formzctsf31::Formzctsf31(kit::Desk& all) : QueryScreen(all, "Formzctsf31", "打开交费记录信息设置", plan) {
+  offer(xq, "xq", [] { return Sql("select xq from jfjl group by xq"); });
+  offer(bjmc, "bjmc", [] { return Sql("select * from bjzl order by bjdh"); });
+  offer(xm, "xm", [this] {
+    return bjmc.blank() ? Sql("select * from xs order by xh") : Sql("select * from xs where bjmc='") + bjmc.trimmed() + "'";
+  });
+  offer(sfxm, "sfxm", [] { return Sql("select sfxm from jfjl group by sfxm"); });
+  offer(jffs, "jffs", [] { return Sql("select jffs from jfjl group by jffs"); });
+  offer(rxxs, "rxxs", [] { return Sql("select * from rxxs"); });
+  wireConditions();
+  scope.onPress([this] {
+    close();
+    open<Formzctsf3>();
+  });
+}
+
+std::vector<kit::Field*> Formzctsf31::conditionFields() { return {&xq, &bjmc, &xh, &xm, &sfxm, &from, &to, &jffs, &rxxs}; }
+
+void Formzctsf31::accepted() { desk.session.payment_heading.clear(); }
+
+std::optional<std::vector<Condition>> Formzctsf31::conditions() {
+  if (from.blank() != to.blank()) {
+    stop(to.blank() ? "日期是一个区间值,您需要设置截止日期！      " : "日期是一个区间值,您需要设置起始日期！      ", fault);
+    (to.blank() ? to : from).focus();
+    return std::nullopt;
+  }
+  Condition days;
+  if (!from.blank()) {
+    const auto first = base::Date::parse(from.trimmed()), last = base::Date::parse(to.trimmed());
+    if (!first || !last) {
+      refuseDate(first ? to : from);
+      return std::nullopt;
+    }
+    const Sql between = Sql("jfrq>=#") + first->plain() + "# and jfrq<=#";
+    days = {last->plain(), between, between, "#"};
+  }
+  return std::vector{kit::equals("xq", xq.text()),     kit::equals("bjmc", bjmc.text()), kit::equals("xh", xh.text()),
+                     kit::equals("xm", xm.text()),     kit::equals("sfxm", sfxm.text()), days,
+                     kit::equals("jffs", jffs.text()), kit::equals("rxxs", rxxs.text())};
+}
+
+namespace {
+enum Scope { School, Major, Class, Student };
+enum Period { ByDate, ByTerm };
+}  // namespace
+
+Formzctsf3::Formzctsf3(kit::Desk& all)
+    : Screen(all, "Formzctsf3", "交费记录查询条件设置"),
+      scope(*this, "scope", {"全校信息", "专业信息", "班级信息", "学生信息"}),
+      period(*this, "period", {"按日期", "按学期"}) {
+  scope.onChange([this] {
+    of.clear();
+    showChoice();
+  });
+  period.onChange([this] { showChoice(); });
+  of.onDrop([this] {
+    of.setChoices(scope.chosen() == Major ? kit::columnTexts(desk.store, "select * from zymcb order by zybh", "zymc")
+                                          : kit::columnTexts(desk.store, "select * from bjzl order by bjdh", "bjmc"));
+  });
+  xq.onDrop([this] { xq.setChoices(kit::columnTexts(desk.store, "select xq from jfjl group by xq order by xq", "xq")); });
+  sfxm.onDrop([this] { sfxm.setChoices(kit::columnTexts(desk.store, "select * from sfxmb order by sfxmbh", "sfxmmc")); });
+  confirm.onPress([this] { query(); });
+  cancel.onPress([this] { close(); });
+}
+
+void Formzctsf3::load() {
+  desk.session.payment_where = {};
+  desk.session.payment_heading.clear();
+  for (kit::Field* day : {&from, &to}) day->set(desk.clock.today().plain());
+  showChoice();
+}
+
+void Formzctsf3::showChoice() {
+  const int chosen = scope.chosen();
+  of.show(chosen == Major || chosen == Class);
+  of.setLabel(chosen == Major ? "请选择专业" : "请选择班级");
+  for (kit::Field* field : {&xh, &xm}) field->show(chosen == Student);
+  for (kit::Field* field : {&from, &to}) field->show(period.chosen() == ByDate);
+  xq.show(period.chosen() == ByTerm);
+}
+
+// What opens the clause, up to the period; nothing when it was refused.
+std::optional<Sql> Formzctsf3::scopePart() {
+  const auto missing = [&](kit::Field& field, const char* text) {
+    stop(text, fault);
+    field.focus();
+    return std::nullopt;
+  };
+  switch (scope.chosen()) {
+    case Major:
+      if (of.blank()) return missing(of, "请选择专业！     ");
+      return Sql(" where left(xtbh,2)='") + kit::majorCode(desk.store, of.trimmed()) + "' and ";
+    case Class:
+      if (of.blank()) return missing(of, "请选择一个班级！     ");
+      return Sql(" where bjmc='") + of.trimmed() + "' and ";
+    case Student:
+      if (!xh.blank()) return Sql(" where xh='") + xh.trimmed() + "' and ";
+      if (xm.blank()) return missing(xh, "请输入学号或姓名！学号具有唯一性，建议用学号查询！     ");
+      if (!ask("您没有输入学号，将按姓名查询，同名学生的记录会一并列出，这样可能会导致查询结果不准确！您确认继续吗？      ", "操作提示"))
+        return std::nullopt;
+      return Sql(" where xm='") + xm.trimmed() + "' and ";
+    default: return Sql(" where ");
+  }
+}
+
+std::optional<Sql> Formzctsf3::periodPart() {
+  const std::string item = sfxm.trimmed();
+  if (period.chosen() == ByTerm) {
+    if (xq.blank()) {
+      stop("请选择学年学期！     ", fault);
+      xq.focus();
+      return std::nullopt;
+    }
+    const Sql term = Sql("xq='") + xq.trimmed() + "'";
+    return item.empty() ? term : term + " and  sfxm='" + item + "'";
+  }
+  for (kit::Field* day : {&from, &to}) {
+    if (base::Date::parse(day->trimmed())) continue;
+    stop("日期格式不正确,应该是 yyyy-m-d 格式！      ", fault);
+    day->focus();
+    return std::nullopt;
+  }
+  const Sql days = Sql("jfrq>=#") + from.trimmed() + "# and jfrq<=#" + to.trimmed() + "#";
+  return item.empty() ? days : days + " and sfxm='" + item + "'";
+}
+
+void Formzctsf3::query() {
+  const auto opening = scopePart();
+  if (!opening) return;
+  const auto when = periodPart();
+  if (!when) return;
+  auto& session = desk.session;
+  session.payment_where = *opening + *when + " order by jfrq";
+  base::Money sum;
+  store::RecordSet found = rows(Sql("select * from jfjl") + session.payment_where);
+  store::forEach(found, [&](store::RecordSet& row) { sum += row.get("je").money(); });
+  session.payment_heading =
+      scope.options()[static_cast<std::size_t>(scope.chosen())] + "：" +
+      (period.chosen() == ByDate ? "从 " + from.trimmed() + " 到 " + to.trimmed() : xq.trimmed()) + " 共有" + "交费记录 " +
+      std::to_string(found.count()) + " 条，交费金额：" + sum.fixed2() + " 元！ ";
+  session.reload_payment_list = true;
+  close();
+}
+
+}  // namespace collection

@@ -1,0 +1,46 @@
+// The queries of the payments' overview: conditions of one's own, or a scope with a period.
+#pragma once
+
+#include "kit/query_screen.h"
+
+namespace collection {
+
+class Formzctsf31 : public kit::QueryScreen {  // 打开交费记录信息设置
+ public:
+  explicit Formzctsf31(kit::Desk& desk);
+  kit::Layout layout() override;
+
+  kit::Field xq{*this, "xq", "学年学期", kit::Entry::Pick}, bjmc{*this, "bjmc", "班级名称", kit::Entry::Pick},
+      xh{*this, "xh", "学号"}, xm{*this, "xm", "姓名", kit::Entry::Pick},
+      sfxm{*this, "sfxm", "收费项目", kit::Entry::Pick}, from{*this, "from", "交费日期从", kit::Entry::Date},
+      to{*this, "to", "到", kit::Entry::Date}, jffs{*this, "jffs", "交费方式", kit::Entry::Pick},
+      rxxs{*this, "rxxs", "入学形式", kit::Entry::Pick};
+  kit::Action scope{*this, "scope", "按范围查询", "list-filter"};  // the other screen instead
+
+ private:
+  std::optional<std::vector<kit::Condition>> conditions() override;
+  std::vector<kit::Field*> conditionFields() override;
+  void accepted() override;
+};
+
+class Formzctsf3 : public kit::Screen {  // 交费记录查询条件设置
+ public:
+  explicit Formzctsf3(kit::Desk& desk);
+  void load() override;
+  kit::Layout layout() override;
+
+  kit::Choice scope, period;
+  kit::Field of{*this, "of", "请选择班级", kit::Entry::Pick};  // the major or the class, by the scope
+  kit::Field xh{*this, "xh", "学号"}, xm{*this, "xm", "姓名"};
+  kit::Field from{*this, "from", "起始日期", kit::Entry::Date}, to{*this, "to", "截止日期", kit::Entry::Date};
+  kit::Field xq{*this, "xq", "请选择学年学期", kit::Entry::Pick}, sfxm{*this, "sfxm", "请选择收费项目", kit::Entry::Pick};
+  kit::Action confirm{*this, "confirm", "确认", "check"}, cancel{*this, "cancel", "返回", "undo-2"};
+
+ private:
+  void showChoice();
+  std::optional<store::Sql> scopePart();
+  std::optional<store::Sql> periodPart();
+  void query();
+};
+
+}  // namespace collection

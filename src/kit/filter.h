@@ -1,0 +1,38 @@
+// The where clause of a list as a table of conditions. The queries hold them in the session, as statement text; printing
+// and export put the same text behind their own columns.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/date.h"
+#include "store/record_set.h"
+
+namespace kit {
+
+// One condition of a chain: what stands before and behind its value. A blank value leaves it out.
+struct Condition {
+  std::string value;
+  store::Sql first;  // behind " where "
+  store::Sql next;   // behind " and "
+  store::Sql end;
+};
+
+enum class Compare { AtMost, Equal, AtLeast };
+const std::vector<std::string>& compareSigns();  // "<=", "=", ">="
+
+Condition equals(std::string_view column, std::string value);                     // bjmc='…'
+Condition onDate(std::string_view column, Compare compare, const base::Date& day);  // csrq<=#…#
+Condition majorIs(std::string code);  // a student's major is the first two characters of the system number
+
+// The code of a major by its name; the name itself, which is no code, when there is no such major.
+std::string majorCode(store::Store& store, const std::string& zymc);
+
+// " where " before the first that has a value, " and " before the others; empty when none has one.
+store::Sql chain(const std::vector<Condition>& conditions);
+
+// The key behind each piece, the end behind the last: "  where xm like  '%" key "%' or xb like  '%" key ….
+store::Sql keywordChain(const std::vector<store::Sql>& pieces, const std::string& key, const store::Sql& end);
+
+}  // namespace kit

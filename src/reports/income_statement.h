@@ -1,0 +1,47 @@
+// The income statement: a worker that computes behind a notice, and the screen that shows what it computed.
+#pragma once
+
+#include "kit/screen.h"
+
+namespace reports {
+
+// What the worker is opened for; it takes its order from the session's EditMode.
+constexpr kit::Mode openStatement{1}, refreshStatement{2}, printStatement{3};
+
+class Formkh1 : public kit::Screen {  // 经营情况统计的计算窗口
+ public:
+  explicit Formkh1(kit::Desk& desk);
+  void load() override;
+  kit::Layout layout() override;
+  bool mayClose() override { return false; }  // it leaves by itself
+
+  kit::Field notice{*this, "notice", "", kit::Entry::Shown};
+  kit::Timer timer{*this, "timer", std::chrono::milliseconds(200)};
+
+ private:
+  void work();
+  void compute();
+  void print();
+};
+
+class Formkh : public kit::Screen {  // 学校经营情况统计分析
+ public:
+  explicit Formkh(kit::Desk& desk);
+  void load() override;
+  kit::Layout layout() override;
+
+  kit::Field period{*this, "period", "", kit::Entry::Shown};
+  kit::Action previous{*this, "previous", "<<<="}, next{*this, "next", "=>>>"};
+  kit::List list;
+  kit::Field month_total{*this, "month_total", "本期合计", kit::Entry::Shown},
+      year_total{*this, "year_total", "累计合计", kit::Entry::Shown};
+  kit::Action print{*this, "print", "打印", "printer"}, back{*this, "back", "返回", "undo-2"};
+
+ private:
+  void work(kit::Mode order);
+  void show();
+  void toPrevious();
+  void toNext();
+};
+
+}  // namespace reports

@@ -1,0 +1,29 @@
+#include "students/suspension_edit.h"
+#include "students/suspension_list.h"
+#include "students/suspension_query.h"
+
+namespace students {
+
+using namespace kit;
+
+Layout Formxxfk::layout() {
+  return {.root = column({count, suspensions, buttons({add, resume, remove, query, print, toSheet, clearAll, back})}),
+          .cancel = &back,
+          .width = 860,
+          .height = 520};
+}
+
+Layout Formxxfk1::layout() {
+  return {.root = column({what, form({wide(bjmc, 18), wide(xm, 18), xh, day}), buttons({confirm, cancel})}),
+          .confirm = &confirm,
+          .cancel = &cancel};
+}
+
+Layout Formxxfk2::layout() {
+  return {.root = column(
+              {form({wide(bjmc, 18), wide(xm, 18)}), note("都不填写时显示全部记录"), buttons({confirm, cancel})}),
+          .confirm = &confirm,
+          .cancel = &cancel};
+}
+
+}  // namespace students
