@@ -287,6 +287,7 @@ QWidget* Renderer::lines(const Node& node) {
       const bool tick = isMember(cell, MemberKind::Check) && cell.width == 0;  // one with a width has a caption
       grid->addWidget(made, line, column, tick ? Qt::AlignCenter : Qt::Alignment());
       grid->setColumnStretch(column, tick ? 0 : std::max(cell.width, 1));
+      if (cell.width > 0) grid->setColumnMinimumWidth(column, made->minimumWidth());  // also while its cells are hidden
       if (tick)
         if (auto* heading = grid->itemAtPosition(0, column)) heading->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
       const auto* field = fieldOf(cell);
