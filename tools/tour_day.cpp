@@ -19,7 +19,7 @@ void openRow(QWidget& w, const char* list, int row) {
 
 // Whom the day is about; looked up before it begins.
 struct People {
-  std::string pays, paysName, paysClass;        // has paid everything but is paying the next term's fees
+  std::string pays, paysName, paysClass, newClass;        // has paid everything but is paying the next term's fees
   std::string owes, waived, corrected;  // with open arrears of one row
 };
 
@@ -41,6 +41,8 @@ People choosePeople(School& school) {
   people.pays = school.value("select * from xs order by xh", "xh");
   people.paysName = school.value(Sql("select * from xs where xh='") + people.pays + "'", "xm");
   people.paysClass = school.value(Sql("select * from xs where xh='") + people.pays + "'", "bjmc");
+  RecordSet classes(school.store, "select * from bjzl order by bjdh desc");
+  people.newClass = classes.get("bjmc").trimmed();
   std::string* const roles[] = {&people.owes, &people.waived, &people.corrected};
   std::size_t next = 0;
   RecordSet open(school.store, "select * from qfjl where sbjje<bjje and clfs<>'减免' and sbjje=0 order by bjrq");
@@ -225,7 +227,7 @@ Steps askQuestions(const People& people) {
           {"Formzct/arrears_overview_zoom", "再次导入", [](QWidget& w) { press(w, "arrears_import"); }},
           {"Formqfcl2", "再次导入设置", [](QWidget& w) { press(w, "confirm"); }},
           said("导入可能需要一定的时间"),
-          said("共导入应交费记录0条"),
+          said("共导入应交费记录 0条"),
           {"Formzct/arrears_overview_zoom", "导入后返回", [](QWidget& w) { press(w, "arrears_close"); }}};
 }
 
@@ -249,6 +251,32 @@ Steps lookAtTheSchool(const People& people) {
           {"Formzct/class_strip", "休学状态", [](QWidget&) {}}};
 }
 
+// A class hands its money in through its teacher; one of its students then moves to another class.
+Steps collectAClass(const People& people) {
+  return {{"Formzct", "集中收费", [](QWidget& w) { menu(w, "k20"); }},
+          {"Formzctsf7", "集中收费窗口", [](QWidget& w) {
+             pick(w, "sfxm", "书本费");
+             openRow(w, "classes", 0);
+             press(w, "tickAll");
+           }},
+          {"Formzctsf7", "集中收费已选", [people](QWidget& w) {
+             pick(w, "person", people.paysName);
+             press(w, "confirm");
+           }},
+          said("收费操作成功"),
+          {"preview", "上交凭证", [](QWidget& w) { press(w, "close"); }},
+          {"Formzctsf7", "集中收费完毕", [](QWidget& w) { press(w, "back"); }},
+          {"Formzct", "调班", [](QWidget& w) { menu(w, "cd14"); }},
+          {"Formtb", "选择调出班级", [people](QWidget& w) { pick(w, "fromClass", people.paysClass); }},
+          {"Formtb", "选择学生", [people](QWidget& w) {
+             pick(w, "toClass", people.newClass);
+             setTick(w, "student0", true);
+           }},
+          {"Formtb", "调班确认", [](QWidget& w) { press(w, "confirm"); }},
+          said("调班操作成功"),
+          {"Formtb", "调班完毕", [](QWidget& w) { press(w, "back"); }}};
+}
+
 int wrong = 0;
 
 void check(const char* what, const std::string& found, const std::string& expected) {
@@ -266,11 +294,17 @@ void checkDay(School& school, const People& people, long long paymentsBefore) {
   check("the state of the paid arrears", school.value(Sql("select * from qfjl where xh='") + people.owes + "'", "clfs"), "结清");
   check("the state of the waived arrears", school.value(Sql("select * from qfjl where xh='") + people.waived + "'", "clfs"), "减免");
   check("the corrected arrears", std::to_string(school.count("select * from qfjl where bjje=888.8")), "1");
-  check("what the user has not submitted", std::to_string(school.count("select * from jfjl where skr='王芳' and sftj<>'*'")), "0");
   check("the suspension", school.value(Sql("select * from xxfk where xh='") + people.pays + "'", "fksj"), "");
   check("the students suspended", std::to_string(school.count("select * from xxfk")), "1");
+  const Sql collected = "select fpbh from jfjl where bz='集中收费' group by fpbh";
+  const long long batch = school.count("select * from jfjl where bz='集中收费'");
+  check("what the user has not submitted", std::to_string(school.count("select * from jfjl where skr='王芳' and sftj<>'*'")),
+        std::to_string(batch));
+  check("the receipt numbers of the batch", std::to_string(school.count(collected)), std::to_string(batch));
+  check("the class without the student who moved",
+        std::to_string(school.count(Sql("select * from xs where bjmc='") + people.paysClass + "'")), std::to_string(batch - 1));
   check("the payments", std::to_string(school.count("select * from jfjl")),
-        std::to_string(paymentsBefore + school.count(next)));
+        std::to_string(paymentsBefore + school.count(next) + batch - school.count(next + " and bz='集中收费'")));
 }
 
 }  // namespace
@@ -284,7 +318,7 @@ int playDay(const std::filesystem::path& folder, const std::filesystem::path& pi
     paymentsBefore = before.count("select * from jfjl");
   }
   Steps steps = logIn("王芳");
-  for (const Steps& more : {lookAround(), payShort(people), followUp(people), correct(), submit(people), askQuestions(people), lookAtTheSchool(people), leave()}) append(steps, more);
+  for (const Steps& more : {lookAround(), payShort(people), followUp(people), correct(), submit(people), askQuestions(people), lookAtTheSchool(people), collectAClass(people), leave()}) append(steps, more);
   Player day(steps, pictures, numbered);
   app::Office(folder.string()).run();
   numbered = day.pictures();

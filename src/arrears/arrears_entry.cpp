@@ -32,6 +32,7 @@ double DebtLine::amount(std::size_t place) const { return base::leadingNumber(in
 Formqfcl::Formqfcl(kit::Desk& all) : Screen(all, "Formqfcl", "学生欠费信息编辑") {
   xh.onEnter([this] { findByNumber(); });
   xm.onEnter([this] { findByName(); });
+  xm.onDrop([this] { xm.setChoices(kit::columnTexts(desk.store, "select xm from xs group by xm", "xm")); });
   // A name is looked up by Enter; left in any other way it stays the name of the student whose number stands there.
   xm.onLeave([this] {
     if (!bjmc.blank()) xm.set(takenName_);

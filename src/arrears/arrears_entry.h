@@ -31,7 +31,7 @@ class Formqfcl : public kit::Screen {  // 学生欠费信息编辑
   kit::Layout layout() override;
 
   kit::Field xh{*this, "xh", "学号"};
-  kit::Field xm{*this, "xm", "姓名"};
+  kit::Field xm{*this, "xm", "姓名", kit::Entry::Pick};
   kit::Field bjmc{*this, "bjmc", "班级", kit::Entry::Shown};
   kit::Field xq{*this, "xq", "学年学期", kit::Entry::Shown};
   kit::Field qfts{*this, "qfts", "提示提前量", kit::Entry::Shown};

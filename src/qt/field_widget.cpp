@@ -133,7 +133,7 @@ void narrowWhileTyping(DropEdit& edit, kit::Field& field, Renderer& renderer) {
   QObject::connect(&edit, &QLineEdit::textEdited, &renderer, [&field, &renderer, &edit, model, completer](const QString& typed) {
     completer->popup()->hide();
     if (typed.trimmed().isEmpty() || !renderer.reachable(field)) return;
-    if (field.choices().empty()) field.drop();
+    if (field.choices().empty() || typed.size() == 1) field.drop();  // a new word: others may have written meanwhile
     if (!renderer.reachable(field)) return;
     QStringList meant;
     const std::string text = fromQt(typed);

@@ -38,6 +38,8 @@ std::vector<Session::IncomeLine> computeIncome(store::Store& store, Period perio
       group = key;
       lines.push_back({stored.trimmed(), {}, {}});
       onItem(lines.back().item);
+    } else if (stored.trimmed() < lines.back().item) {
+      lines.back().item = stored.trimmed();  // a group bears the least of its spellings
     }
     if (const auto day = row.get("jfrq").date()) sums[key].add(row.get("je").money(), *day, period);
   });

@@ -59,7 +59,7 @@ base::Money balanceOf(RecordSet& row) { return row.get("bjje").money() - row.get
 CardFrame::CardFrame(kit::Screen& screen)
     : frame(screen, "card", "学籍资料："),
       xh(screen, "xh", "学号"),
-      xm(screen, "xm", "姓名"),
+      xm(screen, "xm", "姓名", kit::Entry::Pick),
       photo(screen, "photo") {
   for (const CardLine& line : cardLines) details.emplace_back(screen, line.name, line.label, kit::Entry::Shown);
 }

@@ -19,6 +19,7 @@ void Formzct::wireFront() {
   card.xh.onEnter([this] { findByNumber(); });
   card.xm.onEnter([this] { findByName(); });
   card.xm.onChange([this] { titleFrames(); });
+  card.xm.onDrop([this] { card.xm.setChoices(kit::columnTexts(desk.store, "select xm from xs group by xm", "xm")); });
   for (kit::Field* field : {&card.xh, &card.xm}) field->onClick([this] { clearCard(); });
 
   payments.list.menu = paymentsPopUp();

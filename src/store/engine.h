@@ -45,6 +45,7 @@ class Phrases {
   virtual std::string key(const std::string& column, Type type) const = 0;  // what rows are ordered and grouped by
   virtual std::string indexed(const std::vector<std::string>& keys) const = 0;  // what serves an order by them
   virtual std::string folded(const std::string& text) const = 0;            // compares without regard to case
+  virtual std::string byBytes(const std::string& column, Type type) const = 0;  // compares with regard to case
   virtual std::string like(const std::string& text, const std::string& pattern) const = 0;
   virtual std::string shown(const std::string& value, Type type) const = 0;  // as Value::text() shows it
   virtual std::string left(const std::string& text, const std::string& count) const = 0;

@@ -45,6 +45,7 @@ class PostgresPhrases final : public Phrases {
   std::string indexed(const std::vector<std::string>& keys) const override {
     return base::join(keys, " nulls first, ") + " nulls first, row_no";
   }
+  std::string byBytes(const std::string& column, Type) const override { return column; }  // as the schema has them
   std::string folded(const std::string& text) const override { return "lower(" + text + " collate \"C\")"; }
   std::string like(const std::string& text, const std::string& pattern) const override {
     return folded("(" + text + ")") + " like " + folded(pattern) + " escape ''";

@@ -39,9 +39,9 @@ std::string listOf(const Query& query) {
   return result;
 }
 
-std::string leastOf(const Query& query) {
+std::string leastOf(const Query& query, const Phrases& phrases) {
   std::string result = "0";
-  for (const Column* column : query.columns) result += ", min(" + quoted(column->name) + ")";
+  for (const Column* column : query.columns) result += ", min(" + phrases.byBytes(quoted(column->name), column->type) + ")";
   return result;
 }
 
@@ -76,7 +76,7 @@ Query plan(const dialect::Select& select, Connection connection, const Phrases& 
   for (const Column* column : group) {
     grouping += (grouping.empty() ? " group by " : ", ") + phrases.key(quoted(column->name), column->type);
   }
-  const std::string rows = "select " + (query.grouped ? leastOf(query) : listOf(query)) + source + grouping;
+  const std::string rows = "select " + (query.grouped ? leastOf(query, phrases) : listOf(query)) + source + grouping;
   query.walk = rows + orderText(order, false, query.grouped, phrases);
   query.last = rows + orderText(order, true, query.grouped, phrases) + " limit 1";
   query.count =

@@ -30,6 +30,9 @@ class SqlitePhrases final : public Phrases {
   }
   std::string key(const std::string& column, Type) const override { return column; }
   std::string indexed(const std::vector<std::string>& keys) const override { return base::join(keys, ", "); }
+  std::string byBytes(const std::string& column, Type type) const override {
+    return type == Type::Text ? column + " collate binary" : column;
+  }
   std::string folded(const std::string& text) const override { return text + " collate nocase"; }
   std::string like(const std::string& text, const std::string& pattern) const override {
     return text + " like " + pattern;
