@@ -162,7 +162,7 @@ Seconds payBare(Bare& bare, BareStatement& insert, const collection::Receipt& re
         insert.bind(++place, text);
       }
       insert.bind(++place, static_cast<long long>(line.je.units()));
-      for (const std::string& text : {receipt.skr, std::string("2026-9-7 8:30:05"), std::string(), receipt.jffs, receipt.rxxs}) {
+      for (const std::string& text : {receipt.skr, std::string("2026-9-7 8:30:05"), std::string(), receipt.jffs.value_or(""), receipt.rxxs}) {
         insert.bind(++place, text);
       }
       insert.step();
