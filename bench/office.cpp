@@ -146,7 +146,7 @@ Measure card(Office& office) {
 }
 
 collection::Receipt tenLines() {
-  collection::Receipt receipt{"2024000001", "王小明", "计算机应用11001班", "2026学年下学期", "11001001", "统招", "李强", "现金", {},
+  collection::Receipt receipt{"2024000001", "王小明", "计算机应用11001班", "2026学年下学期", "11001001", "统招", "现金", "李强",
                               {2026, 9, 7}, false, {}};
   for (int i = 0; i < linesOfPayment; ++i) receipt.lines.push_back({"代办费", base::Money::yuan(100), ""});
   return receipt;
@@ -162,7 +162,7 @@ Seconds payBare(Bare& bare, BareStatement& insert, const collection::Receipt& re
         insert.bind(++place, text);
       }
       insert.bind(++place, static_cast<long long>(line.je.units()));
-      for (const std::string& text : {receipt.skr, std::string("2026-9-7 8:30:05"), std::string(), receipt.jffs.value(), receipt.rxxs}) {
+      for (const std::string& text : {receipt.skr, std::string("2026-9-7 8:30:05"), std::string(), receipt.jffs.value_or(""), receipt.rxxs}) {
         insert.bind(++place, text);
       }
       insert.step();

@@ -26,11 +26,11 @@ BatchResult collectBatch(store::Store& store, const Batch& batch, base::DateTime
                         .xq = batch.xq,
                         .xtbh = copied("xtbh"),
                         .rxxs = copied("rxxs"),
-                        .skr = batch.skr,
                         .jffs = {},
-                        .bz = "集中收费",
+                        .skr = batch.skr,
                         .jfrq = batch.jfrq,
-                        .lines = {{batch.sfxm, payment.je, ""}}});
+                        .lines = {{batch.sfxm, payment.je, ""}},
+                        .bz = "集中收费"});
     ++result.students;
     result.total += payment.je;
   }

@@ -119,6 +119,7 @@ void Formzctsf7::tickOrUntickAll() {
       std::any_of(cells.begin(), cells.end(), [](const BatchCell& cell) { return cell.shown() && !cell.tick.on(); });
   for (BatchCell& cell : cells)
     if (cell.shown()) cell.tick.set(anyOpen);
+  if (cells.front().shown()) cells.front().je.focus();  // also the amount that had the focus is replaced by typing
 }
 
 void Formzctsf7::addUp() {

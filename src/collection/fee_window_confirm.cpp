@@ -87,9 +87,8 @@ Receipt Formzctsf4::receipt() const {
                   .xq = xq.trimmed(),
                   .xtbh = base::trim(xtbh),
                   .rxxs = rxxs.trimmed(),
-                  .skr = desk.session.SessionUser,
                   .jffs = jffs.trimmed(),
-                  .bz = {},
+                  .skr = desk.session.SessionUser,
                   .jfrq = base::Date::parse(jfrq.trimmed()).value(),
                   .settlesArrears = !desk.session.fee_normal_mode,
                   .lines = {}};

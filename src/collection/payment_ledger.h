@@ -18,11 +18,13 @@ struct PaidLine {
 
 // What one collection brings in: a jfjl row a line, all under one receipt number.
 struct Receipt {
-  std::string xh, xm, bjmc, xq, xtbh, rxxs, skr;
-  std::optional<std::string> jffs, bz;  // a column without a value is left alone
+  std::string xh, xm, bjmc, xq, xtbh, rxxs;
+  std::optional<std::string> jffs;  // without a value the column is left alone
+  std::string skr;
   base::Date jfrq;
   bool settlesArrears = false;
   std::vector<PaidLine> lines;
+  std::optional<std::string> bz = std::nullopt;  // as jffs
 };
 
 // The numbers that follow the last row of the ledger. They are good only inside the unit of work that writes them.

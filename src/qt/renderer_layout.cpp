@@ -275,10 +275,11 @@ QWidget* Renderer::lines(const Node& node) {
     label->setProperty("role", "column");
     grid->addWidget(label, 0, column++, Qt::AlignLeft | Qt::AlignBottom);
   }
-  int line = 0;
+  int line = 0, needed = 0;
   for (const Node& child : node.children) {
     ++line;
     column = 0;
+    int wished = 2 * groupMargin - grid->horizontalSpacing();
     auto& walked = grid_.emplace_back();
     for (const Node& cell : child.children) {
       walked.push_back(cell.member);
@@ -287,6 +288,8 @@ QWidget* Renderer::lines(const Node& node) {
       const bool tick = isMember(cell, MemberKind::Check) && cell.width == 0;  // one with a width has a caption
       grid->addWidget(made, line, column, tick ? Qt::AlignCenter : Qt::Alignment());
       grid->setColumnStretch(column, tick ? 0 : std::max(cell.width, 1));
+      if (cell.width > 0) grid->setColumnMinimumWidth(column, made->minimumWidth());
+      wished += made->minimumWidth() + grid->horizontalSpacing();
       if (tick)
         if (auto* heading = grid->itemAtPosition(0, column)) heading->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
       const auto* field = fieldOf(cell);
@@ -294,7 +297,9 @@ QWidget* Renderer::lines(const Node& node) {
         if (auto* heading = grid->itemAtPosition(0, column)) heading->setAlignment(Qt::AlignRight | Qt::AlignBottom);
       ++column;
     }
+    needed = std::max(needed, wished);
   }
+  holder->setMinimumWidth(needed);  // also while cells are hidden, so that nothing moves when they come
   grid->setRowStretch(line + 1, 1);
   return holder;
 }

@@ -19,7 +19,7 @@ kit::Layout Formtb::layout() {
           .confirm = &confirm,
           .cancel = &back,
           .width = 1040,
-          .height = 640};
+          .height = 590};
 }
 
 }  // namespace students
