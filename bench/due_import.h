@@ -1,6 +1,7 @@
 // The import of amounts due against one statement that does the same.
 #pragma once
 
+#include "measure.h"
 #include "office.h"
 
 namespace bench {
