@@ -198,6 +198,7 @@ Steps askQuestions(const People& people) {
              pick(w, "xq", "2027学年上学期");
              press(w, "confirm");
            }},
+          {"Formzct/payments_overview_zoom", "等待查询结果", [](QWidget&) { QTest::qWait(200); }},
           {"Formzct/payments_overview_zoom", "按范围查询结果", [](QWidget& w) {
              chooseRow(w, "payments_overview_rows", 0);
              press(w, "payments_modify");

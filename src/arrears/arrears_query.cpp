@@ -115,19 +115,17 @@ struct Notice {
   ~Notice() { progress.hide(); }
 };
 
-constexpr long long betweenNotices = 200;  // students
-
 }  // namespace
 
 void Formqfcl11::showUnpaid() {
   const auto question = asked(unpaid);
   if (!question) return;
-  long long found = 0, students = 0;
+  long long found = 0;
   {
     const Notice notice{desk.progress};
     desk.progress.show("开始搜索 ...");
     found = listUnpaid(desk.store, *question, desk.clock.now(), [&](const std::string&, long long so_far) {
-      if (++students % betweenNotices == 0) desk.progress.show("已搜索到" + std::to_string(so_far) + "条记录 ...");
+      desk.progress.show("已搜索到" + std::to_string(so_far) + "条记录 ...");
     });
   }
   if (found == 0) return inform("相关记录不存在！    ", "信息提示");
@@ -141,13 +139,13 @@ void Formqfcl11::showCompared() {
     return;
   const auto question = asked(compared);
   if (!question) return;
-  long long found = 0, students = 0;
+  long long found = 0;
   {
     const Notice notice{desk.progress};
     desk.progress.show("开始搜索相关记录，请稍等 ...");
     found = listByPaid(desk.store, *question, base::Money::leading(due.text()), static_cast<PaidAs>(wanted.chosen()),
                        desk.clock.now(), [&](const std::string& name, long long) {
-                         if (++students % betweenNotices == 0) desk.progress.show("正在加载" + name + "的信息 ...");
+                         desk.progress.show("正在加载" + name + "的信息 ...");
                        });
     desk.progress.show("正在筛选已加载的信息 ...");
   }

@@ -13,6 +13,8 @@ using store::Sql;
 
 namespace {
 
+constexpr long long betweenNotices = 200;  // students
+
 Sql studentsOf(const PaymentQuestion& question) {
   Sql all("select xh,xm,bjmc,lxdh,sjhm from xs");
   return question.bjmc.empty() ? all : all + " where bjmc='" + question.bjmc + "'";
@@ -46,7 +48,7 @@ long long fill(store::Store& store, const char* table, const PaymentQuestion& qu
   const auto paid = paidBy(store, question);
   const std::string period = periodOf(question), item = question.sfxm.empty() ? "无任何交费记录" : question.sfxm;
   const std::string moment = now.plain();
-  long long found = 0;
+  long long found = 0, walked = 0;
   RecordSet students(store, studentsOf(question));
   store::forEach(students, [&](RecordSet& student) {
     const auto of = paid.find(base::upper(student.get("xh").trimmed()));
@@ -59,7 +61,7 @@ long long fill(store::Store& store, const char* table, const PaymentQuestion& qu
       target.update();
       ++found;
     }
-    if (seen) seen(student.get("xm").trimmed(), found);
+    if (++walked % betweenNotices == 0 && seen) seen(student.get("xm").trimmed(), found);
   });
   unit.finish();
   return found;

@@ -20,7 +20,7 @@ struct PaymentQuestion {
 
 enum class PaidAs { Less, Exactly, More };
 
-using Seen = std::function<void(const std::string& xm, long long found)>;  // of each student, for the notice
+using Seen = std::function<void(const std::string& xm, long long found)>;  // now and then, for the notice
 
 bool hasStudents(store::Store& store, const PaymentQuestion& question);
 // Both empty their table first and give back the rows that are in it then.

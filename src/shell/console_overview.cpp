@@ -241,7 +241,10 @@ Filled fillArrears(Overview& overview, kit::Desk& desk) {
                       : mode == 3 ? Holds{"select * from qfjl_je ", joined(whoOwesColumns, lessPaidEnd)}
                                   : Holds{"select * from qfjl ", arrearsPlan.columns};
   overview.list.setColumns(holds.columns);
-  for (kit::Field& figure : overview.figures) figure.clear();
+  for (kit::Field& figure : overview.figures) {
+    figure.clear();
+    figure.show(mode == 1);
+  }
   RecordSet rows(desk.store, holds.rows + desk.session.arrears_where);
   Filled filled;
   overview.list.fill(rows, [&](RecordSet& row) {

@@ -148,7 +148,7 @@ void Formzct::refillAfterQuery() {
     wanted.reload = false;
     fill(wanted.overview);
   }
-  if (!session.student_query.empty()) ready.set(session.student_query);
+  if (inFront() == &students_overview) ready.set(session.student_query.empty() ? "就绪" : session.student_query);
   if (!session.payment_heading.empty()) payments_overview.bar.set(session.payment_heading);
   desk.progress.hide();
 }
@@ -157,6 +157,7 @@ void Formzct::closeOverviews() {
   if (Overview* open = inFront()) {
     open->frame.show(false);
     open->clear();
+    ready.set("就绪");
     if (open == &students_overview) stampKeyedRows("xs");
     if (open == &arrears_overview) stampKeyedRows("qfjl");
   }

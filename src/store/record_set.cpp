@@ -27,6 +27,9 @@ struct RecordSet::State {
   // Screens read the columns of each row in the same order: the nth name asked for in a row is a good guess.
   std::vector<std::size_t> guesses;
   std::size_t asked = 0;
+  // New rows mostly have the columns of the one before.
+  std::vector<const Column*> insertedColumns;
+  std::string insertSql;
 
   Cursor& rows() {
     if (cursor) return *cursor;
@@ -77,7 +80,11 @@ struct RecordSet::State {
     }
     if (editing == Editing::NewRow) {
       at.drop();  // nothing comes behind a new row
-      at.database().write(table, insertStatement(table, columns, phrases), values, Database::newRow);
+      if (columns != insertedColumns || insertSql.empty()) {
+        insertedColumns = columns;
+        insertSql = insertStatement(table, columns, phrases);
+      }
+      at.database().write(table, insertSql, values, Database::newRow);
       at.standOn(at.database().engine().lastRowNo());
     } else if (!changes.empty()) {
       values.emplace_back(at.rowNo());
@@ -99,6 +106,7 @@ void RecordSet::bind(Connection connection) { state_->connection = connection; }
 void RecordSet::open(const Sql& sql) {
   state_->leaveRow();
   state_->guesses.clear();
+  state_->insertSql.clear();
   state_->cursor.reset();
   const std::shared_ptr<Database> database = state_->store->shared(state_->connection);
   Query query = plan(dialect::parse(sql), state_->connection, database->engine().phrases());

@@ -21,6 +21,7 @@ class Formzctxscx1 : public kit::QueryScreen {  // 打开学籍资料信息设�
  private:
   std::optional<std::vector<kit::Condition>> conditions() override;
   std::vector<kit::Field*> conditionFields() override;
+  void accepted() override { desk.session.student_query.clear(); }
 };
 
 class Formzctxscx : public kit::Screen {  // 学生学籍资料查询设置

@@ -1,6 +1,7 @@
 #include "qt/printing/drawing_painter.h"
 
 #include <QFontMetricsF>
+#include <QHash>
 #include <QImage>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
@@ -28,18 +29,24 @@ QFont font(platform::Face face) {
   return one;
 }
 
-// The faces of a page, looked up once each.
+// The faces of a page, looked up once each, and how wide the texts in them are: lists say the same things often.
 class Faces {
  public:
   struct Measured {
     QFont font;
     QFontMetricsF metrics;
+    mutable QHash<QString, double> widths{};
+
+    double width(const QString& text) const {
+      const auto known = widths.constFind(text);
+      return known != widths.constEnd() ? *known : *widths.insert(text, metrics.horizontalAdvance(text));
+    }
   };
   const Measured& of(platform::Face face) {
     auto& held = faces_[static_cast<std::size_t>(face)];
     if (!held) {
       const QFont one = font(face);
-      held.emplace(Measured{one, QFontMetricsF(one)});
+      held.emplace(Measured{one, QFontMetricsF(one), {}});
     }
     return *held;
   }
@@ -54,31 +61,40 @@ struct Fitted {
   double x, scale, width;  // millimetres
 };
 
-Fitted fitted(const platform::Text& mark, const QFontMetricsF& metrics) {
+Fitted fitted(const platform::Text& mark, const Faces::Measured& face) {
   Fitted result{toQt(mark.text), mark.x, mark.size * pointMillimetres / em, 0};
-  result.width = metrics.horizontalAdvance(result.text) * result.scale;
+  result.width = face.width(result.text) * result.scale;
   if (mark.fit > 0 && result.width > mark.fit) {
     const double share = std::max(mark.fit / result.width, smallest);
     const bool cut = result.width * smallest > mark.fit;
     result.scale *= share;
-    if (cut) result.text = metrics.elidedText(result.text, Qt::ElideRight, mark.fit / result.scale);
-    result.width = cut ? metrics.horizontalAdvance(result.text) * result.scale : mark.fit;
+    if (cut) result.text = face.metrics.elidedText(result.text, Qt::ElideRight, mark.fit / result.scale);
+    result.width = cut ? face.width(result.text) * result.scale : mark.fit;
   }
   if (mark.align == platform::Align::Right) result.x -= result.width;
   if (mark.align == platform::Align::Centre) result.x -= result.width / 2;
   return result;
 }
 
-void paintLine(QPainter& painter, QPointF start, double scale, const QFont& face, const QString& text) {
-  painter.save();
-  painter.translate(start);
-  painter.scale(scale, scale);
-  painter.setFont(face);
-  painter.drawText(QPointF(0, 0), text);
-  painter.restore();
-}
+// A page's painter, which is in millimetres but while a text is drawn.
+struct Brush {
+  QPainter& painter;
+  Faces faces{};
+  const QTransform millimetres = painter.transform();
 
-void paintWrapped(QPainter& painter, const platform::Text& mark, double scale, const QFont& face, QString text) {
+  void text(QPointF start, double scale, const QFont& face, const QString& words) {
+    painter.setTransform(QTransform(millimetres).translate(start.x(), start.y()).scale(scale, scale));
+    painter.setFont(face);
+    painter.drawText(QPointF(0, 0), words);
+  }
+  void line(const platform::Line& mark) {
+    if (painter.transform() != millimetres) painter.setTransform(millimetres);
+    painter.setPen(QPen(Qt::black, mark.width, Qt::SolidLine, Qt::SquareCap));
+    painter.drawLine(QPointF(mark.x1, mark.y1), QPointF(mark.x2, mark.y2));
+  }
+};
+
+void paintWrapped(Brush& brush, const platform::Text& mark, double scale, const QFont& face, QString text) {
   text.replace('\n', QChar::LineSeparator);
   QTextLayout layout(text, face);
   QTextOption option;
@@ -88,26 +104,21 @@ void paintWrapped(QPainter& painter, const platform::Text& mark, double scale, c
   layout.beginLayout();
   for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
     line.setLineWidth(mark.fit / scale);
-    paintLine(painter, {mark.x, y}, scale, face,
-              text.mid(line.textStart(), line.textLength()).remove(QChar::LineSeparator));
+    brush.text({mark.x, y}, scale, face, text.mid(line.textStart(), line.textLength()).remove(QChar::LineSeparator));
     y += linePitch * em * scale;
   }
   layout.endLayout();
 }
 
-void paint(QPainter& painter, const platform::Text& mark, Faces& faces) {
-  const Faces::Measured& face = faces.of(mark.face);
-  if (mark.wrap && mark.fit > 0)
-    return paintWrapped(painter, mark, mark.size * pointMillimetres / em, face.font, toQt(mark.text));
-  const Fitted line = fitted(mark, face.metrics);
+void paint(Brush& brush, const platform::Text& mark) {
+  const Faces::Measured& face = brush.faces.of(mark.face);
   const double full = mark.size * pointMillimetres;
-  paintLine(painter, {line.x, mark.y + baseline * full}, line.scale, face.font, line.text);
+  if (mark.wrap && mark.fit > 0) return paintWrapped(brush, mark, full / em, face.font, toQt(mark.text));
+  const Fitted line = fitted(mark, face);
+  brush.text({line.x, mark.y + baseline * full}, line.scale, face.font, line.text);
 }
 
-void paint(QPainter& painter, const platform::Line& mark, Faces&) {
-  painter.setPen(QPen(Qt::black, mark.width, Qt::SolidLine, Qt::SquareCap));
-  painter.drawLine(QPointF(mark.x1, mark.y1), QPointF(mark.x2, mark.y2));
-}
+void paint(Brush& brush, const platform::Line& mark) { brush.line(mark); }
 
 QImage picture(const QFont& face, const QString& text) {
   QImage image(2 * em, 2 * em, QImage::Format_Grayscale8);
@@ -126,15 +137,15 @@ void paintPage(QPainter& painter, const platform::Page& page) {
   painter.setRenderHint(QPainter::TextAntialiasing);
   painter.setRenderHint(QPainter::Antialiasing, false);  // thin rules stay black at the screen's density
   painter.setPen(Qt::black);
-  Faces faces;
-  for (const platform::Mark& mark : page.marks) std::visit([&](const auto& one) { paint(painter, one, faces); }, mark);
+  Brush brush{painter};
+  for (const platform::Mark& mark : page.marks) std::visit([&](const auto& one) { paint(brush, one); }, mark);
   painter.restore();
 }
 
 QRectF placeOf(const platform::Text& mark) {
   const double height = mark.size * pointMillimetres;
   if (mark.wrap && mark.fit > 0) return {mark.x, mark.y, mark.fit, height};
-  const Fitted line = fitted(mark, QFontMetricsF(font(mark.face)));
+  const Fitted line = fitted(mark, Faces().of(mark.face));
   return {line.x, mark.y, line.width, height};
 }
 
