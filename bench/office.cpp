@@ -1,7 +1,10 @@
 // bench_office LARGE MIDDLE SMALL: measures the daily work on three schools that sample_school has made, against the bare
 // engine on the same files. Prints a table; fails when a limit is missed.
+#include <unistd.h>
+
 #include <cstdio>
 #include <exception>
+#include <fstream>
 
 #include "collection/payment_ledger.h"
 #include "due_import.h"
@@ -67,6 +70,54 @@ Measure filling(Office& office) {
             if (front->overview.list.count() != office.rows("jfjl")) throw std::runtime_error("rows are missing");
             return time;
           }};
+}
+
+// Scrolling: the rows that come into sight, anywhere in a long list.
+Measure looking(Office& office) {
+  constexpr int inSight = 40, readRound = 200;
+  constexpr std::size_t visible = 11;
+  const auto front = std::make_shared<Front>(office.desk);
+  shell::fillPayments(front->overview, office.desk);
+  const auto chance = std::make_shared<sample::Random>(2);
+  const int last = static_cast<int>(front->overview.list.count()) - inSight;
+  const auto row = std::make_shared<BareStatement>(office.bare.prepare(
+      "select lsh, xm, bjmc, xq, jfrq, jffs, fpbh, sfxm, je, sftj, skr from jfjl where row_no between ?1 and ?2"));
+  return {"what scrolls into sight, with the rows round it", 5, 201,
+          [=] {
+            const long long from = chance->below(last);
+            return timed([&] {
+              row->bind(1, from);
+              row->bind(2, from + readRound - 1);
+              row->readAll();
+            });
+          },
+          [=] {
+            const long long from = chance->below(last);
+            return timed([&] {
+              std::size_t characters = 0;
+              for (long long at = from; at < from + inSight; ++at)
+                for (std::size_t column = 0; column < visible; ++column) characters += front->overview.list.cell(at, column).size();
+              if (characters == 0) throw std::runtime_error("nothing in sight");
+            });
+          }};
+}
+
+// What a list of all payments takes beyond an empty one, in megabytes; the limit is 300.
+bool memoryIsWithin(Office& office) {
+  constexpr double most = 300;
+  const auto resident = [] {
+    std::ifstream in("/proc/self/statm");
+    long long pages = 0;
+    in >> pages >> pages;
+    return static_cast<double>(pages) * static_cast<double>(sysconf(_SC_PAGESIZE)) / (1 << 20);
+  };
+  const double before = resident();
+  Front front(office.desk);
+  shell::fillPayments(front.overview, office.desk);
+  const double taken = resident() - before;
+  std::printf("memory of a list of %lld payments: %.1f MB, limit %.0f, %s\n", front.overview.list.count(), taken, most,
+              taken <= most ? "ok" : "MISSED");
+  return taken <= most;
 }
 
 Seconds lastRow(Office& office) {
@@ -195,15 +246,16 @@ int main(int count, char** words) {
   try {
     Office large(words[1]), middle(words[2]), small(words[3]);
     const long long rows = large.rows("jfjl");
+    const bool fits = memoryIsWithin(large);
     const bool within = bench::measureAll(
-        {opening(large), filling(large), lastOfOrder(large), lastBySize(large, small), card(large),
+        {opening(large), filling(large), looking(large), lastOfOrder(large), lastBySize(large, small), card(large),
          bench::studentFigures(large), bench::paymentFigures(large), bench::arrearsFigures(large), bench::submitting(large), bench::unpaidList(large),
          bench::comparison(large),
          paying(large), bench::importing(middle)});
     large.store.close();
     large.bare.run("delete from jfjl where row_no > (select row_no from jfjl order by row_no limit 1 offset " +
                    std::to_string(rows - 1) + ")");
-    return within ? 0 : 1;
+    return within && fits ? 0 : 1;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "bench_office: %s\n", error.what());
     return 2;

@@ -30,7 +30,7 @@ class ListLink : public QObject {
     QHeaderView* header = view.horizontalHeader();
     header->setSectionsClickable(true);
     connect(header, &QHeaderView::sectionClicked, this, [this](int column) { sortBy(column); });
-    connect(header, &QHeaderView::sectionResized, this, [this] { rememberWidths(); });
+    header->viewport()->installEventFilter(this);
     connect(&view, &ListView::copyWanted, this, [this] {
       auto rows = view_.selectionModel()->selectedRows();
       std::sort(rows.begin(), rows.end());
@@ -47,7 +47,10 @@ class ListLink : public QObject {
   }
 
   bool eventFilter(QObject* object, QEvent* event) override {
-    if (event->type() == QEvent::Show) recallWidths();  // only now it stands in its window, by whose name they are kept
+    const bool headings = object != &view_;
+    if (event->type() == QEvent::Show && !headings) recallWidths();  // only now it stands in the window that names them
+    if (event->type() == QEvent::MouseButtonRelease && headings)
+      QMetaObject::invokeMethod(this, [this] { rememberWidths(); }, Qt::QueuedConnection);
     return QObject::eventFilter(object, event);
   }
 
@@ -84,18 +87,18 @@ class ListLink : public QObject {
   // Up, down, and as the list stands by itself.
   void sortBy(int column) {
     QHeaderView* header = view_.horizontalHeader();
-    const bool sortedByIt = model_.isSorted() && header->sortIndicatorSection() == column;
-    const bool wasUp = header->sortIndicatorOrder() == Qt::AscendingOrder;
+    const bool sortedByIt = model_.isSorted() && sortedColumn_ == column;
     if (!sortedByIt && list_.count() > ListModel::mostSorted)
       return QToolTip::showText(view_.mapToGlobal(QPoint(8, 8)),
                                 QString("记录超过 %1 行，请先用“打开”缩小范围再排序。").arg(ListModel::mostSorted), &view_);
     const QScopedValueRollback quiet(showing_, true);
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const bool sorts = !sortedByIt || wasUp;
+    const bool sorts = !sortedByIt || sortOrder_ == Qt::AscendingOrder;
     if (sorts) {
-      const Qt::SortOrder order = sortedByIt ? Qt::DescendingOrder : Qt::AscendingOrder;
-      model_.sortBy(column, order);
-      header->setSortIndicator(column, order);
+      sortedColumn_ = column;
+      sortOrder_ = sortedByIt ? Qt::DescendingOrder : Qt::AscendingOrder;
+      model_.sortBy(column, sortOrder_);
+      header->setSortIndicator(column, sortOrder_);  // which turns by itself when it is clicked
     } else {
       model_.unsort();
     }
@@ -109,10 +112,13 @@ class ListLink : public QObject {
     return view_.window()->objectName() + "/" + toQt(list_.name) + "/" + QString::number(list_.columns().size());
   }
   void rememberWidths() {
-    if (!(QGuiApplication::mouseButtons() & Qt::LeftButton)) return;  // the window has grown, no person has drawn
     QVariantList widths;
-    for (int i = 0; i < view_.model()->columnCount(); ++i) widths << view_.columnWidth(i);
-    listSettings().setValue(widthsKey(), widths);
+    bool drawn = false;
+    for (int i = 0; i < view_.model()->columnCount(); ++i) {
+      widths << view_.columnWidth(i);
+      drawn = drawn || (i + 1 < view_.model()->columnCount() && view_.columnWidth(i) != usualWidth(i));
+    }
+    if (drawn) listSettings().setValue(widthsKey(), widths);
   }
   void recallWidths() {
     const QVariantList widths = listSettings().value(widthsKey()).toList();
@@ -123,12 +129,14 @@ class ListLink : public QObject {
     return settings;
   }
 
+  int usualWidth(int index) const {
+    const auto& column = list_.columns()[static_cast<std::size_t>(index)];
+    const int heading = view_.horizontalHeader()->fontMetrics().horizontalAdvance(toQt(column.heading).trimmed());
+    return qMax(charactersWide(view_.fontMetrics(), column.width), heading) + cellMargins;
+  }
+
   void setWidths() {
-    for (int i = 0; i < static_cast<int>(list_.columns().size()); ++i) {
-      const auto& column = list_.columns()[static_cast<std::size_t>(i)];
-      const int heading = view_.horizontalHeader()->fontMetrics().horizontalAdvance(toQt(column.heading).trimmed());
-      view_.setColumnWidth(i, qMax(charactersWide(view_.fontMetrics(), column.width), heading) + cellMargins);
-    }
+    for (int i = 0; i < static_cast<int>(list_.columns().size()); ++i) view_.setColumnWidth(i, usualWidth(i));
     if (view_.isVisible()) recallWidths();
     // An amount that stands on the right stays beside what it belongs to.
     view_.horizontalHeader()->setStretchLastSection(list_.columns().empty() || !isAmount(list_.columns().back()));
@@ -165,6 +173,8 @@ class ListLink : public QObject {
   ListModel model_;
   QStringList headings_;
   bool waiting_ = false, showing_ = false;
+  int sortedColumn_ = -1;
+  Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
 };
 
 }  // namespace

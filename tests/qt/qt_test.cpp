@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QWidget>
 
@@ -35,6 +36,7 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariable("QT_QPA_PLATFORM", "offscreen") == "offscreen")
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toUtf8());
   if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
+  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());  // what windows remember goes with it
   testing::InitGoogleMock(&argc, argv);
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);

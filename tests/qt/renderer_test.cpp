@@ -4,11 +4,15 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCalendarWidget>
+#include <QClipboard>
+#include <QCompleter>
 #include <QElapsedTimer>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QRadioButton>
+#include <QTableView>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -180,6 +184,69 @@ TEST_F(RendererTest, rowsAreChosenFoundByTypingAndOpened) {
   support::settle();
   EXPECT_EQ(view.model()->rowCount(), 0);
   EXPECT_FALSE(view.currentIndex().isValid());
+}
+
+TEST_F(RendererTest, aHeadingSortsUpDownAndBack) {
+  auto& view = find<QTableView>("rows_shown");
+  const auto first = [&](int column) { return view.model()->index(0, column).data().toString(); };
+  const auto click = [&](int column) {
+    QHeaderView* header = view.horizontalHeader();
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(header->sectionViewportPosition(column) + 20, 8));
+    support::settle();
+  };
+  click(1);
+  EXPECT_EQ(first(1), "欧阳娜娜") << "ou stands before wang";
+  EXPECT_EQ(first(0), "1001") << "equal ones keep their order";
+  click(3);
+  click(3);
+  EXPECT_EQ(first(3), "1239.00");
+  view.setCurrentIndex(view.model()->index(0, 0));
+  EXPECT_EQ(screen.rows_shown.selected(), 39) << "the row of the list, not of the view";
+  click(3);
+  EXPECT_EQ(first(3), "1200.00");
+  EXPECT_EQ(view.currentIndex().row(), 39);
+  click(3);
+  click(3);
+  screen.rows_shown.addRow({"9", "张三", "学费", "5.00"});
+  support::settle();
+  EXPECT_EQ(first(0), "1001") << "other rows first appear in their own order";
+}
+
+TEST_F(RendererTest, chosenRowsAreCopiedAsText) {
+  auto& view = find<QTableView>("rows_shown");
+  focus("rows_shown");
+  view.setCurrentIndex(view.model()->index(1, 0));
+  QTest::keyClick(&view, Qt::Key_Down, Qt::ShiftModifier);
+  QTest::keySequence(&view, QKeySequence::Copy);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "1002\t王小明\t学费及住宿费\t1201.00\n1003\t欧阳娜娜\t学费及住宿费\t1202.00\n");
+}
+
+TEST_F(RendererTest, drawnWidthsAreThereTheNextTime) {
+  auto& view = find<QTableView>("rows_shown");
+  view.setColumnWidth(1, 222);
+  QTest::mouseRelease(view.horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(5, 5));
+  support::settle();
+  DemoScreen again(desk.desk);
+  qt::ScreenWindow other(again, views);
+  other.present();
+  support::settle();
+  EXPECT_EQ(other.findChild<QTableView*>("rows_shown")->columnWidth(1), 222);
+}
+
+TEST_F(RendererTest, aListNarrowsToWhatIsMeantByTheTyping) {
+  focus("bjmc");
+  QTest::keyClicks(&find("bjmc"), "jsj");
+  auto* completer = find<QLineEdit>("bjmc").findChild<QCompleter*>();
+  ASSERT_TRUE(completer && completer->popup()->isVisible());
+  EXPECT_EQ(completer->popup()->model()->rowCount(), 2);
+  EXPECT_EQ(screen.bjmc.text(), "jsj") << "what was typed stands until an entry is chosen";
+  QTest::keyClick(completer->popup(), Qt::Key_Down);
+  QTest::keyClick(completer->popup(), Qt::Key_Down);
+  QTest::keyClick(completer->popup(), Qt::Key_Return);
+  EXPECT_EQ(screen.bjmc.text(), "计算机二班");
+  EXPECT_THAT(heard(), ElementsAre("bjmc pick"));
+  QTest::keyClicks(&find("bjmc"), "x");
+  EXPECT_FALSE(completer->popup()->isVisible()) << "nothing is meant by it";
 }
 
 TEST_F(RendererTest, thePopUpMenuHoldsTheListsActions) {
