@@ -9,6 +9,8 @@
 #include "sample/sample.h"
 #include "store/error.h"
 #include "store/files.h"
+#include "store/record_set.h"
+#include "store/server.h"
 
 namespace {
 
@@ -45,7 +47,12 @@ bool understand(Wish& wish, int count, char** words) {
   return true;
 }
 
+// On a server there always are some; one in which nobody works yet may be filled.
 bool hasDatabases(const std::filesystem::path& folder) {
+  if (store::serverOf(folder)) {
+    store::Store store(folder);
+    return !store::RecordSet(store, "select * from yhxx").empty();
+  }
   for (const store::Connection which : {store::Connection::Main, store::Connection::Config}) {
     const auto text = store::connectionText(folder, store::livePath(which), store::password(which));
     if (std::filesystem::exists(store::locate(text).path.parent_path())) return true;
@@ -67,8 +74,8 @@ int main(int count, char** words) {
     return 2;
   }
   if (const auto fault = sample::faultOf(wish.plan)) return fail(*fault);
-  if (hasDatabases(wish.folder)) return fail(wish.folder.string() + " already has databases; nothing was changed");
   try {
+    if (hasDatabases(wish.folder)) return fail(wish.folder.string() + " already has databases; nothing was changed");
     std::filesystem::create_directories(wish.folder);
     store::Store store(wish.folder);
     const sample::Written written = sample::writeSchool(store, wish.plan);
