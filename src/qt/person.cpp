@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLayout>
 #include <QMessageBox>
 #include <QPointer>
@@ -13,7 +14,7 @@
 namespace qt {
 namespace {
 
-constexpr int iconSide = 40, margin = 18, leastText = 220;
+constexpr int iconSide = 40, margin = 18, leastText = 220, mostText = 560;
 
 QPixmap pictureOf(kit::Box box, qreal ratio) {
   switch (box) {
@@ -40,6 +41,19 @@ XPButton* addButton(QMessageBox& box, const char* caption, QMessageBox::ButtonRo
   return button;
 }
 
+// Room for every line of the text; one too wide for a calm window is wrapped.
+void makeRoom(const QMessageBox& message) {
+  auto* label = message.findChild<QLabel*>("qt_msgbox_label");
+  if (!label) return;
+  label->ensurePolished();
+  const auto needed = [&](int width, int flags) {
+    return label->fontMetrics().boundingRect(QRect(0, 0, width, 10000), flags, label->text()).size();
+  };
+  QSize size = needed(10000, 0);
+  if (size.width() > mostText) size = QSize(mostText, needed(mostText, Qt::TextWordWrap).height());
+  label->setFixedSize(QSize(size.width() + 6, size.height() + 4).expandedTo(QSize(leastText, iconSide)));
+}
+
 }  // namespace
 
 bool QtPerson::show(kit::Box box, const std::string& text, const std::string& title) {
@@ -51,8 +65,7 @@ bool QtPerson::show(kit::Box box, const std::string& text, const std::string& ti
   message.setText(toQt(text));
   message.setIconPixmap(pictureOf(box, message.devicePixelRatioF()));
   message.layout()->setContentsMargins(margin, margin, margin, margin - 4);
-  message.setStyleSheet(
-      QString("QLabel#qt_msgbox_label { min-width: %1px; min-height: %2px; }").arg(leastText).arg(iconSide));
+  makeRoom(message);
   const bool question = box != kit::Box::Stop && box != kit::Box::Warning && box != kit::Box::Information;
   XPButton* yes =
       addButton(message, question ? "是" : "确定", question ? QMessageBox::YesRole : QMessageBox::AcceptRole);

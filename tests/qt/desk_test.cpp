@@ -54,6 +54,27 @@ TEST(Person, asksInSixKinds) {
   }
 }
 
+TEST(Person, everyLineOfAMessageIsInSight) {
+  qt::QtPerson person("收费管理");
+  std::string paragraph, lines = "第一行";
+  for (int i = 0; i < 40; ++i) paragraph += "需要导出的记录太多，";
+  for (int i = 0; i < 6; ++i) lines += "\n选择“是”将关闭本窗口";
+  for (const std::string& text : {std::string("短"), lines, paragraph, lines + "\n" + paragraph}) {
+    QTimer::singleShot(0, [&] {
+      auto* message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_TRUE(message);
+      EXPECT_TRUE(QTest::qWaitForWindowActive(message));
+      const auto* label = message->findChild<QLabel*>("qt_msgbox_label");
+      const QRect room(0, 0, label->contentsRect().width(), 10000);
+      const QRect needed = label->fontMetrics().boundingRect(room, label->wordWrap() ? Qt::TextWordWrap : 0, label->text());
+      EXPECT_GE(label->contentsRect().height(), needed.height()) << text;
+      EXPECT_GE(label->contentsRect().width(), needed.width()) << text;
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    });
+    person.tell(Box::Information, text, "信息提示");
+  }
+}
+
 TEST(Person, handsFiltersToTheFileDialog) {
   EXPECT_EQ(qt::dialogFilter("图片文件|*.jpg;*.bmp|所有文件(*.*)|*.*"), "图片文件 (*.jpg *.bmp);;所有文件 (*.*)");
 }
