@@ -161,63 +161,12 @@ void Formqfcl11::show(int listMode) {
   close();
 }
 
-namespace {
-enum Scope { School, Major, Class, Student };
-enum Period { ByDate, ByTerm };
-}  // namespace
-
 Formqfcl1::Formqfcl1(kit::Desk& all)
-    : Screen(all, "Formqfcl1", "欠费记录查询条件设置"),
-      scope(*this, "scope", {"全校信息", "专业信息", "班级信息", "学生信息"}),
-      period(*this, "period", {"按日期", "按学期"}) {
-  scope.onChange([this] {
-    of.clear();
-    showChoice();
-  });
-  period.onChange([this] { showChoice(); });
-  of.onDrop([this] {
-    of.setChoices(scope.chosen() == Major ? kit::columnTexts(desk.store, "select * from zymcb order by zybh", "zymc")
-                                          : kit::columnTexts(desk.store, "select * from bjzl order by bjdh", "bjmc"));
-  });
-  xq.onDrop([this] { xq.setChoices(kit::columnTexts(desk.store, "select xq from qfjl group by xq order by xq", "xq")); });
+    : ScopeScreen(all, "Formqfcl1", "欠费记录查询条件设置", "select xq from qfjl group by xq order by xq") {
   clfs.onDrop([this] { clfs.setChoices(kit::columnTexts(desk.store, "select clfs from qfjl group by clfs", "clfs")); });
-  sfxm.onDrop([this] { sfxm.setChoices(kit::columnTexts(desk.store, "select * from sfxmb order by sfxmbh", "sfxmmc")); });
-  confirm.onPress([this] { query(); });
-  cancel.onPress([this] { close(); });
-}
-
-void Formqfcl1::load() {
-  for (kit::Field* day : {&from, &to}) day->set(desk.clock.today().plain());
-  showChoice();
-}
-
-void Formqfcl1::showChoice() {
-  const int chosen = scope.chosen();
-  of.show(chosen == Major || chosen == Class);
-  of.setLabel(chosen == Major ? "请选择专业" : "请选择班级");
-  for (kit::Field* field : {&xh, &xm}) field->show(chosen == Student);
-  for (kit::Field* field : {&from, &to}) field->show(period.chosen() == ByDate);
-  xq.show(period.chosen() == ByTerm);
-}
-
-bool Formqfcl1::valid() {
-  const auto scopeIs = [this](int wantedScope, bool lacking) { return scope.chosen() == wantedScope && lacking; };
-  const bool byDate = period.chosen() == ByDate;
-  const auto badDay = [byDate](const kit::Field& day) { return [byDate, &day] { return byDate && kit::notDate(day)(); }; };
-  const char* const badDate = "日期格式不正确,应该是 yyyy-m-d 格式！      ";
-  return kit::holds(
-      desk.person,
-      {{&of, [&] { return scopeIs(Major, of.blank()); }, "请选择专业！     ", fault},
-       {&of, [&] { return scopeIs(Class, of.blank()); }, "请选择一个班级！     ", fault},
-       {&xh, [&] { return scopeIs(Student, xh.blank() && xm.blank()); },
-        "请输入学号或姓名！学号具有唯一性，建议用学号查询！     ", fault},
-       {&from, badDay(from), badDate, fault},
-       {&to, badDay(to), badDate, fault},
-       {&xq, [&] { return !byDate && xq.blank(); }, "请选择学年学期！     ", fault}});
 }
 
 void Formqfcl1::query() {
-  if (!valid()) return;
   const std::string chosen = of.trimmed();
   std::vector<Condition> all{
       scope.chosen() == Major ? kit::majorIs(kit::majorCode(desk.store, chosen)) : Condition{},

@@ -4,6 +4,7 @@
 
 #include "arrears/comparison.h"
 #include "kit/query_screen.h"
+#include "kit/scope_screen.h"
 
 namespace arrears {
 
@@ -45,23 +46,15 @@ class Formqfcl11 : public kit::QueryScreen {  // 打开欠费信息
   void show(int listMode);
 };
 
-class Formqfcl1 : public kit::Screen {  // 欠费记录查询条件设置
+class Formqfcl1 : public kit::ScopeScreen {  // 欠费记录查询条件设置
  public:
   explicit Formqfcl1(kit::Desk& desk);
-  void load() override;
-  kit::Layout layout() override;
+  kit::Layout layout() override { return scopeLayout({clfs}); }
 
-  kit::Choice scope, period;
-  kit::Field of{*this, "of", "请选择班级", kit::Entry::Pick}, xh{*this, "xh", "学号"}, xm{*this, "xm", "姓名"};
-  kit::Field from{*this, "from", "起始日期", kit::Entry::Date}, to{*this, "to", "截止日期", kit::Entry::Date};
-  kit::Field xq{*this, "xq", "请选择学年学期", kit::Entry::Pick}, clfs{*this, "clfs", "状态", kit::Entry::Pick},
-      sfxm{*this, "sfxm", "请选择收费项目", kit::Entry::Pick};
-  kit::Action confirm{*this, "confirm", "确认", "check"}, cancel{*this, "cancel", "返回", "undo-2"};
+  kit::Field clfs{*this, "clfs", "状态", kit::Entry::Pick};
 
  private:
-  void showChoice();
-  bool valid();
-  void query();
+  void query() override;
 };
 
 }  // namespace arrears

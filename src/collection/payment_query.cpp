@@ -1,7 +1,6 @@
 #include "collection/payment_query.h"
 
 #include "base/text.h"
-#include "kit/rows.h"
 
 namespace collection {
 
@@ -65,98 +64,39 @@ std::optional<std::vector<Condition>> Formzctsf31::conditions() {
                      kit::equals("jffs", jffs.text()), kit::equals("rxxs", rxxs.text())};
 }
 
-namespace {
-enum Scope { School, Major, Class, Student };
-enum Period { ByDate, ByTerm };
-}  // namespace
-
-Formzctsf3::Formzctsf3(kit::Desk& all)
-    : Screen(all, "Formzctsf3", "交费记录查询条件设置"),
-      scope(*this, "scope", {"全校信息", "专业信息", "班级信息", "学生信息"}),
-      period(*this, "period", {"按日期", "按学期"}) {
-  scope.onChange([this] {
-    of.clear();
-    showChoice();
-  });
-  period.onChange([this] { showChoice(); });
-  of.onDrop([this] {
-    of.setChoices(scope.chosen() == Major ? kit::columnTexts(desk.store, "select * from zymcb order by zybh", "zymc")
-                                          : kit::columnTexts(desk.store, "select * from bjzl order by bjdh", "bjmc"));
-  });
-  xq.onDrop([this] { xq.setChoices(kit::columnTexts(desk.store, "select xq from jfjl group by xq order by xq", "xq")); });
-  sfxm.onDrop([this] { sfxm.setChoices(kit::columnTexts(desk.store, "select * from sfxmb order by sfxmbh", "sfxmmc")); });
-  confirm.onPress([this] { query(); });
-  cancel.onPress([this] { close(); });
-}
-
 void Formzctsf3::load() {
   desk.session.payment_where = {};
   desk.session.payment_heading.clear();
-  for (kit::Field* day : {&from, &to}) day->set(desk.clock.today().plain());
-  showChoice();
+  ScopeScreen::load();
 }
 
-void Formzctsf3::showChoice() {
-  const int chosen = scope.chosen();
-  of.show(chosen == Major || chosen == Class);
-  of.setLabel(chosen == Major ? "请选择专业" : "请选择班级");
-  for (kit::Field* field : {&xh, &xm}) field->show(chosen == Student);
-  for (kit::Field* field : {&from, &to}) field->show(period.chosen() == ByDate);
-  xq.show(period.chosen() == ByTerm);
-}
-
-// What opens the clause, up to the period; nothing when it was refused.
-std::optional<Sql> Formzctsf3::scopePart() {
-  const auto missing = [&](kit::Field& field, const char* text) {
-    stop(text, fault);
-    field.focus();
-    return std::nullopt;
-  };
+// What opens the clause, up to the period.
+Sql Formzctsf3::scopePart() {
   switch (scope.chosen()) {
-    case Major:
-      if (of.blank()) return missing(of, "请选择专业！     ");
-      return Sql(" where left(xtbh,2)='") + kit::majorCode(desk.store, of.trimmed()) + "' and ";
-    case Class:
-      if (of.blank()) return missing(of, "请选择一个班级！     ");
-      return Sql(" where bjmc='") + of.trimmed() + "' and ";
+    case Major: return Sql(" where left(xtbh,2)='") + kit::majorCode(desk.store, of.trimmed()) + "' and ";
+    case Class: return Sql(" where bjmc='") + of.trimmed() + "' and ";
     case Student:
-      if (!xh.blank()) return Sql(" where xh='") + xh.trimmed() + "' and ";
-      if (xm.blank()) return missing(xh, "请输入学号或姓名！学号具有唯一性，建议用学号查询！     ");
-      if (!ask("您没有输入学号，将按姓名查询，同名学生的记录会一并列出，这样可能会导致查询结果不准确！您确认继续吗？      ", "操作提示"))
-        return std::nullopt;
-      return Sql(" where xm='") + xm.trimmed() + "' and ";
-    default: return Sql(" where ");
+      return xh.blank() ? Sql(" where xm='") + xm.trimmed() + "' and " : Sql(" where xh='") + xh.trimmed() + "' and ";
+    default: return " where ";
   }
 }
 
-std::optional<Sql> Formzctsf3::periodPart() {
+Sql Formzctsf3::periodPart() {
   const std::string item = sfxm.trimmed();
   if (period.chosen() == ByTerm) {
-    if (xq.blank()) {
-      stop("请选择学年学期！     ", fault);
-      xq.focus();
-      return std::nullopt;
-    }
     const Sql term = Sql("xq='") + xq.trimmed() + "'";
     return item.empty() ? term : term + " and  sfxm='" + item + "'";
-  }
-  for (kit::Field* day : {&from, &to}) {
-    if (base::Date::parse(day->trimmed())) continue;
-    stop("日期格式不正确,应该是 yyyy-m-d 格式！      ", fault);
-    day->focus();
-    return std::nullopt;
   }
   const Sql days = Sql("jfrq>=#") + from.trimmed() + "# and jfrq<=#" + to.trimmed() + "#";
   return item.empty() ? days : days + " and sfxm='" + item + "'";
 }
 
 void Formzctsf3::query() {
-  const auto opening = scopePart();
-  if (!opening) return;
-  const auto when = periodPart();
-  if (!when) return;
+  if (scope.chosen() == Student && xh.blank() &&
+      !ask("您没有输入学号，将按姓名查询，同名学生的记录会一并列出，这样可能会导致查询结果不准确！您确认继续吗？      ", "操作提示"))
+    return;
   auto& session = desk.session;
-  session.payment_where = *opening + *when + " order by jfrq";
+  session.payment_where = scopePart() + periodPart() + " order by jfrq";
   base::Money sum;
   store::RecordSet found = rows(Sql("select * from jfjl") + session.payment_where);
   store::forEach(found, [&](store::RecordSet& row) { sum += row.get("je").money(); });

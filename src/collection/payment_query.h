@@ -2,6 +2,7 @@
 #pragma once
 
 #include "kit/query_screen.h"
+#include "kit/scope_screen.h"
 
 namespace collection {
 
@@ -23,24 +24,17 @@ class Formzctsf31 : public kit::QueryScreen {  // 打开交费记录信息设置
   void accepted() override;
 };
 
-class Formzctsf3 : public kit::Screen {  // 交费记录查询条件设置
+class Formzctsf3 : public kit::ScopeScreen {  // 交费记录查询条件设置
  public:
-  explicit Formzctsf3(kit::Desk& desk);
+  explicit Formzctsf3(kit::Desk& desk)
+      : ScopeScreen(desk, "Formzctsf3", "交费记录查询条件设置", "select xq from jfjl group by xq order by xq") {}
   void load() override;
-  kit::Layout layout() override;
-
-  kit::Choice scope, period;
-  kit::Field of{*this, "of", "请选择班级", kit::Entry::Pick};  // the major or the class, by the scope
-  kit::Field xh{*this, "xh", "学号"}, xm{*this, "xm", "姓名"};
-  kit::Field from{*this, "from", "起始日期", kit::Entry::Date}, to{*this, "to", "截止日期", kit::Entry::Date};
-  kit::Field xq{*this, "xq", "请选择学年学期", kit::Entry::Pick}, sfxm{*this, "sfxm", "请选择收费项目", kit::Entry::Pick};
-  kit::Action confirm{*this, "confirm", "确认", "check"}, cancel{*this, "cancel", "返回", "undo-2"};
+  kit::Layout layout() override { return scopeLayout({}); }
 
  private:
-  void showChoice();
-  std::optional<store::Sql> scopePart();
-  std::optional<store::Sql> periodPart();
-  void query();
+  store::Sql scopePart();
+  store::Sql periodPart();
+  void query() override;
 };
 
 }  // namespace collection

@@ -24,13 +24,4 @@ Layout Formqfcl11::layout() {
           .width = 860};
 }
 
-Layout Formqfcl1::layout() {
-  return {.root = column({row({group("查询范围", {scope}), group("查询方式", {period})}),
-                          group("查询条件", {form({of, xh, xm, from, to, xq, clfs, sfxm}), note("（收费项目为空时为所有项目）")}),
-                          buttons({confirm, cancel})}),
-          .confirm = &confirm,
-          .cancel = &cancel,
-          .width = 560};
-}
-
 }  // namespace arrears
