@@ -1,5 +1,7 @@
-// bench_office LARGE MIDDLE SMALL: measures the daily work on three schools that sample_school has made, against the bare
-// engine on the same files. Prints a table; fails when a limit is missed.
+// bench_office LARGE MIDDLE SMALL: measures the daily work on three schools that sample_school has made, against the
+// bare engine on the same files. Prints a table; fails when a limit is missed.
+#include "office.h"
+
 #include <unistd.h>
 
 #include <cstdio>
@@ -10,7 +12,6 @@
 #include "due_import.h"
 #include "figures.h"
 #include "measure.h"
-#include "office.h"
 #include "sample/random.h"
 #include "shell/console_front.h"
 #include "shell/console_overview.h"
@@ -42,9 +43,8 @@ class Front : public kit::Screen {
 Measure opening(Office& office) {
   return {"opening both databases", 1.2, 15,
           [&] {
-            return timed([&] {
-              const Bare main(office.folder, Connection::Main), config(office.folder, Connection::Config);
-            });
+            return timed(
+                [&] { const Bare main(office.folder, Connection::Main), config(office.folder, Connection::Config); });
           },
           [&] {
             store::Store store(office.folder);
@@ -96,7 +96,8 @@ Measure looking(Office& office) {
             return timed([&] {
               std::size_t characters = 0;
               for (long long at = from; at < from + inSight; ++at)
-                for (std::size_t column = 0; column < visible; ++column) characters += front->overview.list.cell(at, column).size();
+                for (std::size_t column = 0; column < visible; ++column)
+                  characters += front->overview.list.cell(at, column).size();
               if (characters == 0) throw std::runtime_error("nothing in sight");
             });
           }};
@@ -129,7 +130,8 @@ Seconds lastRow(Office& office) {
 }
 
 Measure lastOfOrder(Office& office) {
-  const auto statement = std::make_shared<BareStatement>(office.bare.prepare("select * from jfjl order by lsh desc limit 1"));
+  const auto statement =
+      std::make_shared<BareStatement>(office.bare.prepare("select * from jfjl order by lsh desc limit 1"));
   return {"last row of an ordered set", 5, 501,
           [statement] {
             return timed([&] {
@@ -142,7 +144,8 @@ Measure lastOfOrder(Office& office) {
 }
 
 Measure lastBySize(Office& large, Office& small) {
-  return {"last row: " + std::to_string(small.rows("jfjl")) + " rows (as bare) against " + std::to_string(large.rows("jfjl")),
+  return {"last row: " + std::to_string(small.rows("jfjl")) + " rows (as bare) against " +
+              std::to_string(large.rows("jfjl")),
           3, 501, [&] { return lastRow(small); }, [&] { return lastRow(large); }};
 }
 
@@ -197,8 +200,9 @@ Measure card(Office& office) {
 }
 
 collection::Receipt tenLines() {
-  collection::Receipt receipt{"2024000001", "王小明", "计算机应用11001班", "2026学年下学期", "11001001", "统招", "现金", "李强",
-                              {2026, 9, 7}, false, {}};
+  collection::Receipt receipt{
+      "2024000001", "王小明", "计算机应用11001班", "2026学年下学期", "11001001", "统招", "现金", "李强", {2026, 9, 7},
+      false,        {}};
   for (int i = 0; i < linesOfPayment; ++i) receipt.lines.push_back({"代办费", base::Money::yuan(100), ""});
   return receipt;
 }
@@ -208,12 +212,13 @@ Seconds payBare(Bare& bare, BareStatement& insert, const collection::Receipt& re
     bare.run("begin immediate");
     for (const collection::PaidLine& line : receipt.lines) {
       int place = 0;
-      for (const std::string& text : {std::string("202609079000"), receipt.xh, receipt.xm, receipt.bjmc, receipt.xq, receipt.xtbh,
-                                      receipt.jfrq.iso(), std::string("19999999"), line.sfxm}) {
+      for (const std::string& text : {std::string("202609079000"), receipt.xh, receipt.xm, receipt.bjmc, receipt.xq,
+                                      receipt.xtbh, receipt.jfrq.iso(), std::string("19999999"), line.sfxm}) {
         insert.bind(++place, text);
       }
       insert.bind(++place, static_cast<long long>(line.je.units()));
-      for (const std::string& text : {receipt.skr, std::string("2026-9-7 8:30:05"), std::string(), receipt.jffs.value_or(""), receipt.rxxs}) {
+      for (const std::string& text :
+           {receipt.skr, std::string("2026-9-7 8:30:05"), std::string(), receipt.jffs.value_or(""), receipt.rxxs}) {
         insert.bind(++place, text);
       }
       insert.step();
@@ -228,7 +233,9 @@ Measure paying(Office& office) {
       "insert into jfjl (lsh, xh, xm, bjmc, xq, xtbh, jfrq, fpbh, sfxm, je, skr, bsh, sftj, jffs, rxxs) "
       "values (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14, ?15)"));
   const auto receipt = std::make_shared<collection::Receipt>(tenLines());
-  return {"saving a payment of ten lines, on the disk", 1.5, 100,
+  return {"saving a payment of ten lines, on the disk",
+          1.5,
+          100,
           [=, &office] { return payBare(office.bare, *insert, *receipt); },
           [=, &office] {
             return timed([&] { collection::saveReceipt(office.store, *receipt, {receipt->jfrq, 8, 30, 5}); });
@@ -247,11 +254,11 @@ int main(int count, char** words) {
     Office large(words[1]), middle(words[2]), small(words[3]);
     const long long rows = large.rows("jfjl");
     const bool fits = memoryIsWithin(large);
-    const bool within = bench::measureAll(
-        {opening(large), filling(large), looking(large), lastOfOrder(large), lastBySize(large, small), card(large),
-         bench::studentFigures(large), bench::paymentFigures(large), bench::arrearsFigures(large), bench::submitting(large), bench::unpaidList(large),
-         bench::comparison(large),
-         paying(large), bench::importing(middle)});
+    const bool within =
+        bench::measureAll({opening(large), filling(large), looking(large), lastOfOrder(large), lastBySize(large, small),
+                           card(large), bench::studentFigures(large), bench::paymentFigures(large),
+                           bench::arrearsFigures(large), bench::submitting(large), bench::unpaidList(large),
+                           bench::comparison(large), paying(large), bench::importing(middle)});
     large.store.close();
     large.bare.run("delete from jfjl where row_no > (select row_no from jfjl order by row_no limit 1 offset " +
                    std::to_string(rows - 1) + ")");

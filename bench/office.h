@@ -8,8 +8,9 @@ namespace bench {
 
 struct Office {
   explicit Office(const std::filesystem::path& at)
-      : folder(at), store(at), bare(at, store::Connection::Main),
-        desk{test.session, store, test.person, test.navigator, test.clock, test.printer, test.sheets, test.desktop, test.progress} {
+      : folder(at), store(at), bare(at, store::Connection::Main), desk{test.session,   store,        test.person,
+                                                                       test.navigator, test.clock,   test.printer,
+                                                                       test.sheets,    test.desktop, test.progress} {
     bare.run("pragma cache_size=-65536");
     bare.run("pragma synchronous=full");
   }

@@ -1,6 +1,6 @@
 // bench_start FOLDER: from the program's start to the login on the screen, against an empty window of the same toolkit
-// plus the opening of both databases with their keys. Each run is a process of its own; the splash's timer, which waits a
-// second and a half on purpose, is ticked at once.
+// plus the opening of both databases with their keys. Each run is a process of its own; the splash's timer, which waits
+// a second and a half on purpose, is ticked at once.
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -77,9 +77,9 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "usage: bench_start FOLDER\n");
     return 2;
   }
-  return bench::measureAll({{"program start to the login on the screen", 1.5, 15,
-                             [&] { return process(argv[0], "empty", argv[1]); },
-                             [&] { return process(argv[0], "program", argv[1]); }}})
+  return bench::measureAll(
+             {{"program start to the login on the screen", 1.5, 15, [&] { return process(argv[0], "empty", argv[1]); },
+               [&] { return process(argv[0], "program", argv[1]); }}})
              ? 0
              : 1;
 }

@@ -51,14 +51,10 @@ Value valueOf(const store::Column& column, int row, bool longTexts) {
       if (found == texts.end()) return longTexts ? "一段比它的位置更长的文字" : "普通文字";
       return longTexts ? found->second.second : found->second.first;
     }
-    case store::Type::Date:
-      return base::Date{2026, 9, 1}.plusDays(row % 120);
-    case store::Type::DateTime:
-      return base::DateTime{{2026, 9, 7}, 8, 30, 5};
-    case store::Type::Money:
-      return longTexts ? base::Money::fen(123456789012) : base::Money::fen(23505 + 100 * row);
-    default:
-      return longTexts ? 123456789 : row;
+    case store::Type::Date: return base::Date{2026, 9, 1}.plusDays(row % 120);
+    case store::Type::DateTime: return base::DateTime{{2026, 9, 7}, 8, 30, 5};
+    case store::Type::Money: return longTexts ? base::Money::fen(123456789012) : base::Money::fen(23505 + 100 * row);
+    default: return longTexts ? 123456789 : row;
   }
 }
 

@@ -22,8 +22,7 @@ struct Wish {
   sample::Plan plan;
 };
 
-template <class Number>
-bool read(std::string_view text, Number& number) {
+template <class Number> bool read(std::string_view text, Number& number) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   return error == std::errc() && end == text.data() + text.size();
 }

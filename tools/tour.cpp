@@ -1,6 +1,6 @@
-// tour FOLDER: the road of one payment through the real windows without a person. It plays the program in FOLDER/program,
-// saves a picture of every window and a PDF of every receipt, then checks the rows in the database. Exits non-zero when
-// anything differs.
+// tour FOLDER: the road of one payment through the real windows without a person. It plays the program in
+// FOLDER/program, saves a picture of every window and a PDF of every receipt, then checks the rows in the database.
+// Exits non-zero when anything differs.
 #include <QApplication>
 #include <QLineEdit>
 #include <QTemporaryDir>
@@ -18,7 +18,8 @@
 namespace {
 
 Steps firstUser() {
-  return {{"Formyhxx4", "系统启用设置", [](QWidget& w) {
+  return {{"Formyhxx4", "系统启用设置",
+           [](QWidget& w) {
              type(w, "yhxm", "王芳");
              type(w, "yhmm", "123456");
              press(w, "confirm");
@@ -30,25 +31,55 @@ Steps firstUser() {
 Steps setUp() {
   Steps steps{{"Formzct", "控制台", [](QWidget& w) { menu(w, "cd21"); }},
               {"Formsz", "专业", [](QWidget& w) { press(w, "zymcb_add"); }},
-              {"Formszzymc", "专业编辑", [](QWidget& w) { type(w, "zymc", "计算机应用"); key(w, Qt::Key_Return); }},
-              {"Formsz", "班级", [](QWidget& w) { chooseTab(w, "班级"); press(w, "bjzl_add"); }},
-              {"Formszbjzl", "班级编辑", [](QWidget& w) { pick(w, "zymc", "计算机应用"); press(w, "confirm"); }},
+              {"Formszzymc", "专业编辑",
+               [](QWidget& w) {
+                 type(w, "zymc", "计算机应用");
+                 key(w, Qt::Key_Return);
+               }},
+              {"Formsz", "班级",
+               [](QWidget& w) {
+                 chooseTab(w, "班级");
+                 press(w, "bjzl_add");
+               }},
+              {"Formszbjzl", "班级编辑",
+               [](QWidget& w) {
+                 pick(w, "zymc", "计算机应用");
+                 press(w, "confirm");
+               }},
               {"Formsz", "班级已添加", [](QWidget& w) { chooseTab(w, "收费项目"); }}};
   for (const char* item : {"学费", "书本费", "住宿费"})
     append(steps, {{"Formsz", "收费项目", [](QWidget& w) { press(w, "sfxmb_add"); }},
-                   {"Formszsfxm", "收费项目编辑", [item](QWidget& w) { type(w, "sfxmmc", item); key(w, Qt::Key_Return); }}});
-  append(steps, {{"Formsz", "收费标准", [](QWidget& w) { chooseTab(w, "收费标准"); press(w, "setStandards"); }}});
-  const struct { const char* item; const char* amount; } standards[] = {{"学费", "2800"}, {"书本费", "350.5"}, {"住宿费", "600"}};
+                   {"Formszsfxm", "收费项目编辑", [item](QWidget& w) {
+                      type(w, "sfxmmc", item);
+                      key(w, Qt::Key_Return);
+                    }}});
+  append(steps, {{"Formsz", "收费标准", [](QWidget& w) {
+                    chooseTab(w, "收费标准");
+                    press(w, "setStandards");
+                  }}});
+  const struct {
+    const char* item;
+    const char* amount;
+  } standards[] = {{"学费", "2800"}, {"书本费", "350.5"}, {"住宿费", "600"}};
   for (const auto& one : standards)
-    append(steps, {{"Formszsfbz", "收费标准设置", [one](QWidget& w) {
+    append(steps, {{"Formszsfbz", "收费标准设置",
+                    [one](QWidget& w) {
                       pick(w, "sfxmmc", one.item);
                       type(w, "je", one.amount);
                       press(w, "confirm");
                     }},
                    said("设置完成")});
   append(steps, {{"Formszsfbz", "收费标准已设置", [](QWidget& w) { press(w, "cancel"); }},
-                 {"Formsz", "收费标准一览", [](QWidget& w) { chooseTab(w, "入学形式"); press(w, "rxxs_add"); }},
-                 {"Formszrxxs", "入学形式编辑", [](QWidget& w) { type(w, "rxxs", "统招"); press(w, "confirm"); }},
+                 {"Formsz", "收费标准一览",
+                  [](QWidget& w) {
+                    chooseTab(w, "入学形式");
+                    press(w, "rxxs_add");
+                  }},
+                 {"Formszrxxs", "入学形式编辑",
+                  [](QWidget& w) {
+                    type(w, "rxxs", "统招");
+                    press(w, "confirm");
+                  }},
                  said("信息录入成功"),
                  {"Formsz", "入学形式", [](QWidget& w) { press(w, "back"); }}});
   return steps;
@@ -56,7 +87,8 @@ Steps setUp() {
 
 Steps enrol() {
   return {{"Formzct", "新生添加", [](QWidget& w) { menu(w, "k5"); }},
-          {"Formzctxs", "学籍录入", [](QWidget& w) {
+          {"Formzctxs", "学籍录入",
+           [](QWidget& w) {
              type(w, "xh", "20260001010001");
              type(w, "xm", "欧阳小明");
              pick(w, "bjmc", "计算机应用11001班");
@@ -72,19 +104,19 @@ Steps enrol() {
 // Takes the student's whole standard with the keyboard alone and prints the receipt in the layout of that number.
 Steps pay(int layout, const std::string& pdf) {
   Steps steps{{"Formzct", "前台设置", [](QWidget& w) { menu(w, "k1"); }},
-              {"Formszqt", "收费前台设置", [layout](QWidget& w) {
+              {"Formszqt", "收费前台设置",
+               [layout](QWidget& w) {
                  const char* captions[] = {"标准样式一", "标准样式二", "套打定制"};
                  chooseOption(w, captions[layout - 1]);
                  setTick(w, "sfctsz", true);
                  press(w, "back");
                }},
-              {"Formzct", "查找学生", [](QWidget& w) {
+              {"Formzct", "查找学生",
+               [](QWidget& w) {
                  type(w, "xh", "20260001010001");
                  key(w, Qt::Key_Return);
                }},
-              {"Formzctsf4", "收费窗口", [](QWidget& w) {
-                 setTick(w, "allLines", true);
-               }},
+              {"Formzctsf4", "收费窗口", [](QWidget& w) { setTick(w, "allLines", true); }},
               {"Formzctsf4", "收费窗口已选", [](QWidget& w) { press(w, "confirm"); }},
               said("收费操作成功")};
   if (layout != 3)
@@ -94,7 +126,8 @@ Steps pay(int layout, const std::string& pdf) {
                       press(w, "print");
                     }}});
   append(steps, {{"preview", "收据预览", [](QWidget& w) { press(w, "savePdf"); }},
-                 {"QFileDialog", "另存为", [pdf](QWidget& w) {
+                 {"QFileDialog", "另存为",
+                  [pdf](QWidget& w) {
                     auto* name = w.findChild<QLineEdit*>("fileNameEdit");
                     name->setText(QString::fromStdString(pdf));
                     QTest::keyClick(name, Qt::Key_Return);
@@ -112,7 +145,8 @@ void hit(QWidget& window, int which) {
 
 // The same road by the keyboard alone: number, Enter; Space ticks the whole standard, Enter takes it; 是; no remarks.
 Steps payByKeys() {
-  return {{"Formzct", "键盘收费", [](QWidget& w) {
+  return {{"Formzct", "键盘收费",
+           [](QWidget& w) {
              type(w, "xh", "20260001010001");
              hit(w, Qt::Key_Return);
            }},
@@ -134,7 +168,8 @@ void check(const char* what, const std::string& found, const std::string& expect
 // What must stand in the database when the day is over.
 void checkRows(const std::filesystem::path& folder) {
   store::Store store(folder);
-  store.connect(store::Connection::Main, store::connectionText(folder, "\\mv_Database\\morvanegxgl.mdb", store::mainPassword));
+  store.connect(store::Connection::Main,
+                store::connectionText(folder, "\\mv_Database\\morvanegxgl.mdb", store::mainPassword));
   const auto count = [&](const store::Sql& sql) { return std::to_string(store::RecordSet(store, sql).count()); };
   check("the number of users", count("select * from yhxx"), "1");
   check("the number of students", count("select * from xs where bjmc='计算机应用11001班'"), "1");
@@ -185,9 +220,7 @@ int main(int argc, char** argv) {
 
   // The next morning: everything is still there.
   Steps again = logIn("王芳");
-  append(again, {{"Formzct", "次日控制台", [](QWidget& w) {
-                    menu(w, "k2");
-                  }},
+  append(again, {{"Formzct", "次日控制台", [](QWidget& w) { menu(w, "k2"); }},
                  {"Formzct/students_back", "学籍总览", [](QWidget& w) { press(w, "students_back"); }},
                  {"Formzct/class_strip", "返回控制台", [](QWidget& w) { press(w, "class_strip"); }},
                  {"Formzct/classes", "专业及班级", [](QWidget& w) { clickNode(w, "class_tree", "计算机应用11001班"); }},
@@ -203,7 +236,8 @@ int main(int argc, char** argv) {
   int numbered = next.pictures();
   const auto exported = [&] {
     long long files = 0;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) files += entry.path().extension() == ".xlsx";
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
+      files += entry.path().extension() == ".xlsx";
     return files;
   };
   const int differences = playDay(folder / "school", folder, numbered);
@@ -213,7 +247,6 @@ int main(int argc, char** argv) {
   for (const char* name : names)
     if (std::filesystem::file_size(folder / ("收据-" + std::string(name) + ".pdf")) < 1000) ++wrong;
   std::printf("tour: %d pictures and 3 receipts under %s, %d keys from a student's number to the preview, %s\n",
-              numbered, folder.c_str(), keys,
-              wrong ? "with differences" : "all as expected");
+              numbered, folder.c_str(), keys, wrong ? "with differences" : "all as expected");
   return wrong ? 1 : 0;
 }

@@ -19,8 +19,8 @@ void openRow(QWidget& w, const char* list, int row) {
 
 // Whom the day is about; looked up before it begins.
 struct People {
-  std::string pays, paysName, paysClass, newClass;        // has paid everything but is paying the next term's fees
-  std::string owes, waived, corrected;  // with open arrears of one row
+  std::string pays, paysName, paysClass, newClass;  // has paid everything but is paying the next term's fees
+  std::string owes, waived, corrected;              // with open arrears of one row
 };
 
 struct School {
@@ -93,7 +93,8 @@ Step findStudent(const std::string& xh, const char* what) {
 // The configured item is paid short: the arrears entry opens with the difference.
 Steps payShort(const People& people) {
   return {{"Formzct", "设置欠费项目", [](QWidget& w) { menu(w, "k1"); }},
-          {"Formszqt", "欠费设置", [](QWidget& w) {
+          {"Formszqt", "欠费设置",
+           [](QWidget& w) {
              setTick(w, "dysz", false);
              setTick(w, "qfcejz", true);
              setTick(w, "sfctsz", true);
@@ -103,7 +104,8 @@ Steps payShort(const People& people) {
           said("设置成功"),
           {"Formszqt", "欠费设置完成", [](QWidget& w) { press(w, "back"); }},
           findStudent(people.pays, "查找交费学生"),
-          {"Formzctsf4", "收费窗口", [](QWidget& w) {
+          {"Formzctsf4", "收费窗口",
+           [](QWidget& w) {
              type(w, "xq", "2027学年上学期");
              setTick(w, "allLines", true);
              type(w, "paid0", "1000");
@@ -125,9 +127,17 @@ Steps followUp(const People& people) {
               {"Formzctsf4", "补交欠费", [](QWidget& w) { press(w, "confirm"); }},
               said("收费操作成功", false),
               {"Formzct", "关闭自动收费", [](QWidget& w) { menu(w, "k1"); }},
-              {"Formszqt", "不自动收费", [](QWidget& w) { setTick(w, "sfctsz", false); press(w, "back"); }},
+              {"Formszqt", "不自动收费",
+               [](QWidget& w) {
+                 setTick(w, "sfctsz", false);
+                 press(w, "back");
+               }},
               findStudent(people.waived, "查找减免学生"),
-              {"Formzct/class_strip", "减免", [](QWidget& w) { chooseRow(w, "arrears_list", 0); menu(w, "cd61"); }},
+              {"Formzct/class_strip", "减免",
+               [](QWidget& w) {
+                 chooseRow(w, "arrears_list", 0);
+                 menu(w, "cd61");
+               }},
               said("您确认是要减免此笔欠费吗"),
               said("减免操作成功"),
               findStudent(people.corrected, "查找更正学生"),
@@ -139,11 +149,16 @@ Steps followUp(const People& people) {
 
 // The arrears overview still shows the class behind the statistics' line: the last of its rows is corrected.
 Steps correct() {
-  return {{"Formzct/arrears_overview_zoom", "更正欠费", [](QWidget& w) {
+  return {{"Formzct/arrears_overview_zoom", "更正欠费",
+           [](QWidget& w) {
              chooseRow(w, "arrears_overview_rows", 0);
              press(w, "arrears_modify");
            }},
-          {"Formqf", "欠费编辑", [](QWidget& w) { type(w, "bjje", "888.8"); press(w, "confirm"); }},
+          {"Formqf", "欠费编辑",
+           [](QWidget& w) {
+             type(w, "bjje", "888.8");
+             press(w, "confirm");
+           }},
           said("您确认是要修改欠费记录吗"),
           said("记录修改成功"),
           {"Formzct/arrears_overview_zoom", "更正后", [](QWidget& w) { press(w, "arrears_close"); }}};
@@ -153,7 +168,11 @@ Steps correct() {
 Steps submit(const People& people) {
   return {findStudent(people.owes, "查找补交学生"),
           {"Formzct/class_strip", "删除错误记录前", [](QWidget& w) { menu(w, "cd55"); }},
-          {"Formzct/class_strip", "删除错误记录", [](QWidget& w) { chooseRow(w, "payment_list", 0); menu(w, "cd571"); }},
+          {"Formzct/class_strip", "删除错误记录",
+           [](QWidget& w) {
+             chooseRow(w, "payment_list", 0);
+             menu(w, "cd571");
+           }},
           said("您确认是要删除选定记录吗"),
           said("选定记录已删除"),
           said("该生没有新的交费记录"),
@@ -166,7 +185,11 @@ Steps submit(const People& people) {
           said("记录提交完毕"),
           {"Formzctsf9", "提交后", [](QWidget& w) { press(w, "back"); }},
           findStudent(people.pays, "已提交的学生"),
-          {"Formzct/class_strip", "删除已提交记录", [](QWidget& w) { chooseRow(w, "payment_list", 0); menu(w, "cd571"); }},
+          {"Formzct/class_strip", "删除已提交记录",
+           [](QWidget& w) {
+             chooseRow(w, "payment_list", 0);
+             menu(w, "cd571");
+           }},
           said("这是一条已提交记录，前台不能删除它")};
 }
 
@@ -174,7 +197,8 @@ Steps submit(const People& people) {
 Steps askQuestions(const People& people) {
   return {{"Formzct", "学籍查询前", [](QWidget& w) { menu(w, "k2"); }},
           {"Formzct/students_zoom", "打开学籍查询", [](QWidget& w) { press(w, "students_open"); }},
-          {"Formzctxscx1", "学籍查询", [people](QWidget& w) {
+          {"Formzctxscx1", "学籍查询",
+           [people](QWidget& w) {
              pick(w, "bjmc", people.paysClass);
              pick(w, "xb", "女");
              press(w, "confirm");
@@ -182,7 +206,8 @@ Steps askQuestions(const People& people) {
           {"Formzct/students_zoom", "学籍查询结果", [](QWidget& w) { press(w, "students_open"); }},
           {"Formzctxscx1", "按拼音缩小名单", [](QWidget& w) { type(w, "zymc", "jsj"); }},
           {"Formzctxscx1", "改为单项查询", [](QWidget& w) { press(w, "single"); }},
-          {"Formzctxscx", "单项查询", [](QWidget& w) {
+          {"Formzctxscx", "单项查询",
+           [](QWidget& w) {
              pick(w, "way", "模糊查询");
              type(w, "value", "江西");
              press(w, "confirm");
@@ -191,7 +216,8 @@ Steps askQuestions(const People& people) {
           {"Formzct", "交费查询前", [](QWidget& w) { menu(w, "k3"); }},
           {"Formzct/payments_overview_zoom", "打开交费查询", [](QWidget& w) { press(w, "payments_open"); }},
           {"Formzctsf31", "交费查询", [](QWidget& w) { press(w, "scope"); }},
-          {"Formzctsf3", "按范围查询", [people](QWidget& w) {
+          {"Formzctsf3", "按范围查询",
+           [people](QWidget& w) {
              chooseOption(w, "班级信息");
              chooseOption(w, "按学期");
              pick(w, "of", people.paysClass);
@@ -199,7 +225,8 @@ Steps askQuestions(const People& people) {
              press(w, "confirm");
            }},
           {"Formzct/payments_overview_zoom", "等待查询结果", [](QWidget&) { QTest::qWait(200); }},
-          {"Formzct/payments_overview_zoom", "按范围查询结果", [](QWidget& w) {
+          {"Formzct/payments_overview_zoom", "按范围查询结果",
+           [](QWidget& w) {
              chooseRow(w, "payments_overview_rows", 0);
              press(w, "payments_modify");
            }},
@@ -208,14 +235,16 @@ Steps askQuestions(const People& people) {
           {"Formzct", "欠费查询前", [](QWidget& w) { menu(w, "k4"); }},
           {"Formzct/arrears_overview_zoom", "打开欠费查询", [](QWidget& w) { press(w, "arrears_open"); }},
           {"Formqfcl11", "欠费查询", [](QWidget& w) { chooseTab(w, "未交费学生名单"); }},
-          {"Formqfcl11", "未交费查询", [](QWidget& w) {
+          {"Formqfcl11", "未交费查询",
+           [](QWidget& w) {
              type(w, "unpaid_xq", "2027学年上学期");
              press(w, "searchUnpaid");
            }},
           said("信息搜索完毕"),
           {"Formzct/arrears_overview_zoom", "未交费学生名单", [](QWidget& w) { press(w, "arrears_open"); }},
           {"Formqfcl11", "应交实交对比前", [](QWidget& w) { chooseTab(w, "应交实交金额对比"); }},
-          {"Formqfcl11", "应交实交对比", [](QWidget& w) {
+          {"Formqfcl11", "应交实交对比",
+           [](QWidget& w) {
              type(w, "due", "3000");
              type(w, "compared_xq", "2026学年下学期");
              press(w, "compare");
@@ -242,7 +271,8 @@ Steps lookAtTheSchool(const People& people) {
           {"Formkh", "损益返回", [](QWidget& w) { press(w, "back"); }},
           {"Formzct", "休学复课", [](QWidget& w) { menu(w, "cd72"); }},
           {"Formxxfk", "休学复课名单", [](QWidget& w) { press(w, "add"); }},
-          {"Formxxfk1", "休学登记", [people](QWidget& w) {
+          {"Formxxfk1", "休学登记",
+           [people](QWidget& w) {
              pick(w, "bjmc", people.paysClass);
              pick(w, "xm", people.paysName);
              press(w, "confirm");
@@ -255,12 +285,14 @@ Steps lookAtTheSchool(const People& people) {
 // A class hands its money in through its teacher; one of its students then moves to another class.
 Steps collectAClass(const People& people) {
   return {{"Formzct", "集中收费", [](QWidget& w) { menu(w, "k20"); }},
-          {"Formzctsf7", "集中收费窗口", [](QWidget& w) {
+          {"Formzctsf7", "集中收费窗口",
+           [](QWidget& w) {
              pick(w, "sfxm", "书本费");
              openRow(w, "classes", 0);
              press(w, "tickAll");
            }},
-          {"Formzctsf7", "集中收费已选", [people](QWidget& w) {
+          {"Formzctsf7", "集中收费已选",
+           [people](QWidget& w) {
              pick(w, "person", people.paysName);
              press(w, "confirm");
            }},
@@ -269,7 +301,8 @@ Steps collectAClass(const People& people) {
           {"Formzctsf7", "集中收费完毕", [](QWidget& w) { press(w, "back"); }},
           {"Formzct", "调班", [](QWidget& w) { menu(w, "cd14"); }},
           {"Formtb", "选择调出班级", [people](QWidget& w) { pick(w, "fromClass", people.paysClass); }},
-          {"Formtb", "选择学生", [people](QWidget& w) {
+          {"Formtb", "选择学生",
+           [people](QWidget& w) {
              pick(w, "toClass", people.newClass);
              setTick(w, "student0", true);
            }},
@@ -289,21 +322,26 @@ void check(const char* what, const std::string& found, const std::string& expect
 void checkDay(School& school, const People& people, long long paymentsBefore) {
   const Sql next = Sql("select * from jfjl where xq='2027学年上学期' and xh='") + people.pays + "'";
   check("the tuition taken", school.value(next + " and sfxm='学费'", "je"), "1000");
-  const std::string owed = school.value(Sql("select * from qfjl where xq='2027学年上学期' and xh='") + people.pays + "'", "bjje");
-  const std::string due = school.value(Sql("select * from sfbzb where sfxmmc='学费' and bjmc='") + people.paysClass + "'", "je");
+  const std::string owed =
+      school.value(Sql("select * from qfjl where xq='2027学年上学期' and xh='") + people.pays + "'", "bjje");
+  const std::string due =
+      school.value(Sql("select * from sfbzb where sfxmmc='学费' and bjmc='") + people.paysClass + "'", "je");
   check("the shortfall entered as arrears", owed, (*base::Money::parse(due) - base::Money::yuan(1000)).plain());
-  check("the state of the paid arrears", school.value(Sql("select * from qfjl where xh='") + people.owes + "'", "clfs"), "结清");
-  check("the state of the waived arrears", school.value(Sql("select * from qfjl where xh='") + people.waived + "'", "clfs"), "减免");
+  check("the state of the paid arrears", school.value(Sql("select * from qfjl where xh='") + people.owes + "'", "clfs"),
+        "结清");
+  check("the state of the waived arrears",
+        school.value(Sql("select * from qfjl where xh='") + people.waived + "'", "clfs"), "减免");
   check("the corrected arrears", std::to_string(school.count("select * from qfjl where bjje=888.8")), "1");
   check("the suspension", school.value(Sql("select * from xxfk where xh='") + people.pays + "'", "fksj"), "");
   check("the students suspended", std::to_string(school.count("select * from xxfk")), "1");
   const Sql collected = "select fpbh from jfjl where bz='集中收费' group by fpbh";
   const long long batch = school.count("select * from jfjl where bz='集中收费'");
-  check("what the user has not submitted", std::to_string(school.count("select * from jfjl where skr='王芳' and sftj<>'*'")),
-        std::to_string(batch));
+  check("what the user has not submitted",
+        std::to_string(school.count("select * from jfjl where skr='王芳' and sftj<>'*'")), std::to_string(batch));
   check("the receipt numbers of the batch", std::to_string(school.count(collected)), std::to_string(batch));
   check("the class without the student who moved",
-        std::to_string(school.count(Sql("select * from xs where bjmc='") + people.paysClass + "'")), std::to_string(batch - 1));
+        std::to_string(school.count(Sql("select * from xs where bjmc='") + people.paysClass + "'")),
+        std::to_string(batch - 1));
   check("the payments", std::to_string(school.count("select * from jfjl")),
         std::to_string(paymentsBefore + school.count(next) + batch - school.count(next + " and bz='集中收费'")));
 }
@@ -319,7 +357,9 @@ int playDay(const std::filesystem::path& folder, const std::filesystem::path& pi
     paymentsBefore = before.count("select * from jfjl");
   }
   Steps steps = logIn("王芳");
-  for (const Steps& more : {lookAround(), payShort(people), followUp(people), correct(), submit(people), askQuestions(people), lookAtTheSchool(people), collectAClass(people), leave()}) append(steps, more);
+  for (const Steps& more : {lookAround(), payShort(people), followUp(people), correct(), submit(people),
+                            askQuestions(people), lookAtTheSchool(people), collectAClass(people), leave()})
+    append(steps, more);
   Player day(steps, pictures, numbered);
   app::Office(folder.string()).run();
   numbered = day.pictures();

@@ -7,7 +7,6 @@
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QListWidget>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QTabBar>
@@ -19,8 +18,8 @@
 
 namespace {
 
-constexpr int tickLength = 40;      // milliseconds
-constexpr int patience = 20 * 1000; // for one step
+constexpr int tickLength = 40;       // milliseconds
+constexpr int patience = 20 * 1000;  // for one step
 
 QWidget& find(QWidget& window, const char* member) {
   for (QWidget* widget : window.findChildren<QWidget*>(QString::fromUtf8(member)))
@@ -100,12 +99,14 @@ void Player::tick() {
     QWidget* top = QApplication::activeModalWidget();
     auto* box = qobject_cast<QMessageBox*>(top);
     return fail("the window " + steps_[next_].window + " did not come; in front: " +
-                (box ? "«" + box->text().toStdString() + "»" : top ? top->objectName().toStdString() : "none"));
+                (box   ? "«" + box->text().toStdString() + "»"
+                 : top ? top->objectName().toStdString()
+                       : "none"));
   }
   waited_ = 0;
   const Step step = steps_[next_++];
   try {
-    acting_ = true;  // the wait below lets ticks through
+    acting_ = true;    // the wait below lets ticks through
     QTest::qWait(60);  // let it paint
     acting_ = false;
     const std::string number = std::to_string(1000 + ++pictureNumber_).substr(1);
@@ -120,7 +121,8 @@ void Player::tick() {
 void Player::fail(const std::string& why) {
   if (failure_.empty()) failure_ = why;
   std::fprintf(stderr, "tour: %s\n", why.c_str());
-  if (QWidget* top = QApplication::activeModalWidget()) top->grab().save(QString::fromStdString(folder_ + "/failed.png"));
+  if (QWidget* top = QApplication::activeModalWidget())
+    top->grab().save(QString::fromStdString(folder_ + "/failed.png"));
   std::fflush(nullptr);
   std::_Exit(1);
 }
@@ -160,7 +162,8 @@ void pick(QWidget& window, const char* member, const std::string& choice) {
 
 void chooseRow(QWidget& window, const char* list, int row) {
   auto& view = dynamic_cast<QAbstractItemView&>(find(window, list));
-  if (row >= view.model()->rowCount()) throw std::runtime_error(std::string(list) + " has no row " + std::to_string(row));
+  if (row >= view.model()->rowCount())
+    throw std::runtime_error(std::string(list) + " has no row " + std::to_string(row));
   view.setFocus();
   view.setCurrentIndex(view.model()->index(row, 0));
 }

@@ -1,5 +1,5 @@
-// Plays a person at the real windows: waits for a window, takes its picture, presses its widgets. The steps are a table;
-// a step that cannot be done within its time fails the tour.
+// Plays a person at the real windows: waits for a window, takes its picture, presses its widgets. The steps are a
+// table; a step that cannot be done within its time fails the tour.
 #pragma once
 
 #include <QObject>
@@ -9,9 +9,9 @@
 #include <vector>
 
 struct Step {
-  std::string window;                  // the window that must stand in front; "?" a message box; "a/b": b visible in it
-  std::string what;                    // names the picture and the failure
-  std::function<void(QWidget&)> act;   // what the person does there; may open further windows
+  std::string window;                 // the window that must stand in front; "?" a message box; "a/b": b visible in it
+  std::string what;                   // names the picture and the failure
+  std::function<void(QWidget&)> act;  // what the person does there; may open further windows
 };
 
 using Steps = std::vector<Step>;
@@ -47,8 +47,8 @@ void key(QWidget& window, int key);                                       // on 
 void pick(QWidget& window, const char* member, const std::string& choice);
 void chooseRow(QWidget& window, const char* list, int row);
 void clickNode(QWidget& window, const char* tree, const std::string& text);
-void chooseOption(QWidget& window, const std::string& caption);            // the option button that begins so
+void chooseOption(QWidget& window, const std::string& caption);  // the option button that begins so
 void setTick(QWidget& window, const char* check, bool on);
 void chooseTab(QWidget& window, const std::string& title);
-void menu(QWidget& window, const char* entry);                            // an entry of the menu bar or a pop-up
-void answer(QWidget& box, const std::string& part, bool yes);             // a message box whose text holds part
+void menu(QWidget& window, const char* entry);                 // an entry of the menu bar or a pop-up
+void answer(QWidget& box, const std::string& part, bool yes);  // a message box whose text holds part

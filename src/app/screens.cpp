@@ -52,8 +52,7 @@
 namespace app {
 namespace {
 
-template <class S>
-Entry screen(const char* name) {
+template <class S> Entry screen(const char* name) {
   return {name, [](kit::Desk& desk) { return std::make_unique<S>(desk); }};
 }
 

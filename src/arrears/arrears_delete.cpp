@@ -11,12 +11,9 @@ constexpr const char* selectedGone = "选定记录已删除！      ";
 Formqfcl5::Formqfcl5(kit::Desk& all) : Screen(all, "Formqfcl5", "删除选项") {
   confirm.onPress([this] {
     switch (option.chosen()) {
-      case 0:
-        return deleteSelected();
-      case 1:
-        return deleteStudent();
-      default:
-        return deleteSettled();
+      case 0: return deleteSelected();
+      case 1: return deleteStudent();
+      default: return deleteSettled();
     }
   });
   cancel.onPress([this] { close(); });

@@ -11,10 +11,8 @@ constexpr const char* fault = "错误提示";
 bool Formqfcl::sameNumber() {
   const std::string inUse = base::trim(desk.session.current_xh);
   if (xh.trimmed() == inUse) return true;
-  if (askStop("学号已被修改，不能录入！是否还原该生正确的学号 ？     ", fault))
-    xh.set(inUse);
-  else
-    xh.focus();
+  if (askStop("学号已被修改，不能录入！是否还原该生正确的学号 ？     ", fault)) xh.set(inUse);
+  else xh.focus();
   return false;
 }
 

@@ -12,15 +12,16 @@ namespace {
 
 constexpr const char* fault = "错误提示";
 
-const kit::QueryPlan plan{"qfjl",
-                          "qfrq",
-                          {"", "单击确认查看当日欠费记录", "单击确认查看本月欠费记录", "单击确认查看本年度欠费记录", "单击确认查看全部欠费记录"},
-                          {"  where xm like  '%", "%' or xq like  '%", "%' or xh like  '%", "%'  or qfrq like  '%",
-                           "%' or bjmc like  '%", "%' or clfs like  '%", "%' or sfxm like  '%", "%' or bjrq like  '%",
-                           "%' or sbjrq like  '%", "%' or skr like  '%"},
-                          "%'",
-                          &kit::Session::arrears_where,
-                          &kit::Session::reload_arrears_list};
+const kit::QueryPlan plan{
+    "qfjl",
+    "qfrq",
+    {"", "单击确认查看当日欠费记录", "单击确认查看本月欠费记录", "单击确认查看本年度欠费记录",
+     "单击确认查看全部欠费记录"},
+    {"  where xm like  '%", "%' or xq like  '%", "%' or xh like  '%", "%'  or qfrq like  '%", "%' or bjmc like  '%",
+     "%' or clfs like  '%", "%' or sfxm like  '%", "%' or bjrq like  '%", "%' or sbjrq like  '%", "%' or skr like  '%"},
+    "%'",
+    &kit::Session::arrears_where,
+    &kit::Session::reload_arrears_list};
 
 // Behind another condition the later days are asked for with =>: the office's older conditions are written so, and the
 // store takes both.
@@ -69,8 +70,9 @@ std::vector<kit::Field*> Formqfcl11::conditionFields() {
 }
 
 std::optional<std::vector<Condition>> Formqfcl11::conditions() {
-  std::vector<Condition> all{kit::equals("xq", xq.text()), kit::equals("bjmc", bjmc.text()), kit::equals("xh", xh.text()),
-                             kit::equals("xm", xm.text()), kit::equals("sfxm", sfxm.text())};
+  std::vector<Condition> all{kit::equals("xq", xq.text()), kit::equals("bjmc", bjmc.text()),
+                             kit::equals("xh", xh.text()), kit::equals("xm", xm.text()),
+                             kit::equals("sfxm", sfxm.text())};
   const struct {
     const kit::DateCondition& field;
     const char* column;
@@ -143,10 +145,9 @@ void Formqfcl11::showCompared() {
   {
     const Notice notice{desk.progress};
     desk.progress.show("开始搜索相关记录，请稍等 ...");
-    found = listByPaid(desk.store, *question, base::Money::leading(due.text()), static_cast<PaidAs>(wanted.chosen()),
-                       desk.clock.now(), [&](const std::string& name, long long) {
-                         desk.progress.show("正在加载" + name + "的信息 ...");
-                       });
+    found = listByPaid(
+        desk.store, *question, base::Money::leading(due.text()), static_cast<PaidAs>(wanted.chosen()), desk.clock.now(),
+        [&](const std::string& name, long long) { desk.progress.show("正在加载" + name + "的信息 ..."); });
     desk.progress.show("正在筛选已加载的信息 ...");
   }
   if (found == 0) return inform("不存在相匹配记录！ ", "信息提示");
@@ -168,11 +169,10 @@ Formqfcl1::Formqfcl1(kit::Desk& all)
 
 void Formqfcl1::query() {
   const std::string chosen = of.trimmed();
-  std::vector<Condition> all{
-      scope.chosen() == Major ? kit::majorIs(kit::majorCode(desk.store, chosen)) : Condition{},
-      kit::equals("bjmc", scope.chosen() == Class ? chosen : ""),
-      kit::equals("xh", scope.chosen() == Student ? xh.text() : ""),
-      kit::equals("xm", scope.chosen() == Student && xh.blank() ? xm.text() : "")};
+  std::vector<Condition> all{scope.chosen() == Major ? kit::majorIs(kit::majorCode(desk.store, chosen)) : Condition{},
+                             kit::equals("bjmc", scope.chosen() == Class ? chosen : ""),
+                             kit::equals("xh", scope.chosen() == Student ? xh.text() : ""),
+                             kit::equals("xm", scope.chosen() == Student && xh.blank() ? xm.text() : "")};
   if (period.chosen() == ByDate) {
     all.push_back(kit::onDate("qfrq", kit::Compare::AtLeast, *base::Date::parse(from.trimmed())));
     all.push_back(kit::onDate("qfrq", kit::Compare::AtMost, *base::Date::parse(to.trimmed())));

@@ -1,5 +1,5 @@
-// What the arrears' overview shows: arrears under conditions of one's own, who has paid nothing, who paid less, exactly or
-// more than an amount; and the older way by scope and period.
+// What the arrears' overview shows: arrears under conditions of one's own, who has paid nothing, who paid less, exactly
+// or more than an amount; and the older way by scope and period.
 #pragma once
 
 #include "arrears/comparison.h"
@@ -22,7 +22,8 @@ class Formqfcl11 : public kit::QueryScreen {  // 打开欠费信息
   kit::Field xq{*this, "xq", "学年学期", kit::Entry::Pick}, bjmc{*this, "bjmc", "班级名称", kit::Entry::Pick},
       xh{*this, "xh", "学号"}, xm{*this, "xm", "姓名", kit::Entry::Pick},
       sfxm{*this, "sfxm", "收费项目", kit::Entry::Pick};
-  kit::DateCondition qfrq{*this, "qfrq", "欠费日期"}, bjrq{*this, "bjrq", "拟补交日期"}, sbjrq{*this, "sbjrq", "实补交日期"};
+  kit::DateCondition qfrq{*this, "qfrq", "欠费日期"}, bjrq{*this, "bjrq", "拟补交日期"},
+      sbjrq{*this, "sbjrq", "实补交日期"};
   kit::Field clfs{*this, "clfs", "当前状态", kit::Entry::Pick};
   kit::Action byScope{*this, "byScope", "按范围查询", "list-filter"};  // the other screen instead
 

@@ -24,7 +24,8 @@ using Seen = std::function<void(const std::string& xm, long long found)>;  // no
 
 bool hasStudents(store::Store& store, const PaymentQuestion& question);
 // Both empty their table first and give back the rows that are in it then.
-long long listUnpaid(store::Store& store, const PaymentQuestion& question, base::DateTime now, const Seen& seen);  // qfjl_wjf
+long long listUnpaid(store::Store& store, const PaymentQuestion& question, base::DateTime now,
+                     const Seen& seen);  // qfjl_wjf
 long long listByPaid(store::Store& store, const PaymentQuestion& question, base::Money due, PaidAs wanted,
                      base::DateTime now, const Seen& seen);  // qfjl_je
 

@@ -116,8 +116,7 @@ class Booked {
   bool takePlace(const std::string& xh, const std::string& sfxm) { return owed_.insert(pairKey(xh, sfxm)).second; }
 
  private:
-  template <class Visit>
-  static void eachPair(RecordSet& set, Visit visit) {
+  template <class Visit> static void eachPair(RecordSet& set, Visit visit) {
     store::forEach(set, [&](RecordSet& row) {
       const store::Value xh = row.get("xh"), sfxm = row.get("sfxm");
       if (!xh.isNull() && !sfxm.isNull()) visit(row, pairKey(xh.text(), sfxm.text()));

@@ -37,8 +37,8 @@ struct DateTime {
   friend auto operator<=>(const DateTime&, const DateTime&) = default;
 };
 
-// The school term a date lies in by default: 2026学年上学期 for months 2 to 7, otherwise 下学期. January offers the past
-// half-year's wording with the new year's number, which the operators expect and overwrite.
+// The school term a date lies in by default: 2026学年上学期 for months 2 to 7, otherwise 下学期. January offers the
+// past half-year's wording with the new year's number, which the operators expect and overwrite.
 std::string defaultTerm(Date today);
 
 }  // namespace base

@@ -17,8 +17,9 @@ class Money {
   static constexpr Money fen(std::int64_t fen) { return Money(fen * 100); }
   // What text can become: a sum of some hundred such amounts still holds. parse() refuses more, leading() stops here.
   static constexpr Money largest() { return Money(9'999'999'999'999'999); }
-  static std::optional<Money> parse(std::string_view text);  // strict: nothing unless the whole trimmed text is a number
-  static Money leading(std::string_view text);               // lenient: the leading number, 0 when there is none
+  static std::optional<Money> parse(
+      std::string_view text);                   // strict: nothing unless the whole trimmed text is a number
+  static Money leading(std::string_view text);  // lenient: the leading number, 0 when there is none
 
   constexpr std::int64_t units() const { return units_; }
   constexpr bool zero() const { return units_ == 0; }
@@ -26,8 +27,14 @@ class Money {
   std::string fixed2() const;  // "0.00" form, half away from zero: "12.50"
 
   constexpr Money operator-() const { return Money(-units_); }
-  constexpr Money& operator+=(Money other) { units_ += other.units_; return *this; }
-  constexpr Money& operator-=(Money other) { units_ -= other.units_; return *this; }
+  constexpr Money& operator+=(Money other) {
+    units_ += other.units_;
+    return *this;
+  }
+  constexpr Money& operator-=(Money other) {
+    units_ -= other.units_;
+    return *this;
+  }
   friend constexpr Money operator+(Money a, Money b) { return a += b; }
   friend constexpr Money operator-(Money a, Money b) { return a -= b; }
   friend constexpr auto operator<=>(Money, Money) = default;
@@ -37,8 +44,8 @@ class Money {
   std::int64_t units_ = 0;
 };
 
-// The amount as lists show it: "0.00" form behind blanks that right-align short amounts. The count of blanks follows the
-// length of the plain text: 7 for length 1, one fewer for each further character, none from length 8 on.
+// The amount as lists show it: "0.00" form behind blanks that right-align short amounts. The count of blanks follows
+// the length of the plain text: 7 for length 1, one fewer for each further character, none from length 8 on.
 std::string paddedAmount(Money amount);
 
 // The amount in capital Chinese numerals, for receipts. Digit by digit from the right; a zero digit never writes a

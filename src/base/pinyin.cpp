@@ -63,7 +63,8 @@ std::string readingKey(std::string_view text) {
     made->setAttribute(UCOL_NUMERIC_COLLATION, UCOL_ON, status);
     return made;
   }();
-  const icu::UnicodeString word = icu::UnicodeString::fromUTF8(icu::StringPiece(text.data(), static_cast<int32_t>(text.size())));
+  const icu::UnicodeString word =
+      icu::UnicodeString::fromUTF8(icu::StringPiece(text.data(), static_cast<int32_t>(text.size())));
   std::string key(static_cast<std::size_t>(collator->getSortKey(word, nullptr, 0)), '\0');
   collator->getSortKey(word, reinterpret_cast<uint8_t*>(key.data()), static_cast<int32_t>(key.size()));
   return key;

@@ -10,8 +10,8 @@ namespace base {
 // case: "王小明A1" gives "wxma1".
 std::string initials(std::string_view text);
 
-// Whether an entry is meant by what was typed: it holds the text, or its initials do. Blanks around what was typed do not
-// count; nothing typed means every entry.
+// Whether an entry is meant by what was typed: it holds the text, or its initials do. Blanks around what was typed do
+// not count; nothing typed means every entry.
 bool meantBy(std::string_view entry, std::string_view typed);
 
 // Bytes whose order is the one a Chinese reader expects of the texts: by pinyin, digits by their number.

@@ -65,18 +65,14 @@ void Formzctsf7::startAnew() {
 
 void Formzctsf7::moveOnFrom(const kit::Member& member) {
   // The class is chosen in its list before there is an amount to go on to.
-  if (&member == &jfrq && desk.session.current_xh.empty())
-    classes.focus();
-  else
-    Screen::moveOnFrom(member);
+  if (&member == &jfrq && desk.session.current_xh.empty()) classes.focus();
+  else Screen::moveOnFrom(member);
 }
 
 void Formzctsf7::wireCell(BatchCell& cell) {
   cell.tick.onChange([this, &cell] {
-    if (!cell.tick.on())
-      cell.je.clear();
-    else if (cell.amount().zero())
-      cell.je.set(standard.text());
+    if (!cell.tick.on()) cell.je.clear();
+    else if (cell.amount().zero()) cell.je.set(standard.text());
     addUp();
   });
   cell.je.onChange([this, &cell] {

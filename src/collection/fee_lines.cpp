@@ -11,8 +11,7 @@ using store::Sql;
 std::string member(const char* column, int index) { return column + std::to_string(index); }
 
 // Rows beyond the tenth are dropped: the window has ten lines.
-template <class Show>
-bool fillLines(RecordSet& rows, FeeLines& lines, Show show) {
+template <class Show> bool fillLines(RecordSet& rows, FeeLines& lines, Show show) {
   if (rows.empty()) return false;
   rows.first();
   for (std::size_t index = 0; index < lines.size() && !rows.atEnd(); ++index, rows.next()) show(lines[index], index);

@@ -53,20 +53,15 @@ void Formzctsf4::load() {
 // typed.
 void Formzctsf4::focusFirst() {
   const auto first = std::find_if(lines.begin(), lines.end(), [](const FeeLine& line) { return line.hasItem(); });
-  if (allLines.enabled())
-    allLines.focus();
-  else if (first != lines.end())
-    first->paid.focus();
-  else
-    xh.focus();
+  if (allLines.enabled()) allLines.focus();
+  else if (first != lines.end()) first->paid.focus();
+  else xh.focus();
 }
 
 void Formzctsf4::moveOnFrom(const kit::Member& member) {
   // With all lines ticked there is nothing left to type.
-  if (&member == &allLines && allLines.on() && confirm.enabled())
-    confirm.press();
-  else
-    Screen::moveOnFrom(member);
+  if (&member == &allLines && allLines.on() && confirm.enabled()) confirm.press();
+  else Screen::moveOnFrom(member);
 }
 
 void Formzctsf4::switchMode() {

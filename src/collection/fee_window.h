@@ -37,8 +37,7 @@ class Formzctsf4 : public kit::Screen {  // 收费窗口
   kit::Action cancel{*this, "cancel", "撤销", "x"};
 
  private:
-  template <std::size_t... Index>
-  FeeLines makeLines(std::index_sequence<Index...>) {
+  template <std::size_t... Index> FeeLines makeLines(std::index_sequence<Index...>) {
     return {FeeLine(*this, static_cast<int>(Index))...};
   }
   // Loading and modes.

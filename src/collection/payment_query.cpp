@@ -9,15 +9,16 @@ using store::Sql;
 
 namespace {
 
-const kit::QueryPlan plan{"jfjl",
-                          "jfrq",
-                          {"", "单击确认查看当日收费记录", "单击确认查看本月收费记录", "单击确认查看本年度收费记录", "单击确认查看全部收费记录"},
-                          {"  where xm like  '%", "%' or xq like  '%", "%' or xh like  '%", "%' or jfrq like  '%",
-                           "%' or bjmc like  '%", "%' or jffs like  '%", "%' or sfxm like  '%", "%' or rxxs like  '%",
-                           "%' or fpbh like  '%"},
-                          "%'",
-                          &kit::Session::payment_where,
-                          &kit::Session::reload_payment_list};
+const kit::QueryPlan plan{
+    "jfjl",
+    "jfrq",
+    {"", "单击确认查看当日收费记录", "单击确认查看本月收费记录", "单击确认查看本年度收费记录",
+     "单击确认查看全部收费记录"},
+    {"  where xm like  '%", "%' or xq like  '%", "%' or xh like  '%", "%' or jfrq like  '%", "%' or bjmc like  '%",
+     "%' or jffs like  '%", "%' or sfxm like  '%", "%' or rxxs like  '%", "%' or fpbh like  '%"},
+    "%'",
+    &kit::Session::payment_where,
+    &kit::Session::reload_payment_list};
 
 constexpr const char* fault = "错误提示";
 
@@ -27,7 +28,8 @@ Formzctsf31::Formzctsf31(kit::Desk& all) : QueryScreen(all, "Formzctsf31", "打�
   offer(xq, "xq", [] { return Sql("select xq from jfjl group by xq"); });
   offer(bjmc, "bjmc", [] { return Sql("select * from bjzl order by bjdh"); });
   offer(xm, "xm", [this] {
-    return bjmc.blank() ? Sql("select * from xs order by xh") : Sql("select * from xs where bjmc='") + bjmc.trimmed() + "'";
+    return bjmc.blank() ? Sql("select * from xs order by xh")
+                        : Sql("select * from xs where bjmc='") + bjmc.trimmed() + "'";
   });
   offer(sfxm, "sfxm", [] { return Sql("select sfxm from jfjl group by sfxm"); });
   offer(jffs, "jffs", [] { return Sql("select jffs from jfjl group by jffs"); });
@@ -39,13 +41,16 @@ Formzctsf31::Formzctsf31(kit::Desk& all) : QueryScreen(all, "Formzctsf31", "打�
   });
 }
 
-std::vector<kit::Field*> Formzctsf31::conditionFields() { return {&xq, &bjmc, &xh, &xm, &sfxm, &from, &to, &jffs, &rxxs}; }
+std::vector<kit::Field*> Formzctsf31::conditionFields() {
+  return {&xq, &bjmc, &xh, &xm, &sfxm, &from, &to, &jffs, &rxxs};
+}
 
 void Formzctsf31::accepted() { desk.session.payment_heading.clear(); }
 
 std::optional<std::vector<Condition>> Formzctsf31::conditions() {
   if (from.blank() != to.blank()) {
-    stop(to.blank() ? "日期是一个区间值,您需要设置截止日期！      " : "日期是一个区间值,您需要设置起始日期！      ", fault);
+    stop(to.blank() ? "日期是一个区间值,您需要设置截止日期！      " : "日期是一个区间值,您需要设置起始日期！      ",
+         fault);
     (to.blank() ? to : from).focus();
     return std::nullopt;
   }
@@ -93,7 +98,8 @@ Sql Formzctsf3::periodPart() {
 
 void Formzctsf3::query() {
   if (scope.chosen() == Student && xh.blank() &&
-      !ask("您没有输入学号，将按姓名查询，同名学生的记录会一并列出，这样可能会导致查询结果不准确！您确认继续吗？      ", "操作提示"))
+      !ask("您没有输入学号，将按姓名查询，同名学生的记录会一并列出，这样可能会导致查询结果不准确！您确认继续吗？      ",
+           "操作提示"))
     return;
   auto& session = desk.session;
   session.payment_where = scopePart() + periodPart() + " order by jfrq";
@@ -102,8 +108,8 @@ void Formzctsf3::query() {
   store::forEach(found, [&](store::RecordSet& row) { sum += row.get("je").money(); });
   session.payment_heading =
       scope.options()[static_cast<std::size_t>(scope.chosen())] + "：" +
-      (period.chosen() == ByDate ? "从 " + from.trimmed() + " 到 " + to.trimmed() : xq.trimmed()) + " 共有" + "交费记录 " +
-      std::to_string(found.count()) + " 条，交费金额：" + sum.fixed2() + " 元！ ";
+      (period.chosen() == ByDate ? "从 " + from.trimmed() + " 到 " + to.trimmed() : xq.trimmed()) + " 共有" +
+      "交费记录 " + std::to_string(found.count()) + " 条，交费金额：" + sum.fixed2() + " 元！ ";
   session.reload_payment_list = true;
   close();
 }

@@ -118,10 +118,8 @@ Drawing layoutTwo(const PrintedReceipt& receipt) {
       cell(page, remarkX, y, form.right(), receipt.remarks[line]);
     }
     table(page, form, fiveRows, fiveRowsBottom);
-    if (first + fiveRows >= receipt.rows.size())
-      total(page, form, receipt.total, fiveRowsTotalY);
-    else
-      totalLabel(page, form, fiveRowsTotalY, "（接下页）");
+    if (first + fiveRows >= receipt.rows.size()) total(page, form, receipt.total, fiveRowsTotalY);
+    else totalLabel(page, form, fiveRowsTotalY, "（接下页）");
     footer(page, form, receipt, fiveRowsFootY);
   }
   return drawing;

@@ -66,10 +66,11 @@ void Formzctsf9::submitMine() {
   });
   if (counted.empty()) return inform("前台不存在您的未提交记录！     ", "信息提示");
   if (!ask("您确认是要提交前台的收费记录到后台数据库中吗？    ", "操作提示")) return;
-  if (!ask("您在前台共有：" + base::caption(static_cast<long long>(counted.size())) + " 条收费记录；累计收费总额为：" +
-               total.fixed2() +
-               " 元！ \n提交前，您应该先打印出收费汇总报表！您确认继续吗？  \n选择“是”提交记录；否则点“否”撤销此操作！ ",
-           "操作提示"))
+  if (!ask(
+          "您在前台共有：" + base::caption(static_cast<long long>(counted.size())) + " 条收费记录；累计收费总额为：" +
+              total.fixed2() +
+              " 元！ \n提交前，您应该先打印出收费汇总报表！您确认继续吗？  \n选择“是”提交记录；否则点“否”撤销此操作！ ",
+          "操作提示"))
     return;
   // What the user has collected at another computer meanwhile is not in the sum that was confirmed: it stays.
   store::Unit unit(desk.store);

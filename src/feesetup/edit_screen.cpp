@@ -23,12 +23,9 @@ void EditScreen::load() {
 void EditScreen::act() {
   if (!kit::holds(desk.person, rules())) return;
   switch (mode_) {
-    case kit::Mode::Add:
-      return add();
-    case kit::Mode::Modify:
-      return modify();
-    case kit::Mode::Delete:
-      return remove();
+    case kit::Mode::Add: return add();
+    case kit::Mode::Modify: return modify();
+    case kit::Mode::Delete: return remove();
   }
 }
 

@@ -32,8 +32,7 @@ class Formszsfbz3 : public kit::Screen {  // 收费标准设置
   kit::Action cancel{*this, "cancel", "撤销", "x"};
 
  private:
-  template <std::size_t... Index>
-  std::array<StandardLine, sizeof...(Index)> makeLines(std::index_sequence<Index...>) {
+  template <std::size_t... Index> std::array<StandardLine, sizeof...(Index)> makeLines(std::index_sequence<Index...>) {
     return {StandardLine(*this, Index + 1)...};
   }
   void loadForm();

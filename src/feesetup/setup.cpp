@@ -71,8 +71,7 @@ Formsz::Formsz(kit::Desk& all)
   back.onPress([this] { close(); });
 }
 
-template <class Editor>
-void Formsz::wire(SetupTab& tab) {
+template <class Editor> void Formsz::wire(SetupTab& tab) {
   tab.add.onPress([this] { openEditor<Editor>(Mode::Add, nullptr); });
   tab.modify.onPress([this, &tab] { openAtRow<Editor>(tab.grid, Mode::Modify); });
   tab.remove.onPress([this, &tab] { openAtRow<Editor>(tab.grid, Mode::Delete); });
@@ -109,16 +108,14 @@ void Formsz::load() {
   showStandards();
 }
 
-template <class Editor>
-void Formsz::openAtRow(kit::Grid& grid, Mode mode) {
+template <class Editor> void Formsz::openAtRow(kit::Grid& grid, Mode mode) {
   if (grid.count() == 0)
     return inform(mode == Mode::Modify ? "不存在需要修改的记录！  " : "不存在需要删除的记录！  ", "信息提示");
   store::RecordSet* row = grid.current();
   row ? openEditor<Editor>(mode, row) : grid.reload();
 }
 
-template <class Editor>
-void Formsz::openEditor(Mode mode, store::RecordSet* row) {
+template <class Editor> void Formsz::openEditor(Mode mode, store::RecordSet* row) {
   desk.session.EditMode = mode;
   desk.session.edited = row;
   desk.session.standard_filter = filter.trimmed();

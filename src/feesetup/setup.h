@@ -26,12 +26,9 @@ class Formsz : public kit::Screen {  // 系统初始设置
   kit::Action back{*this, "back", "返回", "arrow-left"};
 
  private:
-  template <class Editor>
-  void wire(SetupTab& tab);
-  template <class Editor>
-  void openEditor(kit::Mode mode, store::RecordSet* row);
-  template <class Editor>
-  void openAtRow(kit::Grid& grid, kit::Mode mode);
+  template <class Editor> void wire(SetupTab& tab);
+  template <class Editor> void openEditor(kit::Mode mode, store::RecordSet* row);
+  template <class Editor> void openAtRow(kit::Grid& grid, kit::Mode mode);
   void wireStandards();
   void reload();
 

@@ -20,8 +20,7 @@ void StandardDelete::remove() {
     std::string report;
   };
   const Step steps[] = {
-      {"您确认是要删除选定记录吗 ？    ", "删除提示", [this] { editedRow(desk).remove(); },
-       "选定记录已删除 ！     "},
+      {"您确认是要删除选定记录吗 ？    ", "删除提示", [this] { editedRow(desk).remove(); }, "选定记录已删除 ！     "},
       {own_.question, "删除提示",
        [this] {
          kit::removeEach(desk.store, own_.table + own_.filter + desk.session.standard_filter + "'");

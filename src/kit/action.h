@@ -14,9 +14,9 @@ class Action : public Member {
 
   const std::string& caption() const { return caption_; }
   void setCaption(std::string caption);
-  const std::string icon;      // name of a picture of the icon set; empty for none
-  bool pictureAbove = false;   // picture above the caption instead of left of it
-  bool link = false;           // words alone, red under the mouse
+  const std::string icon;     // name of a picture of the icon set; empty for none
+  bool pictureAbove = false;  // picture above the caption instead of left of it
+  bool link = false;          // words alone, red under the mouse
 
   void onPress(Handler handler) { press_.push_back(std::move(handler)); }
   void press();  // the person's side
@@ -35,7 +35,7 @@ class Check : public Member {
   bool on() const { return on_; }
   void set(bool on);  // raises change when it differs, as a click does
   void onChange(Handler handler) { change_.push_back(std::move(handler)); }
-  void toggle();      // the person's side
+  void toggle();  // the person's side
 
  private:
   std::string caption_;

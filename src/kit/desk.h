@@ -35,7 +35,8 @@ class Navigator {
   virtual ~Navigator() = default;
   // Modal: returns when the screen has been closed.
   template <class S> void open(Desk& desk);
-  // Puts a screen on the desk and returns; the navigator keeps it until it is closed. The program ends with the last one.
+  // Puts a screen on the desk and returns; the navigator keeps it until it is closed. The program ends with the last
+  // one.
   template <class S> void stand(Desk& desk);
   template <class S> void closeStanding() {
     for (Screen* screen : standing())

@@ -25,7 +25,11 @@ Condition equals(std::string_view column, std::string value) {
 
 Condition onDate(std::string_view column, Compare compare, const base::Date& day) {
   const Sql name = Sql::column(column);
-  return alike(day.plain(), compare == Compare::AtMost ? name + "<=#" : compare == Compare::Equal ? name + "=#" : name + ">=#", "#");
+  return alike(day.plain(),
+               compare == Compare::AtMost  ? name + "<=#"
+               : compare == Compare::Equal ? name + "=#"
+                                           : name + ">=#",
+               "#");
 }
 
 Condition majorIs(std::string code) { return alike(std::move(code), "left(xtbh,2)='", "'"); }

@@ -1,5 +1,5 @@
-// The where clause of a list as a table of conditions. The queries hold them in the session, as statement text; printing
-// and export put the same text behind their own columns.
+// The where clause of a list as a table of conditions. The queries hold them in the session, as statement text;
+// printing and export put the same text behind their own columns.
 #pragma once
 
 #include <string>
@@ -22,7 +22,7 @@ struct Condition {
 enum class Compare { AtMost, Equal, AtLeast };
 const std::vector<std::string>& compareSigns();  // "<=", "=", ">="
 
-Condition equals(std::string_view column, std::string value);                     // bjmc='…'
+Condition equals(std::string_view column, std::string value);                       // bjmc='…'
 Condition onDate(std::string_view column, Compare compare, const base::Date& day);  // csrq<=#…#
 Condition majorIs(std::string code);  // a student's major is the first two characters of the system number
 

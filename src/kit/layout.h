@@ -56,7 +56,9 @@ inline Node buttons(Nodes actions) { return {Node::Kind::Buttons, "", std::move(
 inline Node heading(std::string text) { return {Node::Kind::Heading, std::move(text)}; }
 inline Node note(std::string text) { return {Node::Kind::Note, std::move(text)}; }
 inline Node stretch() { return {Node::Kind::Stretch, ""}; }
-inline Node custom(std::string name, Nodes parts = {}) { return {Node::Kind::Custom, std::move(name), std::move(parts)}; }
+inline Node custom(std::string name, Nodes parts = {}) {
+  return {Node::Kind::Custom, std::move(name), std::move(parts)};
+}
 inline Node form(Nodes fields, int columns = 1) {
   Node node(Node::Kind::Form, "", std::move(fields));
   node.columns = columns;
@@ -67,8 +69,14 @@ inline Node lines(std::vector<std::string> headings, Nodes rows) {
   node.headings = std::move(headings);
   return node;
 }
-inline Node wide(Node node, int characters) { node.width = characters; return node; }
-inline Node spanning(Node node, int pairs) { node.span = pairs; return node; }
+inline Node wide(Node node, int characters) {
+  node.width = characters;
+  return node;
+}
+inline Node spanning(Node node, int pairs) {
+  node.span = pairs;
+  return node;
+}
 
 struct Menu {
   std::string caption;

@@ -100,7 +100,8 @@ void List::showWindow(long long row) const {
   const auto marks = std::span(marks_).subspan(static_cast<std::size_t>(windowFrom_ - first));
   behind_->visit(marks.first(std::min<std::size_t>(windowRows, marks.size())), [this](bool there) {
     if (there) return addCells(*behind_, window_);
-    for (std::size_t i = 0; i < columns_.size(); ++i) window_.add("");  // a row deleted meanwhile: its place stays, blank
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+      window_.add("");  // a row deleted meanwhile: its place stays, blank
   });
 }
 
@@ -108,7 +109,8 @@ std::string_view List::cell(long long row, std::size_t column) const {
   const auto place = static_cast<std::size_t>(row) * columns_.size() + column;
   if (place < cells_.count()) return cells_.at(place);
   const auto inWindow = [&] {
-    return windowFrom_ >= 0 && row >= windowFrom_ && row < windowFrom_ + static_cast<long long>(window_.count() / columns_.size());
+    return windowFrom_ >= 0 && row >= windowFrom_ &&
+           row < windowFrom_ + static_cast<long long>(window_.count() / columns_.size());
   };
   if (!inWindow()) showWindow(row);
   return window_.at(static_cast<std::size_t>(row - windowFrom_) * columns_.size() + column);

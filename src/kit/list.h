@@ -21,7 +21,7 @@ struct ListColumn {
   std::string heading;
   std::string column;  // of the record set; empty: the screen adds the cell itself
   Format format = Format::Text;
-  int width = 10;      // in Chinese characters
+  int width = 10;  // in Chinese characters
 };
 
 // Cells in one block of memory, so that a million rows stay small and quick.
@@ -50,7 +50,7 @@ class List : public Member {
   // Empties the list and fills it from the set, first to last, by the columns. visit sees each row as it is added.
   void fill(store::RecordSet& set, const std::function<void(store::RecordSet&)>& visit = {});
   long long count() const;
-  long long version() const { return version_; }  // another one whenever the rows are others
+  long long version() const { return version_; }                   // another one whenever the rows are others
   std::string_view cell(long long row, std::size_t column) const;  // until the next call
 
   long long selected() const { return selected_; }  // -1: none
@@ -63,7 +63,10 @@ class List : public Member {
   void onDoubleClick(Handler handler) { doubleClick_.push_back(std::move(handler)); }
 
   // The person's side.
-  void select(long long row) { mustBeReachable(); setSelected(row); }
+  void select(long long row) {
+    mustBeReachable();
+    setSelected(row);
+  }
   void doubleClick(long long row);  // Enter on a row is the same
 
  private:

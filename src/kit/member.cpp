@@ -49,7 +49,10 @@ void Member::raise(const std::vector<Handler>& handlers) {
 }
 
 void Member::mustBeReachable() const {
-  const char* why = screen_.closed() ? "its screen is closed" : !enabled_ ? "it is disabled" : !visible_ ? "it is hidden" : nullptr;
+  const char* why = screen_.closed() ? "its screen is closed"
+                    : !enabled_      ? "it is disabled"
+                    : !visible_      ? "it is hidden"
+                                     : nullptr;
   if (why) throw std::logic_error(screen_.name + "." + name + " cannot be used: " + why);
 }
 

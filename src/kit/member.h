@@ -37,7 +37,7 @@ class Member {
   const std::string& tip() const { return tip_; }
   void setTip(std::string tip);
 
-  void focus();                                    // asks the window to put the focus here
+  void focus();  // asks the window to put the focus here
   void onFocus(Handler handler) { focusIn_.push_back(std::move(handler)); }
   void onLeave(Handler handler) { leave_.push_back(std::move(handler)); }
 
@@ -49,7 +49,9 @@ class Member {
   std::function<void()> view;
 
  protected:
-  void changed() const { if (view) view(); }
+  void changed() const {
+    if (view) view();
+  }
   void raise(const std::vector<Handler>& handlers);  // in the screen's guard
   void mustBeReachable() const;                      // a person cannot use what is hidden, disabled or closed
   Screen& screen_;

@@ -49,7 +49,8 @@ void QueryScreen::wireConditions() {
 }
 
 void QueryScreen::offer(Field& field, std::string_view column, std::function<Sql()> rows) {
-  field.onDrop([this, &field, column, rows = std::move(rows)] { field.setChoices(columnTexts(desk.store, rows(), column)); });
+  field.onDrop(
+      [this, &field, column, rows = std::move(rows)] { field.setChoices(columnTexts(desk.store, rows(), column)); });
 }
 
 bool QueryScreen::refuseDate(Field& field) {
@@ -78,7 +79,8 @@ void QueryScreen::compose() {
       if (const auto own = conditions()) accept(chain(*own), false);
       return;
     case Today: return accept(Sql("  where ") + dateColumn + "=#" + today.plain() + "#", false);
-    case ThisMonth: return accept(Sql("  where month(") + dateColumn + ")='" + std::to_string(today.month) + "'", false);
+    case ThisMonth:
+      return accept(Sql("  where month(") + dateColumn + ")='" + std::to_string(today.month) + "'", false);
     case ThisYear: return accept(Sql("  where year(") + dateColumn + ")='" + std::to_string(today.year) + "'", false);
     default: return accept({}, true);
   }

@@ -20,7 +20,7 @@ struct DateCondition {
 
 struct QueryPlan {
   const char* table;
-  const char* dateColumn;      // what the periods ask for
+  const char* dateColumn;            // what the periods ask for
   std::array<const char*, 5> hints;  // of the own conditions, the day, the month, the year, all
   std::vector<store::Sql> keyword;
   store::Sql keywordEnd;

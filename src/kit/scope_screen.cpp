@@ -50,14 +50,13 @@ bool ScopeScreen::valid() {
   };
   const bool byDate = period.chosen() == ByDate;
   const auto badDay = [byDate](const Field& day) { return [byDate, &day] { return byDate && notDate(day)(); }; };
-  return holds(desk.person,
-               {{&of, missing(Major, of), "请选择专业！     ", fault},
-                {&of, missing(Class, of), "请选择一个班级！     ", fault},
-                {&xh, [this] { return scope.chosen() == Student && xh.blank() && xm.blank(); },
-                 "请输入学号或姓名！学号具有唯一性，建议用学号查询！     ", fault},
-                {&from, badDay(from), badDate, fault},
-                {&to, badDay(to), badDate, fault},
-                {&xq, [this, byDate] { return !byDate && xq.blank(); }, "请选择学年学期！     ", fault}});
+  return holds(desk.person, {{&of, missing(Major, of), "请选择专业！     ", fault},
+                             {&of, missing(Class, of), "请选择一个班级！     ", fault},
+                             {&xh, [this] { return scope.chosen() == Student && xh.blank() && xm.blank(); },
+                              "请输入学号或姓名！学号具有唯一性，建议用学号查询！     ", fault},
+                             {&from, badDay(from), badDate, fault},
+                             {&to, badDay(to), badDate, fault},
+                             {&xq, [this, byDate] { return !byDate && xq.blank(); }, "请选择学年学期！     ", fault}});
 }
 
 Layout ScopeScreen::scopeLayout(Nodes between) {

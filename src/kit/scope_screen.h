@@ -1,5 +1,5 @@
-// The older way of asking, shared by the overviews: whose rows (the school's, a major's, a class's, a student's), and of
-// which days or which term.
+// The older way of asking, shared by the overviews: whose rows (the school's, a major's, a class's, a student's), and
+// of which days or which term.
 #pragma once
 
 #include "kit/filter.h"

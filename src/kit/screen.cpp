@@ -23,7 +23,8 @@ std::vector<Member*> readingOrder(const Layout& layout) {
   return order;
 }
 
-Screen::Screen(Desk& all, std::string own, std::string words) : name(std::move(own)), desk(all), title_(std::move(words)) {}
+Screen::Screen(Desk& all, std::string own, std::string words)
+    : name(std::move(own)), desk(all), title_(std::move(words)) {}
 
 void Screen::setTitle(std::string title) {
   if (title_ == title) return;
@@ -61,7 +62,8 @@ void Screen::moveOnFrom(const Member& member) {
   const Layout plan = layout();
   const auto order = readingOrder(plan);
   const auto here = std::find(order.begin(), order.end(), &member);
-  const auto next = here == order.end() ? here : std::find_if(here + 1, order.end(), [](Member* m) { return takesEntry(*m); });
+  const auto next =
+      here == order.end() ? here : std::find_if(here + 1, order.end(), [](Member* m) { return takesEntry(*m); });
   if (next != order.end()) (*next)->focus();
   else if (plan.confirm && plan.confirm->enabled() && plan.confirm->visible()) plan.confirm->press();
 }

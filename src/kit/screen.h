@@ -29,7 +29,7 @@ class Screen {
   const std::string name;  // the class's name
   const std::string& title() const { return title_; }
   void setTitle(std::string title);
-  void close();            // leaves the screen; what is under way in it goes on to its end
+  void close();  // leaves the screen; what is under way in it goes on to its end
   bool closed() const { return closed_; }
   const std::vector<Member*>& members() const { return members_; }
   std::optional<Colour> backdrop;  // colour of the whole window; the panel colour when not given
@@ -37,7 +37,9 @@ class Screen {
   // The edge where events enter: faults of the store and the platform inside the outermost one are shown to the person
   // in words, and the event ends there.
   void run(const Handler& event);
-  void start() { run([this] { load(); }); }
+  void start() {
+    run([this] { load(); });
+  }
   bool busy() const { return depth_ > 0; }  // inside an event
 
   // Enter in a field without a handler of its own: on to the next entry field, from the last one to the confirm action.
@@ -45,9 +47,9 @@ class Screen {
   virtual void moveOnFrom(const Member& member);
 
   // The view's side.
-  std::function<void()> view;               // title or closed changed
+  std::function<void()> view;  // title or closed changed
   std::function<void(Member&)> focusWanted;
-  Member* focused = nullptr;                // where the focus was last asked for or came to stand
+  Member* focused = nullptr;  // where the focus was last asked for or came to stand
 
  protected:
   Desk& desk;

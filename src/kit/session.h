@@ -23,19 +23,19 @@ struct Session {
   int ScreenWidth = 0;
 
   // The front-desk settings, copied from the configuration record.
-  bool print_receipt = false;          // dysz
-  bool open_fee_window = false;        // sfctsz
-  bool only_items = false;             // sfxmmcsz: only the items of the student's standard
-  bool due_rows_ticked = false;        // qfmr
-  bool auto_load_lists = false;        // jfjljz
-  bool arrears_in_remark = false;      // dybzok
-  int receipt_style = 1;               // fpys
-  std::string custom_form;             // todamc1
-  bool switch_layout = false;          // zdqh
-  std::string arrears_item;            // qfjz
-  int reminder_days = 0;               // qfts
+  bool print_receipt = false;            // dysz
+  bool open_fee_window = false;          // sfctsz
+  bool only_items = false;               // sfxmmcsz: only the items of the student's standard
+  bool due_rows_ticked = false;          // qfmr
+  bool auto_load_lists = false;          // jfjljz
+  bool arrears_in_remark = false;        // dybzok
+  int receipt_style = 1;                 // fpys
+  std::string custom_form;               // todamc1
+  bool switch_layout = false;            // zdqh
+  std::string arrears_item;              // qfjz
+  int reminder_days = 0;                 // qfts
   bool shortfall_opens_arrears = false;  // qfcejz
-  bool standard_basis_class = false;   // bjsf1
+  bool standard_basis_class = false;     // bjsf1
 
   bool first_user_added = false;  // the first-run screen did its work; the program starts anew for the login
 
@@ -71,8 +71,8 @@ struct Session {
   struct DueImport {
     enum class Range { School, Major, Class, Form };
     Range range = Range::School;
-    std::string value;       // the class or the enrolment form
-    std::string major_code;  // the first two characters of its students' system numbers
+    std::string value;                // the class or the enrolment form
+    std::string major_code;           // the first two characters of its students' system numbers
     std::optional<std::string> item;  // nothing: all items
     std::string term, lead, deadline;
   } due_import;

@@ -46,12 +46,8 @@ const Setting& settingOf(std::string_view column) {
 void copy(Session& session, const Setting& setting, const store::Value& value) {
   constexpr double century = 36500;  // days beyond it mean nothing, and would not fit a date
   switch (setting.form) {
-    case Form::One:
-      session.*std::get<bool Session::*>(setting.copy) = value.number() == 1;
-      break;
-    case Form::YesNo:
-      session.*std::get<bool Session::*>(setting.copy) = value.yes();
-      break;
+    case Form::One: session.*std::get<bool Session::*>(setting.copy) = value.number() == 1; break;
+    case Form::YesNo: session.*std::get<bool Session::*>(setting.copy) = value.yes(); break;
     case Form::Layout:
       if (const double style = value.number(); style == 1 || style == 2 || style == 3)
         session.*std::get<int Session::*>(setting.copy) = static_cast<int>(style);
@@ -59,9 +55,7 @@ void copy(Session& session, const Setting& setting, const store::Value& value) {
     case Form::Title:
       if (!value.trimmed().empty()) session.*std::get<std::string Session::*>(setting.copy) = value.trimmed();
       break;
-    case Form::Name:
-      session.*std::get<std::string Session::*>(setting.copy) = value.trimmed();
-      break;
+    case Form::Name: session.*std::get<std::string Session::*>(setting.copy) = value.trimmed(); break;
     case Form::Days:
       session.*std::get<int Session::*>(setting.copy) = static_cast<int>(std::clamp(value.number(), -century, century));
       break;

@@ -11,7 +11,7 @@
 namespace kit {
 
 struct Rule {
-  Field* field;                 // takes the focus on failure; null for none
+  Field* field;  // takes the focus on failure; null for none
   std::function<bool()> fails;
   std::string text, title;
   Box box = Box::Stop;

@@ -12,12 +12,12 @@ enum class Face { Song, Kai, Hei };  // 宋体, 楷体, 黑体
 enum class Align { Left, Centre, Right };  // where a text's x stands in it
 
 struct Text {
-  double x = 0, y = 0;      // millimetres; the top of the text's line, at its left end unless align says otherwise
+  double x = 0, y = 0;  // millimetres; the top of the text's line, at its left end unless align says otherwise
   std::string text;
   Face face = Face::Song;
-  double size = 10;         // points
-  double fit = 0;           // millimetres the text may take: it shrinks, then is cut with a mark; 0: no limit
-  bool wrap = false;        // within fit, over as many lines as it takes, instead of shrinking; from the left always
+  double size = 10;   // points
+  double fit = 0;     // millimetres the text may take: it shrinks, then is cut with a mark; 0: no limit
+  bool wrap = false;  // within fit, over as many lines as it takes, instead of shrinking; from the left always
   Align align = Align::Left;
   friend bool operator==(const Text&, const Text&) = default;
 };
@@ -35,8 +35,8 @@ struct Page {
 };
 
 struct Drawing {
-  std::string title;                    // of the print job and of the file saved
-  double width = 210, height = 297;     // the paper, millimetres
+  std::string title;                 // of the print job and of the file saved
+  double width = 210, height = 297;  // the paper, millimetres
   std::vector<Page> pages;
 };
 

@@ -43,10 +43,8 @@ class Popup : public QFrame {
   }
 
   void keyPressEvent(QKeyEvent* event) override {
-    if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_F4)
-      close();
-    else
-      QFrame::keyPressEvent(event);
+    if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_F4) close();
+    else QFrame::keyPressEvent(event);
   }
 
  private:
@@ -61,12 +59,9 @@ class ChoiceList : public QListWidget {
  protected:
   void keyPressEvent(QKeyEvent* event) override {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && currentItem())
-      taken(currentItem());
-    else if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_F4)
-      event->ignore();
-    else
-      QListWidget::keyPressEvent(event);
+    if (enter && currentItem()) taken(currentItem());
+    else if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_F4) event->ignore();
+    else QListWidget::keyPressEvent(event);
   }
 };
 
@@ -79,16 +74,11 @@ DropEdit::DropEdit(const QString& iconName, QWidget* parent) : QLineEdit(parent)
 
 void DropEdit::keyPressEvent(QKeyEvent* event) {
   const bool down = event->key() == Qt::Key_Down, up = event->key() == Qt::Key_Up;
-  if (event->key() == Qt::Key_F4 || ((down || up) && event->modifiers() & Qt::AltModifier))
-    emit dropWanted();
-  else if (down || up)
-    emit stepped(down ? 1 : -1);
-  else if (isReadOnly() && event->key() == Qt::Key_Space)
-    emit dropWanted();
-  else if (isReadOnly() && !event->text().isEmpty() && event->text().at(0).isPrint())
-    emit searched(event->text());
-  else
-    QLineEdit::keyPressEvent(event);
+  if (event->key() == Qt::Key_F4 || ((down || up) && event->modifiers() & Qt::AltModifier)) emit dropWanted();
+  else if (down || up) emit stepped(down ? 1 : -1);
+  else if (isReadOnly() && event->key() == Qt::Key_Space) emit dropWanted();
+  else if (isReadOnly() && !event->text().isEmpty() && event->text().at(0).isPrint()) emit searched(event->text());
+  else QLineEdit::keyPressEvent(event);
 }
 
 void DropEdit::mousePressEvent(QMouseEvent* event) {

@@ -1,5 +1,5 @@
-// A line edit with something that drops down: a list of choices or a calendar. Opens with its button, a double click, F4
-// or Alt+Down.
+// A line edit with something that drops down: a list of choices or a calendar. Opens with its button, a double click,
+// F4 or Alt+Down.
 #pragma once
 
 #include <QLineEdit>

@@ -130,21 +130,23 @@ void narrowWhileTyping(DropEdit& edit, kit::Field& field, Renderer& renderer) {
   completer->setWidget(&edit);
   QObject::connect(completer, qOverload<const QString&>(&QCompleter::activated), &renderer,
                    [&field, &renderer](const QString& choice) { take(field, renderer, choice); });
-  QObject::connect(&edit, &QLineEdit::textEdited, &renderer, [&field, &renderer, &edit, model, completer](const QString& typed) {
-    completer->popup()->hide();
-    if (typed.trimmed().isEmpty() || !renderer.reachable(field)) return;
-    if (field.choices().empty() || typed.size() == 1) field.drop();  // a new word: others may have written meanwhile
-    if (!renderer.reachable(field)) return;
-    QStringList meant;
-    const std::string text = fromQt(typed);
-    for (const std::string& choice : field.choices()) {
-      if (meant.size() == mostOffered) break;
-      if (base::meantBy(choice, text)) meant << toQt(choice);
-    }
-    if (meant.isEmpty() || (meant.size() == 1 && meant.front() == typed)) return;
-    model->setStringList(meant);
-    completer->complete();
-  });
+  QObject::connect(&edit, &QLineEdit::textEdited, &renderer,
+                   [&field, &renderer, &edit, model, completer](const QString& typed) {
+                     completer->popup()->hide();
+                     if (typed.trimmed().isEmpty() || !renderer.reachable(field)) return;
+                     if (field.choices().empty() || typed.size() == 1)
+                       field.drop();  // a new word: others may have written meanwhile
+                     if (!renderer.reachable(field)) return;
+                     QStringList meant;
+                     const std::string text = fromQt(typed);
+                     for (const std::string& choice : field.choices()) {
+                       if (meant.size() == mostOffered) break;
+                       if (base::meantBy(choice, text)) meant << toQt(choice);
+                     }
+                     if (meant.isEmpty() || (meant.size() == 1 && meant.front() == typed)) return;
+                     model->setStringList(meant);
+                     completer->complete();
+                   });
 }
 
 QWidget* dropField(kit::Field& field, Renderer& renderer) {
@@ -243,10 +245,8 @@ QWidget* shownField(kit::Field& field, Renderer& renderer) {
 
 QWidget* fieldWidget(kit::Field& field, Renderer& renderer) {
   switch (field.entry) {
-    case Entry::Memo:
-      return memoField(field, renderer);
-    case Entry::Shown:
-      return shownField(field, renderer);
+    case Entry::Memo: return memoField(field, renderer);
+    case Entry::Shown: return shownField(field, renderer);
     case Entry::Pick:
     case Entry::Choose:
     case Entry::Date: {
@@ -255,8 +255,7 @@ QWidget* fieldWidget(kit::Field& field, Renderer& renderer) {
       return edit;
     }
     case Entry::Text:
-    case Entry::Password:
-      break;
+    case Entry::Password: break;
   }
   QWidget* edit = lineField(field, renderer);
   edit->setMinimumWidth(charactersWide(edit->fontMetrics(), usualWidth));

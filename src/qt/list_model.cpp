@@ -47,13 +47,11 @@ std::string sortKey(std::string_view cell, kit::Format format) {
   };
   switch (format) {
     case kit::Format::Money:
-    case kit::Format::Padded:
-      return number(base::Money::leading(text).units());
+    case kit::Format::Padded: return number(base::Money::leading(text).units());
     case kit::Format::Date:
       if (const auto day = base::Date::parse(text)) return number(day->year * 10000 + day->month * 100 + day->day);
       return "";
-    default:
-      return base::readingKey(text);
+    default: return base::readingKey(text);
   }
 }
 
@@ -91,7 +89,8 @@ QString ListModel::text(const QModelIndexList& rows) const {
   QString all;
   for (const QModelIndex& index : rows) {
     QStringList cells;
-    for (int column = 0; column < columns_; ++column) cells << data(this->index(index.row(), column), Qt::DisplayRole).toString();
+    for (int column = 0; column < columns_; ++column)
+      cells << data(this->index(index.row(), column), Qt::DisplayRole).toString();
     all += cells.join('\t') + '\n';
   }
   return all;

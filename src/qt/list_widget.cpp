@@ -50,7 +50,8 @@ class ListLink : public QObject {
     const bool headings = object != &view_;
     if (event->type() == QEvent::Show && !headings) recallWidths();  // only now it stands in the window that names them
     if (event->type() == QEvent::MouseButtonRelease && headings)
-      QMetaObject::invokeMethod(this, [this] { rememberWidths(); }, Qt::QueuedConnection);
+      QMetaObject::invokeMethod(
+          this, [this] { rememberWidths(); }, Qt::QueuedConnection);
     return QObject::eventFilter(object, event);
   }
 
@@ -90,7 +91,8 @@ class ListLink : public QObject {
     const bool sortedByIt = model_.isSorted() && sortedColumn_ == column;
     if (!sortedByIt && list_.count() > ListModel::mostSorted)
       return QToolTip::showText(view_.mapToGlobal(QPoint(8, 8)),
-                                QString("记录超过 %1 行，请先用“打开”缩小范围再排序。").arg(ListModel::mostSorted), &view_);
+                                QString("记录超过 %1 行，请先用“打开”缩小范围再排序。").arg(ListModel::mostSorted),
+                                &view_);
     const QScopedValueRollback quiet(showing_, true);
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const bool sorts = !sortedByIt || sortOrder_ == Qt::AscendingOrder;
@@ -122,7 +124,8 @@ class ListLink : public QObject {
   }
   void recallWidths() {
     const QVariantList widths = listSettings().value(widthsKey()).toList();
-    for (int i = 0; i < widths.size() && i < view_.model()->columnCount(); ++i) view_.setColumnWidth(i, widths[i].toInt());
+    for (int i = 0; i < widths.size() && i < view_.model()->columnCount(); ++i)
+      view_.setColumnWidth(i, widths[i].toInt());
   }
   static QSettings& listSettings() {
     static QSettings settings(QSettings::IniFormat, QSettings::UserScope, "fee-office", "lists");
@@ -152,8 +155,7 @@ class ListLink : public QObject {
   void search(const QString& start, bool further) {
     const long long here = qMax(0, view_.currentIndex().row());
     const long long row = list_.count() > 0 ? model_.find(start, further ? here : here + 1) : -1;
-    if (row >= 0)
-      view_.setCurrentIndex(model_.index(static_cast<int>(row), qMax(0, view_.currentIndex().column())));
+    if (row >= 0) view_.setCurrentIndex(model_.index(static_cast<int>(row), qMax(0, view_.currentIndex().column())));
     else if (list_.count() > ListModel::farthest)
       QToolTip::showText(view_.mapToGlobal(QPoint(8, 8)),
                          QString("往下 %1 行内没有找到，请用“打开”按条件查询。").arg(ListModel::farthest), &view_);

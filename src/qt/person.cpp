@@ -19,16 +19,12 @@ constexpr int iconSide = 40, margin = 18, leastText = 220, mostText = 560;
 QPixmap pictureOf(kit::Box box, qreal ratio) {
   switch (box) {
     case kit::Box::Stop:
-    case kit::Box::AskStop:
-      return iconPixmap("circle-x", iconSide, ratio, theme::stop);
+    case kit::Box::AskStop: return iconPixmap("circle-x", iconSide, ratio, theme::stop);
     case kit::Box::Warning:
-    case kit::Box::AskWarning:
-      return iconPixmap("triangle-alert", iconSide, ratio, theme::warning);
-    case kit::Box::Ask:
-      return iconPixmap("circle-question-mark", iconSide, ratio);
+    case kit::Box::AskWarning: return iconPixmap("triangle-alert", iconSide, ratio, theme::warning);
+    case kit::Box::Ask: return iconPixmap("circle-question-mark", iconSide, ratio);
     case kit::Box::Information:
-    case kit::Box::AskInfo:
-      return iconPixmap("info", iconSide, ratio);
+    case kit::Box::AskInfo: return iconPixmap("info", iconSide, ratio);
   }
   return {};
 }

@@ -87,12 +87,9 @@ void QtProgress::hide() {
 }
 
 void QtProgress::waiting(bool on) {
-  if (on)
-    paint("数据库正被其他计算机使用，正在等待……", 0, 0);
-  else if (working_ && notice_)
-    paint(text_, done_, total_);
-  else
-    take();
+  if (on) paint("数据库正被其他计算机使用，正在等待……", 0, 0);
+  else if (working_ && notice_) paint(text_, done_, total_);
+  else take();
 }
 
 bool QtProgress::eventFilter(QObject*, QEvent* event) {
@@ -111,10 +108,8 @@ bool QtProgress::eventFilter(QObject*, QEvent* event) {
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
-    case QEvent::Close:
-      return true;
-    default:
-      return false;
+    case QEvent::Close: return true;
+    default: return false;
   }
 }
 

@@ -32,24 +32,15 @@ Renderer::~Renderer() {
 
 QWidget* Renderer::widget(kit::Member& member) {
   switch (member.kind) {
-    case MemberKind::Field:
-      return fieldWidget(static_cast<kit::Field&>(member), *this);
-    case MemberKind::Check:
-      return checkWidget(static_cast<kit::Check&>(member), *this);
-    case MemberKind::Choice:
-      return choiceWidget(static_cast<kit::Choice&>(member), *this);
-    case MemberKind::Action:
-      return button(static_cast<kit::Action&>(member), *this);
-    case MemberKind::List:
-      return listWidget(static_cast<kit::List&>(member), *this);
-    case MemberKind::Tree:
-      return treeWidget(static_cast<kit::Tree&>(member), *this);
-    case MemberKind::Picture:
-      return pictureWidget(static_cast<kit::Picture&>(member), *this);
-    case MemberKind::Frame:
-      return frameWidget(static_cast<kit::Frame&>(member), *this);
-    case MemberKind::Timer:
-      break;
+    case MemberKind::Field: return fieldWidget(static_cast<kit::Field&>(member), *this);
+    case MemberKind::Check: return checkWidget(static_cast<kit::Check&>(member), *this);
+    case MemberKind::Choice: return choiceWidget(static_cast<kit::Choice&>(member), *this);
+    case MemberKind::Action: return button(static_cast<kit::Action&>(member), *this);
+    case MemberKind::List: return listWidget(static_cast<kit::List&>(member), *this);
+    case MemberKind::Tree: return treeWidget(static_cast<kit::Tree&>(member), *this);
+    case MemberKind::Picture: return pictureWidget(static_cast<kit::Picture&>(member), *this);
+    case MemberKind::Frame: return frameWidget(static_cast<kit::Frame&>(member), *this);
+    case MemberKind::Timer: break;
   }
   return new QWidget(&nursery_);
 }
@@ -113,10 +104,8 @@ QAction* Renderer::action(kit::Action& action) {
 
 void Renderer::fillMenu(QMenu& menu, const std::vector<kit::Action*>& entries) {
   for (kit::Action* entry : entries) {
-    if (entry)
-      menu.addAction(action(*entry));
-    else
-      menu.addSeparator();
+    if (entry) menu.addAction(action(*entry));
+    else menu.addSeparator();
   }
 }
 
@@ -236,8 +225,7 @@ bool Renderer::keyPressed(kit::Member& member, QObject* object, int key, Qt::Key
     case MemberKind::Choice:
       if (!repeated) moveOn(member);
       return true;
-    default:
-      return false;
+    default: return false;
   }
 }
 
@@ -246,9 +234,7 @@ bool Renderer::eventFilter(QObject* object, QEvent* event) {
   if (found == owners_.end()) return false;
   kit::Member& member = *found->second;
   switch (event->type()) {
-    case QEvent::FocusIn:
-      came(member);
-      break;
+    case QEvent::FocusIn: came(member); break;
     case QEvent::FocusOut: {
       const auto reason = static_cast<QFocusEvent*>(event)->reason();
       // While a message or a menu stands, the person is still here.
@@ -265,14 +251,11 @@ bool Renderer::eventFilter(QObject* object, QEvent* event) {
       if (member.kind != MemberKind::Field || static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) break;
       auto& field = static_cast<kit::Field&>(member);
       if (!reachable(field)) break;
-      if (event->type() == QEvent::MouseButtonDblClick)
-        field.doubleClick();
-      else
-        field.click();
+      if (event->type() == QEvent::MouseButtonDblClick) field.doubleClick();
+      else field.click();
       break;
     }
-    default:
-      break;
+    default: break;
   }
   return false;
 }

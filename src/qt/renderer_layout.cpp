@@ -37,8 +37,7 @@ bool isMember(const Node& node, MemberKind kind) {
   return node.kind == Node::Kind::Member && node.member->kind == kind;
 }
 
-template <class Test>
-bool anyOf(const Node& node, Test test) {
+template <class Test> bool anyOf(const Node& node, Test test) {
   return test(node) ||
          std::any_of(node.children.begin(), node.children.end(), [&](const Node& child) { return anyOf(child, test); });
 }
@@ -61,8 +60,7 @@ bool growsAside(const Node& node) {
   });
 }
 
-template <class Box>
-Box* inside(QWidget* widget) {
+template <class Box> Box* inside(QWidget* widget) {
   auto box = std::make_unique<Box>(widget);
   box->setContentsMargins(0, 0, 0, 0);
   box->setSpacing(spacing);
@@ -73,24 +71,15 @@ Box* inside(QWidget* widget) {
 
 QWidget* Renderer::build(const Node& node) {
   switch (node.kind) {
-    case Node::Kind::Member:
-      return member(node);
-    case Node::Kind::Row:
-      return row(node);
-    case Node::Kind::Column:
-      return column(node);
-    case Node::Kind::Form:
-      return form(node);
-    case Node::Kind::Group:
-      return group(node);
-    case Node::Kind::Tabs:
-      return tabs(node);
-    case Node::Kind::Lines:
-      return lines(node);
-    case Node::Kind::Buttons:
-      return buttons(node);
-    case Node::Kind::Custom:
-      return custom(node);
+    case Node::Kind::Member: return member(node);
+    case Node::Kind::Row: return row(node);
+    case Node::Kind::Column: return column(node);
+    case Node::Kind::Form: return form(node);
+    case Node::Kind::Group: return group(node);
+    case Node::Kind::Tabs: return tabs(node);
+    case Node::Kind::Lines: return lines(node);
+    case Node::Kind::Buttons: return buttons(node);
+    case Node::Kind::Custom: return custom(node);
     case Node::Kind::Heading:
     case Node::Kind::Note: {
       auto* label = new QLabel(toQt(node.text), &nursery_);
@@ -99,8 +88,7 @@ QWidget* Renderer::build(const Node& node) {
       if (node.kind == Node::Kind::Note) label->setMinimumWidth(charactersWide(label->fontMetrics(), 10));
       return label;
     }
-    case Node::Kind::Stretch:
-      return new QWidget(&nursery_);
+    case Node::Kind::Stretch: return new QWidget(&nursery_);
   }
   return nullptr;
 }
@@ -189,14 +177,12 @@ QWidget* Renderer::row(const Node& node) {
     // Where nothing has a use for the room, the parts share it; single members leave it empty.
     const bool part = !grows && (child.kind == Node::Kind::Column || child.kind == Node::Kind::Group);
     shared = shared || part;
-    if (child.kind == Node::Kind::Stretch)
-      box->addStretch(1);
+    if (child.kind == Node::Kind::Stretch) box->addStretch(1);
     else if (child.kind == Node::Kind::Member) {
       inRow_ = true;
       box->addWidget(build(child), growsAside(child) ? 1 : 0);
       inRow_ = false;
-    } else
-      box->addWidget(build(child), part || (growsAside(child) && !stretches) ? 1 : 0);
+    } else box->addWidget(build(child), part || (growsAside(child) && !stretches) ? 1 : 0);
   }
   if (!shared) box->addStretch(1);
   return holder;

@@ -113,15 +113,9 @@ QFont faceFont(platform::Face face, double points) {
   // The small faces lack characters that names have; the later families hold them.
   QStringList families;
   switch (face) {
-    case platform::Face::Song:
-      families = {"Noto Serif CJK SC", "AR PL UMing CN"};
-      break;
-    case platform::Face::Kai:
-      families = {"AR PL UKai CN", "TW-Kai", "TW-Kai-Ext-B", "Noto Serif CJK SC"};
-      break;
-    case platform::Face::Hei:
-      families = {"Noto Sans CJK SC"};
-      break;
+    case platform::Face::Song: families = {"Noto Serif CJK SC", "AR PL UMing CN"}; break;
+    case platform::Face::Kai: families = {"AR PL UKai CN", "TW-Kai", "TW-Kai-Ext-B", "Noto Serif CJK SC"}; break;
+    case platform::Face::Hei: families = {"Noto Sans CJK SC"}; break;
   }
   families << "Noto Sans CJK SC"
            << "TW-Kai-Ext-B";

@@ -47,12 +47,9 @@ std::vector<Place> placesOf(const std::vector<Column>& columns) {
 std::string shown(const store::Value& value, Shows shows) {
   switch (shows) {
     case Shows::Text:
-    case Shows::Number:
-      break;
-    case Shows::Date:
-      return kit::formatted(value, kit::Format::Date);
-    case Shows::Money:
-      return kit::formatted(value, kit::Format::Money);
+    case Shows::Number: break;
+    case Shows::Date: return kit::formatted(value, kit::Format::Date);
+    case Shows::Money: return kit::formatted(value, kit::Format::Money);
   }
   return value.trimmed();
 }

@@ -36,8 +36,7 @@ void Formzctxsdy::printChosen() {
   };
   if (what.chosen() == 0)
     printList(desk, fill, "bbdy_xs", {"要打印学籍资料吗？请确认打印机连接正常、打印纸准备就绪！ "});
-  else
-    printList(desk, fill, "bbdy_xs1", {"要打印学生信息空表吗？请确认打印机连接正常、打印纸准备就绪！ "});
+  else printList(desk, fill, "bbdy_xs1", {"要打印学生信息空表吗？请确认打印机连接正常、打印纸准备就绪！ "});
 }
 
 Formzctjfjldy::Formzctjfjldy(kit::Desk& all)
@@ -76,16 +75,14 @@ void Formzctqfjldy::printChosen() {
   else if (desk.session.arrears_list_mode == 3)
     printList(desk, [this] { return rows("select * from qfjl_je").count(); }, "bbdy_qf4",
               {"要打印应收与实收金额对比查询结果吗？请确认打印机连接正常、打印纸准备就绪！ ", none});
-  else
-    printArrears();
+  else printArrears();
 }
 
 void Formzctqfjldy::printArrears() {
   const auto fill = [this] { return copyArrears(); };
   if (what.chosen() == 0)
     printList(desk, fill, "bbdy_qf1", {"要打印欠费应交学生名单吗？请确认打印机连接正常、打印纸准备就绪！ "});
-  else
-    printList(desk, fill, "bbdy_qf2", {"要打印欠费清交进度表吗？请确认打印机连接正常、打印纸准备就绪！ "});
+  else printList(desk, fill, "bbdy_qf2", {"要打印欠费清交进度表吗？请确认打印机连接正常、打印纸准备就绪！ "});
 }
 
 long long Formzctqfjldy::copyArrears() {

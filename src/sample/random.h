@@ -20,8 +20,7 @@ class Random {
   int between(int from, int to) { return from + below(to - from + 1); }
   bool percent(int chance) { return below(100) < chance; }
   double share() { return static_cast<double>(bits() >> 11) * 0x1.0p-53; }  // from 0 to just under 1
-  template <class T, std::size_t N>
-  const T& pick(const std::array<T, N>& from) {
+  template <class T, std::size_t N> const T& pick(const std::array<T, N>& from) {
     return from[static_cast<std::size_t>(below(N))];
   }
 

@@ -271,14 +271,10 @@ class Writer {
 
   static const char* wordOf(Arrears::State state) {
     switch (state) {
-      case Arrears::State::Short:
-        return "不足";
-      case Arrears::State::Settled:
-        return "结清";
-      case Arrears::State::Waived:
-        return "减免";
-      default:
-        return "";
+      case Arrears::State::Short: return "不足";
+      case Arrears::State::Settled: return "结清";
+      case Arrears::State::Waived: return "减免";
+      default: return "";
     }
   }
 

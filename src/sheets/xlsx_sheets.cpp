@@ -37,10 +37,8 @@ std::size_t widthOf(std::string_view text) {
   std::size_t width = 0;
   for (const char one : text) {
     const auto byte = static_cast<unsigned char>(one);
-    if (byte < 0x80)
-      width += 1;
-    else if (byte >= 0xC0)
-      width += 2;
+    if (byte < 0x80) width += 1;
+    else if (byte >= 0xC0) width += 2;
   }
   return width;
 }

@@ -62,10 +62,16 @@ void Formzct::load() {
 
 void Formzct::wireMenu() {
   const auto opens = [this](kit::Action& entry, auto open) { entry.onPress(open); };
-  opens(cd11, [this] { desk.session.EditMode = reports::openStatement; open<reports::Formkh1>(); });
+  opens(cd11, [this] {
+    desk.session.EditMode = reports::openStatement;
+    open<reports::Formkh1>();
+  });
   opens(cd13, [this] { leaveProgram(); });
   opens(cd14, [this] { open<students::Formtb>(); });
-  opens(cd21, [this] { open<feesetup::Formsz>(); classes.fillTree(); });
+  opens(cd21, [this] {
+    open<feesetup::Formsz>();
+    classes.fillTree();
+  });
   opens(cd22, [this] { openOverview(students_overview); });
   opens(cd23, [this] { openOverview(payments_overview); });
   opens(cd24, [this] { openOverview(arrears_overview); });
@@ -160,10 +166,11 @@ bool Formzct::mayClose() {
 }
 
 bool Formzct::sayGoodbye() {
-  if (!ask("您确认是要退出本系统吗？   \n选择“是”将关闭本窗口\n或者选择“否”撤消此操作！                     ", "确认退出"))
+  if (!ask("您确认是要退出本系统吗？   \n选择“是”将关闭本窗口\n或者选择“否”撤消此操作！                     ",
+           "确认退出"))
     return false;
-  RecordSet session = rows(Sql("select * from czjl where kjsj='") + base::trim(desk.session.SessionStart) + "' and jsjmc='" +
-                           base::trim(desk.session.ComputerName) + "'");
+  RecordSet session = rows(Sql("select * from czjl where kjsj='") + base::trim(desk.session.SessionStart) +
+                           "' and jsjmc='" + base::trim(desk.session.ComputerName) + "'");
   if (!session.empty()) {
     session.set("gjsj", desk.clock.now().plain());
     session.update();
@@ -175,7 +182,8 @@ bool Formzct::sayGoodbye() {
     int wide, high;
   };
   constexpr Mode modes[] = {{800, 600}, {960, 600}, {1152, 864}, {1280, 800}};
-  // Any other width, the wide screens of today among them, asks for 1024 by 768: the mode the office's old screens kept.
+  // Any other width, the wide screens of today among them, asks for 1024 by 768: the mode the office's old screens
+  // kept.
   Mode mode{1024, 768};
   for (const Mode& known : modes)
     if (known.wide == width) mode = known;

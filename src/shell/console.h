@@ -29,10 +29,11 @@ class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
   kit::Field ready{*this, "ready", "", kit::Entry::Shown}, user{*this, "user", "", kit::Entry::Shown},
       third{*this, "third", "", kit::Entry::Shown};
 
-  kit::Timer timer1{*this, "timer1", std::chrono::milliseconds(200)};    // opens an overview, once its notice is painted
+  kit::Timer timer1{*this, "timer1", std::chrono::milliseconds(200)};  // opens an overview, once its notice is painted
   kit::Timer timer2{*this, "timer2", std::chrono::milliseconds(30000)};  // refreshes the sharing status
-  kit::Timer timer3{*this, "timer3", std::chrono::milliseconds(100)};    // adds up the panel in front, once its notice is painted
-  kit::Timer timer4{*this, "timer4", std::chrono::milliseconds(100)};    // refills an overview after its query
+  kit::Timer timer3{*this, "timer3",
+                    std::chrono::milliseconds(100)};  // adds up the panel in front, once its notice is painted
+  kit::Timer timer4{*this, "timer4", std::chrono::milliseconds(100)};  // refills an overview after its query
 
  private:
   // console.cpp: wiring, load, exit.

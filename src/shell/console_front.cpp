@@ -22,26 +22,16 @@ struct CardLine {
 };
 
 constexpr CardLine cardLines[] = {
-    {Beside, "xb", "性别", &StudentCard::xb},
-    {Beside, "csrq", "出生日期", &StudentCard::csrq},
-    {Beside, "zzmm", "政治面貌", &StudentCard::zzmm},
-    {Beside, "status", "在校状态", &StudentCard::status},
-    {Whole, "sfzhm", "身份证号", &StudentCard::sfzhm},
-    {Whole, "bjmc", "院校班级", &StudentCard::bjmc},
-    {Whole, "zymc", "所学专业", &StudentCard::zymc},
-    {Half, "rxrq", "入学日期", &StudentCard::rxrq},
-    {Half, "rxxs", "入学形式", &StudentCard::rxxs},
-    {Half, "lxdh", "联系电话", &StudentCard::lxdh},
-    {Half, "sjhm", "手机号码", &StudentCard::sjhm},
-    {Whole, "jtzz", "家庭住址", &StudentCard::jtzz},
-    {Whole, "byxx", "原毕业校", &StudentCard::byxx},
-    {Whole, "yhkh", "信用卡号", &StudentCard::yhkh},
-    {Half, "sfbz", "收费标准", &StudentCard::sfbz},
-    {Half, "yzbm", "邮政编码", &StudentCard::yzbm},
-    {Half, "loumc", "楼名称", &StudentCard::loumc},
-    {Half, "ssbh", "宿舍编号", &StudentCard::ssbh},
-    {Half, "cwh", "床位号", &StudentCard::cwh},
-    {Half, "rq", "入住日期", &StudentCard::rq},
+    {Beside, "xb", "性别", &StudentCard::xb},          {Beside, "csrq", "出生日期", &StudentCard::csrq},
+    {Beside, "zzmm", "政治面貌", &StudentCard::zzmm},  {Beside, "status", "在校状态", &StudentCard::status},
+    {Whole, "sfzhm", "身份证号", &StudentCard::sfzhm}, {Whole, "bjmc", "院校班级", &StudentCard::bjmc},
+    {Whole, "zymc", "所学专业", &StudentCard::zymc},   {Half, "rxrq", "入学日期", &StudentCard::rxrq},
+    {Half, "rxxs", "入学形式", &StudentCard::rxxs},    {Half, "lxdh", "联系电话", &StudentCard::lxdh},
+    {Half, "sjhm", "手机号码", &StudentCard::sjhm},    {Whole, "jtzz", "家庭住址", &StudentCard::jtzz},
+    {Whole, "byxx", "原毕业校", &StudentCard::byxx},   {Whole, "yhkh", "信用卡号", &StudentCard::yhkh},
+    {Half, "sfbz", "收费标准", &StudentCard::sfbz},    {Half, "yzbm", "邮政编码", &StudentCard::yzbm},
+    {Half, "loumc", "楼名称", &StudentCard::loumc},    {Half, "ssbh", "宿舍编号", &StudentCard::ssbh},
+    {Half, "cwh", "床位号", &StudentCard::cwh},        {Half, "rq", "入住日期", &StudentCard::rq},
 };
 
 // Narrow enough that what is owed stands in sight on the smallest desktop.
@@ -132,7 +122,8 @@ ArrearsFrame::ArrearsFrame(kit::Screen& screen, kit::Desk& desk)
 
 void ArrearsFrame::show(const std::string& xh) {
   clear();
-  RecordSet owed(desk_.store, Sql("select * from qfjl where xh='") + xh + "' and bjje-sbjje>0 and clfs<>'减免' order by bjrq");
+  RecordSet owed(desk_.store,
+                 Sql("select * from qfjl where xh='") + xh + "' and bjje-sbjje>0 and clfs<>'减免' order by bjrq");
   store::forEach(owed, [&](RecordSet& row) { addRow(row, balanceOf(row)); });
 }
 
@@ -152,8 +143,9 @@ void ArrearsFrame::showDue() {
     addRow(open, balance);
     total += balance;
   }
-  bar.set(list.count() == 0 ? "没有到期的欠费记录！"
-                            : "欠费到期应交记录数：" + base::caption(list.count()) + " 条，总额为：" + total.fixed2() + "元 ！");
+  bar.set(list.count() == 0
+              ? "没有到期的欠费记录！"
+              : "欠费到期应交记录数：" + base::caption(list.count()) + " 条，总额为：" + total.fixed2() + "元 ！");
 }
 
 void ArrearsFrame::addRow(RecordSet& row, base::Money balance) {
@@ -199,9 +191,11 @@ void ClassPanel::fillTree() {
   int number = 0;
   store::forEach(majors, [&](RecordSet& major) {
     kit::TreeNode node{"k" + std::to_string(++number), major.get("zymc").trimmed(), {}};
-    RecordSet classes(desk_.store, Sql("select * from bjzl where zybh='") + major.get("zybh").trimmed() + "' order by bjdh");
+    RecordSet classes(desk_.store,
+                      Sql("select * from bjzl where zybh='") + major.get("zybh").trimmed() + "' order by bjdh");
     store::forEach(classes, [&](RecordSet& one) {
-      node.children.push_back({node.key + "." + std::to_string(node.children.size() + 1), one.get("bjmc").trimmed(), {}});
+      node.children.push_back(
+          {node.key + "." + std::to_string(node.children.size() + 1), one.get("bjmc").trimmed(), {}});
     });
     nodes.push_back(std::move(node));
   });

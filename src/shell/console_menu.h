@@ -13,7 +13,8 @@ struct ConsoleMenu {
 
  public:
   // 文件(&F)
-  kit::Action cd11{s, "cd11", "学校经营情况统计分析"}, cd121{s, "cd121", "打印毕业生就业推荐书"}, cd13{s, "cd13", "关闭"};
+  kit::Action cd11{s, "cd11", "学校经营情况统计分析"}, cd121{s, "cd121", "打印毕业生就业推荐书"},
+      cd13{s, "cd13", "关闭"};
   // 编辑(&E)
   kit::Action cd21{s, "cd21", "系统初始设置"}, cd22{s, "cd22", "学生学籍资料编辑"}, cd23{s, "cd23", "学生交费记录编辑"},
       cd24{s, "cd24", "学生欠费应交信息编辑"};
@@ -57,7 +58,9 @@ struct ConsoleMenu {
             {"帮助(&H)", {&cd41, &cd42, &cd44, &cd43}}};
   }
   std::vector<kit::Action*> toolbar() { return {&k1, &k2, &k3, &k4, &k5, &k20, &k11, &k7, &k8, &k9, &k6, &k10}; }
-  std::vector<kit::Action*> paymentsPopUp() { return {&cd50, &cd59, &cd54, &cd510, &cd55, nullptr, &cd571, &cd572, nullptr, &cd56}; }
+  std::vector<kit::Action*> paymentsPopUp() {
+    return {&cd50, &cd59, &cd54, &cd510, &cd55, nullptr, &cd571, &cd572, nullptr, &cd56};
+  }
   std::vector<kit::Action*> arrearsPopUp() { return {&cd66, &cd63, &cd64, nullptr, &cd61, &cd62}; }
   std::vector<kit::Action*> arrearsOverviewPopUp() { return {&cd91, &cd92}; }
 };

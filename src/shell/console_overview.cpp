@@ -13,7 +13,10 @@ using store::RecordSet;
 using store::Sql;
 
 const OverviewPlan studentsPlan{
-    kit::Panel::Students, "students", "学生学籍资料信息", "正在加载学生学籍资料信息 ...",
+    kit::Panel::Students,
+    "students",
+    "学生学籍资料信息",
+    "正在加载学生学籍资料信息 ...",
     {{"     学号", "xh", Format::Text, 10},
      {"   姓名", "xm", Format::Text, 5},
      {"姓别", "xb", Format::Text, 3},  // the heading by which the office's printed lists know the column
@@ -35,7 +38,8 @@ const OverviewPlan studentsPlan{
      {"students_delete", "删除", "trash-2", {StudentDelete}},
      {"students_view", "浏览", "eye", {StudentQuery}},
      {"students_back", "返回", "undo-2", {}}},
-    {"正在统计学生信息,请稍等 ...", [](store::Store& store, base::Date) { return studentStatistics(store); },
+    {"正在统计学生信息,请稍等 ...",
+     [](store::Store& store, base::Date) { return studentStatistics(store); },
      "双击查看班级明细记录",
      {{"班级名称", "", Format::Text, 14},
       {"在校总人数", "", Format::Text, 6},
@@ -48,34 +52,37 @@ const OverviewPlan studentsPlan{
       {"女生人数", "", Format::Text, 6}}},
     {}};
 
-const OverviewPlan paymentsPlan{
-    kit::Panel::Payments, "payments_overview", "交费记录后台信息", "正在加载学生交费记录相关信息 ...",
-    {{" 记录标识号", "lsh", Format::Text, 9},
-     {"    姓名", "xm", Format::Text, 5},
-     {"       院校及班级名称", "bjmc", Format::Text, 12},
-     {"  交费所属学期", "xq", Format::Text, 9},
-     {" 交费日期", "jfrq", Format::Date, 7},
-     {"  交费方式", "jffs", Format::Text, 6},
-     {" 收据编号", "fpbh", Format::Text, 7},
-     {" 收费项目名称", "sfxm", Format::Text, 8},
-     {"    金额", "je", Format::Padded, 7},
-     {"提交", "sftj", Format::Text, 3},
-     {"收款人", "skr", Format::Text, 5}},
-    {{"payments_open", "打开", "folder-open", {PaymentModify, PaymentDelete, PaymentQuery}},
-     {"payments_modify", "修改", "pencil", {PaymentModify}},
-     {"payments_delete", "删除", "trash-2", {PaymentDelete}},
-     {"payments_back", "返回", "undo-2", {}}},
-    {"正在统计相关交费记录,请稍等 ...", [](store::Store& store, base::Date) { return paymentStatistics(store); },
-     "双击显示未提交收费项目信息",
-     {{"收费项目名称", "", Format::Text, 8},
-      {"该项目累计金额", "", Format::Padded, 7},
-      {"已提交金额", "", Format::Padded, 7},
-      {"未提交金额", "", Format::Padded, 7}},
-     "双击显示该收款人未提交款项明细",
-     {{"未提交款项经办人", "", Format::Text, 8},
-      {"未提交金额", "", Format::Padded, 7},
-      {"未提交款项所属日期", "", Format::Text, 16}}},
-    {}};
+const OverviewPlan paymentsPlan{kit::Panel::Payments,
+                                "payments_overview",
+                                "交费记录后台信息",
+                                "正在加载学生交费记录相关信息 ...",
+                                {{" 记录标识号", "lsh", Format::Text, 9},
+                                 {"    姓名", "xm", Format::Text, 5},
+                                 {"       院校及班级名称", "bjmc", Format::Text, 12},
+                                 {"  交费所属学期", "xq", Format::Text, 9},
+                                 {" 交费日期", "jfrq", Format::Date, 7},
+                                 {"  交费方式", "jffs", Format::Text, 6},
+                                 {" 收据编号", "fpbh", Format::Text, 7},
+                                 {" 收费项目名称", "sfxm", Format::Text, 8},
+                                 {"    金额", "je", Format::Padded, 7},
+                                 {"提交", "sftj", Format::Text, 3},
+                                 {"收款人", "skr", Format::Text, 5}},
+                                {{"payments_open", "打开", "folder-open", {PaymentModify, PaymentDelete, PaymentQuery}},
+                                 {"payments_modify", "修改", "pencil", {PaymentModify}},
+                                 {"payments_delete", "删除", "trash-2", {PaymentDelete}},
+                                 {"payments_back", "返回", "undo-2", {}}},
+                                {"正在统计相关交费记录,请稍等 ...",
+                                 [](store::Store& store, base::Date) { return paymentStatistics(store); },
+                                 "双击显示未提交收费项目信息",
+                                 {{"收费项目名称", "", Format::Text, 8},
+                                  {"该项目累计金额", "", Format::Padded, 7},
+                                  {"已提交金额", "", Format::Padded, 7},
+                                  {"未提交金额", "", Format::Padded, 7}},
+                                 "双击显示该收款人未提交款项明细",
+                                 {{"未提交款项经办人", "", Format::Text, 8},
+                                  {"未提交金额", "", Format::Padded, 7},
+                                  {"未提交款项所属日期", "", Format::Text, 16}}},
+                                {}};
 
 // The lists that a query of who has not paid, or paid less, leaves in the arrears' place.
 const std::vector<kit::ListColumn> whoOwesColumns{{"     学号", "xh", Format::Text, 10},
@@ -83,13 +90,17 @@ const std::vector<kit::ListColumn> whoOwesColumns{{"     学号", "xh", Format::
                                                   {"       院校及班级名称", "bjmc", Format::Text, 12},
                                                   {" 应交费所属学期或日期区间", "xqrq", Format::Text, 13},
                                                   {" 应交费项目名称", "sfxm", Format::Text, 8}};
-const std::vector<kit::ListColumn> unpaidEnd{{"  联系电话", "lxdh", Format::Text, 8}, {"  手机号码", "sjhm", Format::Text, 8}};
+const std::vector<kit::ListColumn> unpaidEnd{{"  联系电话", "lxdh", Format::Text, 8},
+                                             {"  手机号码", "sjhm", Format::Text, 8}};
 const std::vector<kit::ListColumn> lessPaidEnd{{"   应交金额", "yjje", Format::Padded, 7},
                                                {"   实交金额", "sjje", Format::Padded, 7},
                                                {" 应交与实交差额", "ce", Format::Padded, 8}};
 
 const OverviewPlan arrearsPlan{
-    kit::Panel::Arrears, "arrears_overview", "学生欠费应交信息", "正在加载学生欠费信息 ...",
+    kit::Panel::Arrears,
+    "arrears_overview",
+    "学生欠费应交信息",
+    "正在加载学生欠费信息 ...",
     {{" 记录标识号", "lsh", Format::Text, 9},
      {"  姓名", "xm", Format::Text, 5},
      {"    所在院校及班级名称", "bjmc", Format::Text, 12},
@@ -107,7 +118,8 @@ const OverviewPlan arrearsPlan{
      {"arrears_delete", "删除", "trash-2", {ArrearsDelete}},
      {"arrears_import", "导入", "download", {ArrearsImport}},
      {"arrears_close", "返回", "undo-2", {}}},
-    {"正在统计相关欠费记录,请稍等 ...", &arrearsStatistics,
+    {"正在统计相关欠费记录,请稍等 ...",
+     &arrearsStatistics,
      "双击显示明细记录",
      {{"班级名称", "", Format::Text, 12}, {"欠费人数", "", Format::Text, 5}, {"欠费余额", "", Format::Padded, 7}},
      "双击显示明细记录",
@@ -154,7 +166,8 @@ Overview::Overview(kit::Screen& screen, const OverviewPlan& what)
       statistics(screen, what.name, what.statistics),
       zoom(screen, std::string(what.name) + "_zoom", "统计", "chart-column") {
   for (const Figure& figure : plan.figures) figures.emplace_back(screen, figure.name, figure.label, kit::Entry::Shown);
-  for (const OverviewButton& button : plan.buttons) buttons.emplace_back(screen, button.name, button.caption, button.icon);
+  for (const OverviewButton& button : plan.buttons)
+    buttons.emplace_back(screen, button.name, button.caption, button.icon);
   frame.show(false);
 }
 

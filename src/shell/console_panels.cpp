@@ -30,9 +30,9 @@ void Formzct::wireOverviews() {
     std::string* selection;
   };
   auto& session = desk.session;
-  for (const Place& place : {Place{&students_overview, &session.student_selection},
-                             Place{&payments_overview, &session.payment_selection},
-                             Place{&arrears_overview, &session.arrears_selection}}) {
+  for (const Place& place :
+       {Place{&students_overview, &session.student_selection}, Place{&payments_overview, &session.payment_selection},
+        Place{&arrears_overview, &session.arrears_selection}}) {
     Overview& overview = *place.overview;
     overview.list.onSelect([&overview, selection = place.selection] { *selection = overview.list.key(); });
     overview.button("返回").onPress([this] { closeOverviews(); });
@@ -51,8 +51,7 @@ void Formzct::wireOverviews() {
   students_overview.button("修改").onPress([this] { editStudent(kit::Mode::Modify); });
   students_overview.button("删除").onPress([this] { editStudent(kit::Mode::Delete); });
   students_overview.button("浏览").onPress([this] {
-    if (desk.session.student_selection.empty())
-      return inform("前台无记录或您没有选中要浏览的学生！     ", "信息提示");
+    if (desk.session.student_selection.empty()) return inform("前台无记录或您没有选中要浏览的学生！     ", "信息提示");
     open<students::Formzctxsll>();
   });
   payments_overview.list.setTip("双击选定记录修改");
@@ -141,9 +140,9 @@ void Formzct::refillAfterQuery() {
     bool& reload;
     Overview& overview;
   };
-  for (const Wanted& wanted : {Wanted{session.reload_student_list, students_overview},
-                               Wanted{session.reload_payment_list, payments_overview},
-                               Wanted{session.reload_arrears_list, arrears_overview}}) {
+  for (const Wanted& wanted :
+       {Wanted{session.reload_student_list, students_overview}, Wanted{session.reload_payment_list, payments_overview},
+        Wanted{session.reload_arrears_list, arrears_overview}}) {
     if (!wanted.reload || session.ConsolePanel != wanted.overview.plan.panel) continue;
     wanted.reload = false;
     fill(wanted.overview);

@@ -60,8 +60,9 @@ void Formzct::showStudentsOfClass() {
   desk.session.student_where = Sql(" where bjmc='") + name + "' order by xh";
   const Filled filled = fill(students_overview);
   desk.progress.hide();
-  students_overview.bar.set("在校生人数：" + base::caption(filled.count) + " 人，其中男生：" + base::caption(filled.men) +
-                            " 人，女生：" + base::caption(filled.count - filled.men) + " 人！");
+  students_overview.bar.set("在校生人数：" + base::caption(filled.count) + " 人，其中男生：" +
+                            base::caption(filled.men) + " 人，女生：" + base::caption(filled.count - filled.men) +
+                            " 人！");
 }
 
 void Formzct::showUnsubmittedOf(const Sql& where, const std::string& what) {
@@ -88,10 +89,10 @@ void Formzct::showMonthOfClass() {
   desk.session.arrears_where =
       Sql(" where bjmc='") + name + "' and month(bjrq)='" + std::to_string(desk.clock.today().month) + "'";
   const Filled filled = fill(arrears_overview);
-  arrears_overview.bar.set("本月欠费记录个数：" + base::caption(filled.count) + " 条，欠费总额：" + filled.due.fixed2() +
-                           " 元；已收回欠费：" + (filled.paid - filled.waived).fixed2() + " 元；减免欠费：" +
-                           filled.waived.fixed2() + " 元；还有 " + (filled.due - filled.paid).fixed2() +
-                           " 元欠费需要催收！");
+  arrears_overview.bar.set("本月欠费记录个数：" + base::caption(filled.count) + " 条，欠费总额：" +
+                           filled.due.fixed2() + " 元；已收回欠费：" + (filled.paid - filled.waived).fixed2() +
+                           " 元；减免欠费：" + filled.waived.fixed2() + " 元；还有 " +
+                           (filled.due - filled.paid).fixed2() + " 元欠费需要催收！");
 }
 
 }  // namespace shell

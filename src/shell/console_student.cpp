@@ -25,8 +25,14 @@ void Formzct::wireFront() {
   payments.list.menu = paymentsPopUp();
   arrears.list.menu = arrearsPopUp();
   cd59.onPress([this] { refreshCard(); });
-  cd54.onPress([this] { desk.session.payment_list_mode = 3; showPayments(); });
-  cd55.onPress([this] { desk.session.payment_list_mode = 4; payments.showNew(desk.session.current_xh); });
+  cd54.onPress([this] {
+    desk.session.payment_list_mode = 3;
+    showPayments();
+  });
+  cd55.onPress([this] {
+    desk.session.payment_list_mode = 4;
+    payments.showNew(desk.session.current_xh);
+  });
   cd56.onPress([this] { reprint(); });
   cd571.onPress([this] { deletePayments(false); });
   cd572.onPress([this] { deletePayments(true); });
@@ -225,7 +231,9 @@ void Formzct::deletePayments(bool wholeReceipt) {
   RecordSet chosen = rows(Sql("select * from jfjl where lsh='") + payments.list.key() + "'");
   if (chosen.empty()) return;
   if (chosen.get("sftj").trimmed() == "*")
-    return inform(wholeReceipt ? "这是一组已提交记录，前台不能删除它！    " : "这是一条已提交记录，前台不能删除它！    ", "信息提示");
+    return inform(
+        wholeReceipt ? "这是一组已提交记录，前台不能删除它！    " : "这是一条已提交记录，前台不能删除它！    ",
+        "信息提示");
   const std::string taker = chosen.get("skr").trimmed();
   if (taker != desk.session.SessionUser)
     return inform("这是操作员" + taker + "经办的收费记录，您在前台不能删除它！   ", "信息提示");

@@ -63,9 +63,7 @@ void Formcsh5::nextPicture() {
   showPicture(next);
 }
 
-void Formcsh5::fillUsers() {
-  yhxm.setChoices(kit::columnTexts(desk.store, "select * from yhxx", "yhxm"));
-}
+void Formcsh5::fillUsers() { yhxm.setChoices(kit::columnTexts(desk.store, "select * from yhxx", "yhxm")); }
 
 void Formcsh5::chooseUser() {
   storedPassword_.clear();

@@ -13,12 +13,14 @@ class Formzct1 : public kit::Screen {  // 交费信息统计
   void doubleClicked() override { close(); }
 
   kit::Field heading{*this, "heading", "", kit::Entry::Shown};
-  kit::List payments{*this, "payments",
+  kit::List payments{*this,
+                     "payments",
                      {{" 记录标识号", "lsh", kit::Format::Text, 9},
                       {" 交费日期", "jfrq", kit::Format::Date, 7},
                       {" 交费项目名称", "sfxm", kit::Format::Text, 8},
                       {" 交费金额", "je", kit::Format::Padded, 6}}};
-  kit::List sums{*this, "sums",
+  kit::List sums{*this,
+                 "sums",
                  {{" 交费所属学年学期", "", kit::Format::Text, 11},
                   {" 交费项目名称", "", kit::Format::Text, 8},
                   {" 交费金额", "", kit::Format::Padded, 6},

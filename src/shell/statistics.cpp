@@ -19,8 +19,8 @@ using store::Sql;
 
 namespace {
 
-// Sums by a text. Rows are added under the text as it stands; texts that the store takes for equal are then put together,
-// in the order in which the store sorts them.
+// Sums by a text. Rows are added under the text as it stands; texts that the store takes for equal are then put
+// together, in the order in which the store sorts them.
 template <class Sum> class Groups {
  public:
   Sum& operator[](const std::string& text) { return raw_[text]; }
@@ -42,7 +42,8 @@ template <class Sum> class Groups {
   std::unordered_map<std::string, Sum> raw_;
 };
 
-template <class Sum> Sum find(const std::map<std::string, typename Groups<Sum>::Group>& groups, const std::string& text) {
+template <class Sum>
+Sum find(const std::map<std::string, typename Groups<Sum>::Group>& groups, const std::string& text) {
   const auto found = groups.find(base::upper(text));
   return found == groups.end() ? Sum() : found->second.sum;
 }
@@ -92,7 +93,9 @@ struct Due {
   void operator+=(const Due& other) { due += other.due, paid += other.paid, waived += other.waived; }
   std::string share() const {
     if (due.zero()) return "";
-    return base::plainNumber(std::nearbyint(static_cast<double>(paid.units()) * 100 / static_cast<double>(due.units()))) + "%";
+    return base::plainNumber(
+               std::nearbyint(static_cast<double>(paid.units()) * 100 / static_cast<double>(due.units()))) +
+           "%";
   }
 };
 
@@ -156,8 +159,8 @@ Statistics paymentStatistics(store::Store& store) {
     if (!person.sum.sum.zero())
       result.second.push_back({person.text, base::paddedAmount(person.sum.sum), person.sum.days()});
   result.totals = "记录总数：" + base::caption(count) + " 笔，总金额：" + sum.fixed2() + " 元，其中  已提交笔数：" +
-                  base::caption(count - keptCount) + " 笔，金额：" + (sum - keptSum).fixed2() + " 元；前台未提交笔数：" +
-                  base::caption(keptCount) + " 笔，金额：" + keptSum.fixed2() + " 元 ！";
+                  base::caption(count - keptCount) + " 笔，金额：" + (sum - keptSum).fixed2() +
+                  " 元；前台未提交笔数：" + base::caption(keptCount) + " 笔，金额：" + keptSum.fixed2() + " 元 ！";
   return result;
 }
 
@@ -174,7 +177,8 @@ Statistics arrearsStatistics(store::Store& store, base::Date today) {
     result.first.push_back({one.text, std::to_string(one.sum.students.size()), base::paddedAmount(one.sum.balance)});
 
   Groups<Due> month;
-  RecordSet planned(store, Sql("select bjmc,bjje,sbjje,clfs from qfjl where month(bjrq)='") + std::to_string(today.month) + "'");
+  RecordSet planned(
+      store, Sql("select bjmc,bjje,sbjje,clfs from qfjl where month(bjrq)='") + std::to_string(today.month) + "'");
   store::forEach(planned, [&](RecordSet& row) {
     Due& one = month[row.get("bjmc").text()];
     const Money paid = row.get("sbjje").money();
@@ -192,8 +196,9 @@ Statistics arrearsStatistics(store::Store& store, base::Date today) {
     result.second.push_back({name, base::paddedAmount(one.due), base::paddedAmount(one.paid - one.waived),
                              base::paddedAmount(one.waived), base::paddedAmount(one.due - one.paid), one.share()});
   });
-  result.totals = "本月应收欠费总额：" + school.due.fixed2() + " 元；已收回：" + (school.paid - school.waived).fixed2() +
-                  " 元；减免：" + school.waived.fixed2() + " 元；尚欠：" + (school.due - school.paid).fixed2() + " 元" +
+  result.totals = "本月应收欠费总额：" + school.due.fixed2() + " 元；已收回：" +
+                  (school.paid - school.waived).fixed2() + " 元；减免：" + school.waived.fixed2() + " 元；尚欠：" +
+                  (school.due - school.paid).fixed2() + " 元" +
                   (school.due.zero() ? "" : "；收回比例：" + school.share());
   return result;
 }

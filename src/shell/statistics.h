@@ -1,5 +1,5 @@
-// The figures of the statistics bars, as the texts of their lists. Each is computed by walks over the tables that it adds
-// up, and from nothing that was kept before.
+// The figures of the statistics bars, as the texts of their lists. Each is computed by walks over the tables that it
+// adds up, and from nothing that was kept before.
 #pragma once
 
 #include <string>

@@ -17,8 +17,7 @@ std::vector<Table> gather() {
   return all;
 }
 
-template <class Named>
-const Named* findNamed(std::span<const Named> all, std::string_view name) {
+template <class Named> const Named* findNamed(std::span<const Named> all, std::string_view name) {
   const auto found = std::ranges::find_if(all, [&](const Named& each) { return base::sameText(each.name, name); });
   return found == all.end() ? nullptr : &*found;
 }

@@ -20,8 +20,8 @@ struct Column {
 struct Table {
   std::string_view name;
   Connection connection;
-  std::vector<Column> columns;             // in order; the hidden row_no comes before them
-  std::vector<std::string_view> indexes;   // "xh", "sftj,skr": the columns of an index each
+  std::vector<Column> columns;            // in order; the hidden row_no comes before them
+  std::vector<std::string_view> indexes;  // "xh", "sftj,skr": the columns of an index each
 
   const Column* find(std::string_view column) const;  // without regard to case; null when there is none
 };

@@ -28,39 +28,25 @@ bool isNumeric(Type type) { return type == Type::Number || type == Type::Money |
 
 Kind mirrored(Kind kind) {
   switch (kind) {
-    case Kind::Less:
-      return Kind::Greater;
-    case Kind::Greater:
-      return Kind::Less;
-    case Kind::LessEqual:
-      return Kind::GreaterEqual;
-    case Kind::GreaterEqual:
-      return Kind::LessEqual;
-    default:
-      return kind;
+    case Kind::Less: return Kind::Greater;
+    case Kind::Greater: return Kind::Less;
+    case Kind::LessEqual: return Kind::GreaterEqual;
+    case Kind::GreaterEqual: return Kind::LessEqual;
+    default: return kind;
   }
 }
 
 std::string sign(Kind kind) {
   switch (kind) {
-    case Kind::Equal:
-      return " = ";
-    case Kind::NotEqual:
-      return " <> ";
-    case Kind::Less:
-      return " < ";
-    case Kind::Greater:
-      return " > ";
-    case Kind::LessEqual:
-      return " <= ";
-    case Kind::GreaterEqual:
-      return " >= ";
-    case Kind::Add:
-      return " + ";
-    case Kind::Subtract:
-      return " - ";
-    default:
-      return " * ";
+    case Kind::Equal: return " = ";
+    case Kind::NotEqual: return " <> ";
+    case Kind::Less: return " < ";
+    case Kind::Greater: return " > ";
+    case Kind::LessEqual: return " <= ";
+    case Kind::GreaterEqual: return " >= ";
+    case Kind::Add: return " + ";
+    case Kind::Subtract: return " - ";
+    default: return " * ";
   }
 }
 
@@ -73,20 +59,13 @@ class Writer {
 
   std::string condition(const Expr& expr) {
     switch (expr.kind) {
-      case Kind::And:
-        return joined(expr.parts, " and ");
-      case Kind::Or:
-        return joined(expr.parts, " or ");
-      case Kind::Not:
-        return "(not " + condition(expr.parts[0]) + ")";
-      case Kind::IsNull:
-        return "(" + operand(expr.parts[0]).sql + " is null)";
-      case Kind::Like:
-        return like(expr);
-      case Kind::YesNo:
-        return expr.text == "true" ? "(1 = 1)" : "(1 = 0)";
-      default:
-        break;
+      case Kind::And: return joined(expr.parts, " and ");
+      case Kind::Or: return joined(expr.parts, " or ");
+      case Kind::Not: return "(not " + condition(expr.parts[0]) + ")";
+      case Kind::IsNull: return "(" + operand(expr.parts[0]).sql + " is null)";
+      case Kind::Like: return like(expr);
+      case Kind::YesNo: return expr.text == "true" ? "(1 = 1)" : "(1 = 0)";
+      default: break;
     }
     if (isComparison(expr.kind)) return comparison(expr.kind, expr.parts[0], expr.parts[1]);
     if (expr.kind == Kind::Column) {
@@ -130,16 +109,11 @@ class Writer {
     if (isLiteral(a) && !isLiteral(b)) return comparison(mirrored(kind), b, a);
     const Operand left = operand(a);
     switch (b.kind) {
-      case Kind::Date:
-        return withDate(kind, left, b.text);
-      case Kind::Text:
-        return withText(kind, left, b.text);
-      case Kind::Number:
-        return withNumber(kind, left, b.text);
-      case Kind::YesNo:
-        return withYesNo(kind, left, b.text == "true");
-      default:
-        return twoOperands(kind, left, operand(b));
+      case Kind::Date: return withDate(kind, left, b.text);
+      case Kind::Text: return withText(kind, left, b.text);
+      case Kind::Number: return withNumber(kind, left, b.text);
+      case Kind::YesNo: return withYesNo(kind, left, b.text == "true");
+      default: return twoOperands(kind, left, operand(b));
     }
   }
 
@@ -153,18 +127,12 @@ class Writer {
     const auto to = [&] { return bound(left.type == Type::DateTime ? day + "~" : day); };
     const std::string dated = "(" + value + " > '' and ";
     switch (kind) {
-      case Kind::Equal:
-        return within(value, from(), to());
-      case Kind::NotEqual:
-        return dated + "not " + within(value, from(), to()) + ")";
-      case Kind::Less:
-        return dated + value + " < " + from() + ")";
-      case Kind::LessEqual:
-        return dated + value + " <= " + to() + ")";
-      case Kind::Greater:
-        return "(" + value + " > " + to() + ")";
-      default:
-        return "(" + value + " >= " + from() + ")";
+      case Kind::Equal: return within(value, from(), to());
+      case Kind::NotEqual: return dated + "not " + within(value, from(), to()) + ")";
+      case Kind::Less: return dated + value + " < " + from() + ")";
+      case Kind::LessEqual: return dated + value + " <= " + to() + ")";
+      case Kind::Greater: return "(" + value + " > " + to() + ")";
+      default: return "(" + value + " >= " + from() + ")";
     }
   }
   static std::string within(const std::string& value, const std::string& from, const std::string& to) {
@@ -257,35 +225,25 @@ class Writer {
         if (column.type == Type::Bytes) refuse("“" + std::string(column.name) + "”一栏不能用作条件！");
         return {quoted(column.name), column.type};
       }
-      case Kind::Text:
-        return {bound(expr.text), Type::Text};
-      case Kind::Number:
-        return {bound(numberCell(base::leadingNumber(expr.text))), Type::Number};
-      case Kind::Date:
-        return {bound(dateLiteral(expr.text)), Type::Date};
-      case Kind::YesNo:
-        return {bound(std::int64_t{expr.text == "true"}), Type::YesNo};
+      case Kind::Text: return {bound(expr.text), Type::Text};
+      case Kind::Number: return {bound(numberCell(base::leadingNumber(expr.text))), Type::Number};
+      case Kind::Date: return {bound(dateLiteral(expr.text)), Type::Date};
+      case Kind::YesNo: return {bound(std::int64_t{expr.text == "true"}), Type::YesNo};
       case Kind::Left: {
         const std::string text = shown(operand(expr.parts[0]));
         return {phrases_.left(text, bound(numberCell(base::leadingNumber(expr.parts[1].text)))), Type::Text};
       }
-      case Kind::Month:
-        return {phrases_.month(date(expr.parts[0])), Type::Number};
-      case Kind::Year:
-        return {phrases_.year(date(expr.parts[0])), Type::Number};
+      case Kind::Month: return {phrases_.month(date(expr.parts[0])), Type::Number};
+      case Kind::Year: return {phrases_.year(date(expr.parts[0])), Type::Number};
       case Kind::Negate: {
         const Operand value = numeric(expr.parts[0]);
         return {"(-" + value.sql + ")", value.type};
       }
       case Kind::Add:
-      case Kind::Subtract:
-        return sum(expr);
-      case Kind::Multiply:
-        return product(expr);
-      case Kind::Divide:
-        return quotient(expr);
-      default:
-        refuse("语句中的条件不能当作数值使用！");
+      case Kind::Subtract: return sum(expr);
+      case Kind::Multiply: return product(expr);
+      case Kind::Divide: return quotient(expr);
+      default: refuse("语句中的条件不能当作数值使用！");
     }
   }
 

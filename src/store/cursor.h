@@ -19,8 +19,7 @@ namespace store {
 // Rows that are named by their numbers go into a statement in portions of one size, so that it is always the same one;
 // no row has the number 0 that fills the last portion up.
 constexpr std::size_t readTogether = 200;
-template <class Visit>
-void inPortions(std::span<const std::int64_t> rowNos, Visit visit) {
+template <class Visit> void inPortions(std::span<const std::int64_t> rowNos, Visit visit) {
   for (; !rowNos.empty(); rowNos = rowNos.subspan(std::min(readTogether, rowNos.size()))) {
     const auto part = rowNos.first(std::min(readTogether, rowNos.size()));
     std::vector<Cell> values(part.begin(), part.end());

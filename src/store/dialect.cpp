@@ -176,16 +176,11 @@ class Parser {
     }
     const Token token = now();
     switch (token.kind) {
-      case Token::Kind::Text:
-        return ++at_, Expr{Kind::Text, token.text, {}};
-      case Token::Kind::Number:
-        return ++at_, Expr{Kind::Number, token.text, {}};
-      case Token::Kind::Date:
-        return ++at_, Expr{Kind::Date, token.text, {}};
-      case Token::Kind::Word:
-        return word();
-      default:
-        unexpected();
+      case Token::Kind::Text: return ++at_, Expr{Kind::Text, token.text, {}};
+      case Token::Kind::Number: return ++at_, Expr{Kind::Number, token.text, {}};
+      case Token::Kind::Date: return ++at_, Expr{Kind::Date, token.text, {}};
+      case Token::Kind::Word: return word();
+      default: unexpected();
     }
   }
 

@@ -42,9 +42,9 @@ class Phrases {
   virtual std::string place(std::size_t index, Stored form) const = 0;  // of a bound value
   virtual std::string rowNumber() const = 0;                            // the definition of row_no, never given twice
   virtual std::string columnType(Type type) const = 0;
-  virtual std::string key(const std::string& column, Type type) const = 0;  // what rows are ordered and grouped by
+  virtual std::string key(const std::string& column, Type type) const = 0;      // what rows are ordered and grouped by
   virtual std::string indexed(const std::vector<std::string>& keys) const = 0;  // what serves an order by them
-  virtual std::string folded(const std::string& text) const = 0;            // compares without regard to case
+  virtual std::string folded(const std::string& text) const = 0;                // compares without regard to case
   virtual std::string byBytes(const std::string& column, Type type) const = 0;  // compares with regard to case
   virtual std::string like(const std::string& text, const std::string& pattern) const = 0;
   virtual std::string shown(const std::string& value, Type type) const = 0;  // as Value::text() shows it

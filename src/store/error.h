@@ -14,11 +14,11 @@ enum class Fault {
   Missing,        // a file that should be there
   Damaged,
   ReadOnly,
-  Busy,           // in use by another computer, after the wait
+  Busy,  // in use by another computer, after the wait
   DiskFull,
-  Disconnected,   // the server does not answer or the connection broke; the words say what became of the action
-  Unsure,         // it broke while a unit was being saved, and the server could not be asked yet
-  RowGone,        // the current row was deleted meanwhile, or there is no current row
+  Disconnected,  // the server does not answer or the connection broke; the words say what became of the action
+  Unsure,        // it broke while a unit was being saved, and the server could not be asked yet
+  RowGone,       // the current row was deleted meanwhile, or there is no current row
   Other,
 };
 

@@ -130,8 +130,7 @@ void PostgresSession::commit() {
     if (link_.connected()) throw;
   }
   switch (fateAfterBreak(unit)) {
-    case Fate::Saved:
-      return;
+    case Fate::Saved: return;
     case Fate::NotSaved:
       throw withNothingSaved(
           StoreError(Fault::Disconnected, "保存时与数据库服务器" + link_.name() + "的连接断开了，请再做一次！"));

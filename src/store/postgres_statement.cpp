@@ -55,14 +55,12 @@ std::string bytesOf(std::string_view hex) {  // \x0aff
   return result;
 }
 
-template <class Number>
-std::string numberText(Number number) {
+template <class Number> std::string numberText(Number number) {
   char buffer[64];
   return std::string(buffer, std::to_chars(buffer, buffer + sizeof buffer, number).ptr);
 }
 
-template <class Number>
-Number numberOf(std::string_view text) {
+template <class Number> Number numberOf(std::string_view text) {
   Number number{};
   std::from_chars(text.data(), text.data() + text.size(), number);
   return number;

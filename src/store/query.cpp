@@ -41,7 +41,8 @@ std::string listOf(const Query& query) {
 
 std::string leastOf(const Query& query, const Phrases& phrases) {
   std::string result = "0";
-  for (const Column* column : query.columns) result += ", min(" + phrases.byBytes(quoted(column->name), column->type) + ")";
+  for (const Column* column : query.columns)
+    result += ", min(" + phrases.byBytes(quoted(column->name), column->type) + ")";
   return result;
 }
 

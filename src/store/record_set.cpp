@@ -181,7 +181,7 @@ void RecordSet::remove() {
   if (state_->editing == State::Editing::Removed) return;
   const Table& table = rows.table();
   rows.database().write(table, removeStatement(table, rows.database().engine().phrases()), {rows.rowNo()},
-                         rows.rowNo());
+                        rows.rowNo());
   state_->leaveRow();
   state_->editing = State::Editing::Removed;
 }

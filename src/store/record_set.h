@@ -50,8 +50,8 @@ class RecordSet {
   long long setMarked(std::span<const std::int64_t> marks, std::string_view column, const Value& value);
   std::vector<std::string> fields();
 
-  // What long lists keep instead of rows. A mark stands for a row as long as it exists; goTo makes that row current, with
-  // nothing behind it. Grouped rows have no marks.
+  // What long lists keep instead of rows. A mark stands for a row as long as it exists; goTo makes that row current,
+  // with nothing behind it. Grouped rows have no marks.
   bool hasMarks();
   std::int64_t mark();
   void goTo(std::int64_t mark);
@@ -65,8 +65,7 @@ class RecordSet {
 };
 
 // The idiom of every list: visits each row from the first, with the set at that row.
-template <class Visit>
-void forEach(RecordSet& set, Visit visit) {
+template <class Visit> void forEach(RecordSet& set, Visit visit) {
   if (set.empty()) return;
   for (set.first(); !set.atEnd(); set.next()) visit(set);
 }

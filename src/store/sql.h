@@ -20,19 +20,16 @@ namespace store {
 class Sql {
  public:
   Sql() = default;
-  template <std::size_t N>
-  Sql(const char (&literal)[N]) : text_(literal, N - 1) {}
+  template <std::size_t N> Sql(const char (&literal)[N]) : text_(literal, N - 1) {}
 
-  template <std::size_t N>
-  Sql& operator+=(const char (&literal)[N]) {
+  template <std::size_t N> Sql& operator+=(const char (&literal)[N]) {
     text_.append(literal, N - 1);
     return *this;
   }
   Sql& operator+=(const Sql& other);
   Sql& operator+=(const std::string& value);
   Sql& operator+=(const Value& value);
-  template <class T>
-  friend Sql operator+(Sql left, const T& right) {
+  template <class T> friend Sql operator+(Sql left, const T& right) {
     left += right;
     return left;
   }

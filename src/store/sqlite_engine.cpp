@@ -26,46 +26,31 @@ Fault faultOf(int code, int systemError) {
     case SQLITE_ERROR:
     case SQLITE_MISMATCH:
     case SQLITE_RANGE:
-    case SQLITE_TOOBIG:
-      return Fault::Statement;
-    case SQLITE_NOTADB:
-      return Fault::WrongPassword;
-    case SQLITE_CORRUPT:
-      return Fault::Damaged;
+    case SQLITE_TOOBIG: return Fault::Statement;
+    case SQLITE_NOTADB: return Fault::WrongPassword;
+    case SQLITE_CORRUPT: return Fault::Damaged;
     case SQLITE_READONLY:
     case SQLITE_PERM:
-    case SQLITE_CANTOPEN:
-      return Fault::ReadOnly;
+    case SQLITE_CANTOPEN: return Fault::ReadOnly;
     case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-      return Fault::Busy;
-    case SQLITE_FULL:
-      return Fault::DiskFull;
-    case SQLITE_IOERR:
-      return full ? Fault::DiskFull : Fault::Other;
-    default:
-      return Fault::Other;
+    case SQLITE_LOCKED: return Fault::Busy;
+    case SQLITE_FULL: return Fault::DiskFull;
+    case SQLITE_IOERR: return full ? Fault::DiskFull : Fault::Other;
+    default: return Fault::Other;
   }
 }
 
 std::string wordsFor(Fault fault, const std::string& file) {
   switch (fault) {
-    case Fault::Statement:
-      return "语句不合规定，不能执行！";
+    case Fault::Statement: return "语句不合规定，不能执行！";
     case Fault::WrongPassword:
       return "数据库“" + file + "”打不开：密码不对，或文件的开头已经损坏。请用备份恢复该文件后再试！";
-    case Fault::Missing:
-      return "找不到数据库文件“" + file + "”。请检查共享文件夹是否连通，或用备份恢复该文件！";
-    case Fault::Damaged:
-      return "数据库“" + file + "”已经损坏。请停止使用，并用最近的备份恢复该文件！";
-    case Fault::ReadOnly:
-      return "数据库“" + file + "”或它所在的文件夹不能写入。请检查写入权限后再试！";
-    case Fault::Busy:
-      return "数据库“" + file + "”正被其他计算机占用，等待之后仍不能使用。请稍候再试！";
-    case Fault::DiskFull:
-      return "磁盘空间已满，内容没有保存。请清理磁盘“" + file + "”后再试！";
-    default:
-      return "读写数据库“" + file + "”时出错。请检查网络和磁盘后再试！";
+    case Fault::Missing: return "找不到数据库文件“" + file + "”。请检查共享文件夹是否连通，或用备份恢复该文件！";
+    case Fault::Damaged: return "数据库“" + file + "”已经损坏。请停止使用，并用最近的备份恢复该文件！";
+    case Fault::ReadOnly: return "数据库“" + file + "”或它所在的文件夹不能写入。请检查写入权限后再试！";
+    case Fault::Busy: return "数据库“" + file + "”正被其他计算机占用，等待之后仍不能使用。请稍候再试！";
+    case Fault::DiskFull: return "磁盘空间已满，内容没有保存。请清理磁盘“" + file + "”后再试！";
+    default: return "读写数据库“" + file + "”时出错。请检查网络和磁盘后再试！";
   }
 }
 

@@ -15,17 +15,12 @@ class SqlitePhrases final : public Phrases {
   std::string rowNumber() const override { return "integer primary key autoincrement"; }
   std::string columnType(Type type) const override {
     switch (type) {
-      case Type::Text:
-        return "text collate nocase";
-      case Type::Number:
-        return "numeric";
+      case Type::Text: return "text collate nocase";
+      case Type::Number: return "numeric";
       case Type::Money:
-      case Type::YesNo:
-        return "integer";
-      case Type::Bytes:
-        return "blob";
-      default:
-        return "text";
+      case Type::YesNo: return "integer";
+      case Type::Bytes: return "blob";
+      default: return "text";
     }
   }
   std::string key(const std::string& column, Type) const override { return column; }
@@ -39,15 +34,11 @@ class SqlitePhrases final : public Phrases {
   }
   std::string shown(const std::string& value, Type type) const override {
     switch (type) {
-      case Type::Money:
-        return call("shown_money", value);
+      case Type::Money: return call("shown_money", value);
       case Type::Date:
-      case Type::DateTime:
-        return call("shown_moment", value);
-      case Type::YesNo:
-        return "(case " + value + " when 0 then 'False' when 1 then 'True' end)";
-      default:
-        return call("shown_number", value);
+      case Type::DateTime: return call("shown_moment", value);
+      case Type::YesNo: return "(case " + value + " when 0 then 'False' when 1 then 'True' end)";
+      default: return call("shown_number", value);
     }
   }
   std::string left(const std::string& text, const std::string& count) const override {
@@ -106,9 +97,10 @@ void addSqliteFunctions(sqlite3* connection) {
     const char* name;
     void (*run)(sqlite3_context*, int, sqlite3_value**);
   };
-  for (const Function& function :
-       {Function{"shown_money", shownMoney}, {"shown_number", shownNumber}, {"shown_moment", shownMoment},
-        {"date_in", dateIn}}) {
+  for (const Function& function : {Function{"shown_money", shownMoney},
+                                   {"shown_number", shownNumber},
+                                   {"shown_moment", shownMoment},
+                                   {"date_in", dateIn}}) {
     sqlite3_create_function_v2(connection, function.name, 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, function.run,
                                nullptr, nullptr, nullptr);
   }

@@ -76,8 +76,7 @@ Bytes bytesOf(std::string_view raw) {
   return {all.begin(), all.end()};
 }
 
-template <class Convert>
-Value textual(std::string_view text, Convert convert) {
+template <class Convert> Value textual(std::string_view text, Convert convert) {
   return text.data() ? Value(convert(text)) : Value();
 }
 
@@ -104,15 +103,11 @@ std::optional<bool> yesIn(std::string_view text) {
 
 Stored storedAs(Type type) {
   switch (type) {
-    case Type::Number:
-      return Stored::Real;
+    case Type::Number: return Stored::Real;
     case Type::Money:
-    case Type::YesNo:
-      return Stored::Whole;
-    case Type::Bytes:
-      return Stored::Bytes;
-    default:
-      return Stored::Text;
+    case Type::YesNo: return Stored::Whole;
+    case Type::Bytes: return Stored::Bytes;
+    default: return Stored::Text;
   }
 }
 
@@ -130,20 +125,13 @@ Value typed(const Value& value, const Column& column) {
   if (blank && !keepsEmpty) return {};
   if (blank && column.type != Type::Text) return "";
   switch (column.type) {
-    case Type::Text:
-      return base::validUtf8(text ? *text : value.text());
-    case Type::Number:
-      return orRefuse(numberFor(value), value, column, "数字");
-    case Type::Money:
-      return orRefuse(moneyFor(value), value, column, "金额");
-    case Type::Date:
-      return orRefuse(value.date(), value, column, "日期");
-    case Type::DateTime:
-      return orRefuse(value.moment(), value, column, "日期和时间");
-    case Type::YesNo:
-      return orRefuse(yesFor(value), value, column, "“是”或“否”");
-    case Type::Bytes:
-      return orRefuse(bytesFor(value), value, column, "图片等数据");
+    case Type::Text: return base::validUtf8(text ? *text : value.text());
+    case Type::Number: return orRefuse(numberFor(value), value, column, "数字");
+    case Type::Money: return orRefuse(moneyFor(value), value, column, "金额");
+    case Type::Date: return orRefuse(value.date(), value, column, "日期");
+    case Type::DateTime: return orRefuse(value.moment(), value, column, "日期和时间");
+    case Type::YesNo: return orRefuse(yesFor(value), value, column, "“是”或“否”");
+    case Type::Bytes: return orRefuse(bytesFor(value), value, column, "图片等数据");
   }
   return {};
 }
@@ -161,25 +149,17 @@ Cell cell(const Value& value) {
 
 Value read(const Statement& statement, int column, Type type) {
   switch (type) {
-    case Type::Text:
-      return textual(statement.text(column), [](std::string_view text) { return Value(text); });
-    case Type::Date:
-      return textual(statement.text(column), dateValue);
-    case Type::DateTime:
-      return textual(statement.text(column), momentValue);
-    case Type::Bytes:
-      return textual(statement.text(column), bytesOf);
-    default:
-      break;
+    case Type::Text: return textual(statement.text(column), [](std::string_view text) { return Value(text); });
+    case Type::Date: return textual(statement.text(column), dateValue);
+    case Type::DateTime: return textual(statement.text(column), momentValue);
+    case Type::Bytes: return textual(statement.text(column), bytesOf);
+    default: break;
   }
   if (statement.isNull(column)) return {};
   switch (type) {
-    case Type::Number:
-      return statement.real(column);
-    case Type::Money:
-      return base::Money::ofUnits(statement.integer(column));
-    default:
-      return statement.integer(column) != 0;
+    case Type::Number: return statement.real(column);
+    case Type::Money: return base::Money::ofUnits(statement.integer(column));
+    default: return statement.integer(column) != 0;
   }
 }
 

@@ -5,10 +5,7 @@
 namespace store {
 namespace {
 
-template <class... Each>
-struct Overloaded : Each... {
-  using Each::operator()...;
-};
+template <class... Each> struct Overloaded : Each... { using Each::operator()...; };
 
 }  // namespace
 

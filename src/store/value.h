@@ -33,15 +33,15 @@ class Value {
   Value(Bytes bytes) : data_(std::move(bytes)) {}
 
   bool isNull() const { return std::holds_alternative<std::monostate>(data_); }
-  bool empty() const;               // Null or the empty text
-  std::string text() const;         // as the screens show it: date yyyy-m-d, money plain, Null as ""
-  std::string trimmed() const;      // text() without blanks around it
-  base::Money money() const;        // leading number of a text; 0 for nothing
-  double number() const;            // the same as a binary float; Money is converted, yes is 1
-  bool yes() const;                 // a yes/no value, or a number other than 0
-  std::optional<base::Date> date() const;          // also of a text that passes the date test
+  bool empty() const;                      // Null or the empty text
+  std::string text() const;                // as the screens show it: date yyyy-m-d, money plain, Null as ""
+  std::string trimmed() const;             // text() without blanks around it
+  base::Money money() const;               // leading number of a text; 0 for nothing
+  double number() const;                   // the same as a binary float; Money is converted, yes is 1
+  bool yes() const;                        // a yes/no value, or a number other than 0
+  std::optional<base::Date> date() const;  // also of a text that passes the date test
   std::optional<base::DateTime> moment() const;
-  const Bytes& bytes() const;       // empty when it holds no bytes
+  const Bytes& bytes() const;  // empty when it holds no bytes
 
   template <class T> const T* as() const { return std::get_if<T>(&data_); }
   friend bool operator==(const Value&, const Value&) = default;

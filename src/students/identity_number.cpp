@@ -16,10 +16,8 @@ Identity deriveFromIdentity(std::string_view text) {
   const auto date = [&](const std::string& year, std::size_t month) {
     return year + "-" + base::mid(trimmed, month, 2) + "-" + base::mid(trimmed, month + 2, 2);
   };
-  if (length == 15)
-    identity.csrq = date((base::mid(trimmed, 7, 1) == "0" ? "20" : "19") + base::mid(trimmed, 7, 2), 9);
-  else
-    identity.csrq = date(base::mid(trimmed, 7, 4), 11);
+  if (length == 15) identity.csrq = date((base::mid(trimmed, 7, 1) == "0" ? "20" : "19") + base::mid(trimmed, 7, 2), 9);
+  else identity.csrq = date(base::mid(trimmed, 7, 4), 11);
   const std::string sex = base::mid(trimmed, length == 15 ? 15 : 17, 1);
   identity.xb = std::string_view("02468").find(sex) != std::string_view::npos ? "女" : "男";
   return identity;

@@ -199,10 +199,8 @@ bool Formzctxs::accepted(const std::optional<Refusal>& refusal) {
 
 void Formzctxs::offerNumber() {
   const char* question = mode_ == Mode::Add ? "您是否使用默认学号 ！     " : "是否先还原为原来的学号 ！     ";
-  if (ask(question, "操作提示"))
-    xh.set(proposal_);
-  else
-    xh.focus();
+  if (ask(question, "操作提示")) xh.set(proposal_);
+  else xh.focus();
 }
 
 }  // namespace students

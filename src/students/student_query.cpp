@@ -14,9 +14,9 @@ namespace {
 constexpr int usualAge = 7200;  // days
 
 const std::vector<Sql> keywordPieces{
-    "  where xm like  '%", "%' or xb like  '%",   "%' or xh like  '%",   "%' or lxdh like  '%",  "%' or sjhm like  '%",
-    "%' or jtzz like  '%", "%' or sfzhm like  '%", "%' or yzbm like  '%", "%' or mz like  '%",    "%' or bz like  '%",
-    "%' or zzmm like  '%", "%' or rxrq like  '%", "%' or csrq like  '%", "%' or bjmc like  '%",  "%' or rxxs like  '%",
+    "  where xm like  '%",  "%' or xb like  '%",    "%' or xh like  '%",   "%' or lxdh like  '%", "%' or sjhm like  '%",
+    "%' or jtzz like  '%",  "%' or sfzhm like  '%", "%' or yzbm like  '%", "%' or mz like  '%",   "%' or bz like  '%",
+    "%' or zzmm like  '%",  "%' or rxrq like  '%",  "%' or csrq like  '%", "%' or bjmc like  '%", "%' or rxxs like  '%",
     "%'  or zymc like  '%", "%'  or byxx like  '%", "%'  or yhkh like  '%"};
 constexpr std::size_t piecesOfSingle = 15;  // the query by one condition leaves the last three columns out
 const Sql keywordEnd = "%' order by xh";
@@ -79,8 +79,8 @@ std::optional<std::vector<Condition>> Formzctxscx1::conditions() {
 
 namespace {
 
-// One way of asking: what is offered, and what stands before the value. Two dates ask with = for the first and <= for the
-// second: who entered on a day is asked for, and the second day only closes the question.
+// One way of asking: what is offered, and what stands before the value. Two dates ask with = for the first and <= for
+// the second: who entered on a day is asked for, and the second day only closes the question.
 struct Way {
   const char* name;
   const char* hint;
@@ -123,7 +123,8 @@ Formzctxscx::Formzctxscx(kit::Desk& all) : Screen(all, "Formzctxscx", "学生学
   way.onChange([this] { wayChanged(); });
   value.onDrop([this] {
     const Way* chosen = wayOf(way);
-    if (chosen && !chosen->choices.empty()) value.setChoices(kit::columnTexts(desk.store, chosen->choices, chosen->column));
+    if (chosen && !chosen->choices.empty())
+      value.setChoices(kit::columnTexts(desk.store, chosen->choices, chosen->column));
   });
   confirm.onPress([this] { query(); });
   cancel.onPress([this] { close(); });
@@ -145,7 +146,9 @@ void Formzctxscx::query() {
   const Way* chosen = wayOf(way);
   const bool dates = chosen && asksForDates(*chosen);
   kit::Field& first = dates ? from : value;
-  const auto badDates = [&] { return dates && !(base::Date::parse(from.trimmed()) && base::Date::parse(to.trimmed())); };
+  const auto badDates = [&] {
+    return dates && !(base::Date::parse(from.trimmed()) && base::Date::parse(to.trimmed()));
+  };
   const std::vector<kit::Rule> rules = {
       {&way, [&] { return chosen == nullptr; }, "请选择一种查询方式 ！     ", "错误提示"},
       {&first, kit::blank(first), "请设置参数值,您也可以进行选择 ！     ", "错误提示"},
@@ -156,7 +159,8 @@ void Formzctxscx::query() {
     const Sql column = Sql::column(chosen->column);
     filter = Sql("  where ") + column + "=#" + from.trimmed() + "# and " + column + "<=#" + to.trimmed() + "#";
   } else if (chosen->before.empty()) {
-    filter = kit::keywordChain({keywordPieces.begin(), keywordPieces.begin() + piecesOfSingle}, value.trimmed(), keywordEnd);
+    filter =
+        kit::keywordChain({keywordPieces.begin(), keywordPieces.begin() + piecesOfSingle}, value.trimmed(), keywordEnd);
   } else {
     const bool major = chosen == &ways().front();
     filter = chosen->before + (major ? kit::majorCode(desk.store, value.trimmed()) : value.trimmed()) + "'";
@@ -168,8 +172,9 @@ void Formzctxscx::query() {
     return inform("相关记录不存在 ！      ", "信息提示");
   }
   session.student_query =
-      way.text() + (dates ? "：条件是从 [ " + from.trimmed() + " ] 到 [ " + to.trimmed() + " ]，符合条件的记录有："
-                          : "：条件是 [ " + value.trimmed() + " ] ，符合条件的记录有：") +
+      way.text() +
+      (dates ? "：条件是从 [ " + from.trimmed() + " ] 到 [ " + to.trimmed() + " ]，符合条件的记录有："
+             : "：条件是 [ " + value.trimmed() + " ] ，符合条件的记录有：") +
       base::caption(count) + " 条！";
   session.student_where = filter;
   session.reload_student_list = true;

@@ -47,30 +47,21 @@ constexpr std::array<Column, 21> columns = {{
 
 Value stored(Kind kind, const std::string& text, base::Date today) {
   switch (kind) {
-    case Kind::Upper:
-      return base::upper(base::trim(text));
-    case Kind::BirthDate:
-      return base::Date::parse(text).value_or(today.plusDays(-eighteenYears));
-    case Kind::EntryDate:
-      return base::Date::parse(text).value_or(today);
-    case Kind::Money:
-      return base::Money::leading(base::trim(text));
-    default:
-      return base::trim(text);
+    case Kind::Upper: return base::upper(base::trim(text));
+    case Kind::BirthDate: return base::Date::parse(text).value_or(today.plusDays(-eighteenYears));
+    case Kind::EntryDate: return base::Date::parse(text).value_or(today);
+    case Kind::Money: return base::Money::leading(base::trim(text));
+    default: return base::trim(text);
   }
 }
 
 std::string shown(Kind kind, const Value& value) {
   switch (kind) {
-    case Kind::Money:
-      return value.money().fixed2();
+    case Kind::Money: return value.money().fixed2();
     case Kind::BirthDate:
-    case Kind::EntryDate:
-      return kit::formatted(value, kit::Format::Date);
-    case Kind::Notes:
-      return std::string(notesIndent) + value.trimmed();
-    default:
-      return value.trimmed();
+    case Kind::EntryDate: return kit::formatted(value, kit::Format::Date);
+    case Kind::Notes: return std::string(notesIndent) + value.trimmed();
+    default: return value.trimmed();
   }
 }
 

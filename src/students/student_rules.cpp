@@ -9,10 +9,7 @@ constexpr const char* fault = "错误提示";
 constexpr const char* advice = "操作提示";
 
 // The tests look at the trimmed text.
-template <std::size_t characters>
-bool longerThan(const std::string& text) {
-  return base::length(text) > characters;
-}
+template <std::size_t characters> bool longerThan(const std::string& text) { return base::length(text) > characters; }
 bool blank(const std::string& text) { return text.empty(); }
 bool notNumeric(const std::string& text) { return !base::isNumeric(text); }
 bool filledNotNumeric(const std::string& text) { return !text.empty() && !base::isNumeric(text); }

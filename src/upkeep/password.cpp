@@ -7,7 +7,8 @@
 
 namespace upkeep {
 
-// The interactive profile with a quarter of its memory: a login takes well under a tenth of a second on an office computer.
+// The interactive profile with a quarter of its memory: a login takes well under a tenth of a second on an office
+// computer.
 constexpr unsigned long long passes = 2;
 constexpr std::size_t memory = 16 * 1024 * 1024;
 

@@ -6,7 +6,8 @@ namespace upkeep {
 
 Formyhxx::Formyhxx(kit::Desk& all)
     : Screen(all, "Formyhxx", "用户管理"),
-      users(*this, "users", all.store, {{"用户姓名", "yhxm", kit::Format::Text, 10}, {"用户级别", "yhjb", kit::Format::Text, 10}}) {
+      users(*this, "users", all.store,
+            {{"用户姓名", "yhxm", kit::Format::Text, 10}, {"用户级别", "yhjb", kit::Format::Text, 10}}) {
   add.onPress([this] { edit(kit::Mode::Add, ""); });
   modify.onPress([this] { edit(kit::Mode::Modify, "不存在需要修改的记录！  "); });
   remove.onPress([this] { edit(kit::Mode::Delete, "不存在需要删除的记录！  "); });

@@ -15,8 +15,8 @@ constexpr const char* superLevel = "超级管理员";
 void addUser(store::Store& store, const std::string& name, const std::string& level, const std::string& password,
              base::DateTime now);
 
-// The rights of a user as they stand in yhxx1: the place of the row decides. Rows beyond the hundredth are left out: two
-// users of one name have two hundred. A super administrator has them all, whatever the rows say.
+// The rights of a user as they stand in yhxx1: the place of the row decides. Rows beyond the hundredth are left out:
+// two users of one name have two hundred. A super administrator has them all, whatever the rows say.
 std::array<bool, 100> rightsOf(store::Store& store, const std::string& name, const std::string& level);
 
 }  // namespace upkeep

@@ -26,9 +26,17 @@ struct ArrearsDesk : support::TestDesk {
   }
 
   void owe(const std::string& lsh, const std::string& xh, Money bjje, Money sbjje, const std::string& clfs) {
-    add("qfjl", {{"lsh", lsh}, {"xh", xh}, {"xm", "王小明"}, {"bjmc", "计算机1班"}, {"sfxm", "学费"},
-                 {"qfrq", Date{2026, 9, 1}}, {"xq", "2026学年下学期"}, {"bjrq", Date{2026, 10, 1}}, {"bjje", bjje},
-                 {"sbjje", sbjje}, {"clfs", clfs}});
+    add("qfjl", {{"lsh", lsh},
+                 {"xh", xh},
+                 {"xm", "王小明"},
+                 {"bjmc", "计算机1班"},
+                 {"sfxm", "学费"},
+                 {"qfrq", Date{2026, 9, 1}},
+                 {"xq", "2026学年下学期"},
+                 {"bjrq", Date{2026, 10, 1}},
+                 {"bjje", bjje},
+                 {"sbjje", sbjje},
+                 {"clfs", clfs}});
   }
   std::string states() { return dump("qfjl", "lsh|sbjrq|sbjje|clfs", "lsh"); }
 };

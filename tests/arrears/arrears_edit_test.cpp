@@ -24,8 +24,9 @@ struct EditDesk : ArrearsDesk {
 TEST(ArrearsEdit, ShowsAndWritesTheRow) {
   EditDesk desk;
   auto s = opened<Formqf>(desk);
-  EXPECT_EQ(s->xh.text() + s->xm.text() + s->bjmc.text() + s->qfrq.text() + s->bjje.text() + s->sbjrq.text() + s->clfs.text(),
-            "20260001王小明计算机1班2026-9-1100.00不足");
+  EXPECT_EQ(
+      s->xh.text() + s->xm.text() + s->bjmc.text() + s->qfrq.text() + s->bjje.text() + s->sbjrq.text() + s->clfs.text(),
+      "20260001王小明计算机1班2026-9-1100.00不足");
   s->clfs.drop();
   EXPECT_EQ(base::join(s->clfs.choices(), " "), "不足 结清");
   s->lsh.type("2");  // nothing guards against a number that exists

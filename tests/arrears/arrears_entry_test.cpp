@@ -50,8 +50,14 @@ TEST(ArrearsEntry, FindsTheStudentAndKeepsToIt) {
       .expect(Box::Information, "检测不到该学号对应的相关记录，请检查学号输入是否正确！    ", "信息提示")
       .expect(Box::Information, "该生相关记录不存在，请检查姓名输入是否正确！   ", "信息提示")
       .expect(Box::Information, "学生姓名不唯一，请您用学号调用该生的相关记录！    ", "操作提示");
-  const auto number = [&](const char* text) { s->xh.type(text); s->xh.enter(); };
-  const auto name = [&](const char* text) { s->xm.type(text); s->xm.enter(); };
+  const auto number = [&](const char* text) {
+    s->xh.type(text);
+    s->xh.enter();
+  };
+  const auto name = [&](const char* text) {
+    s->xm.type(text);
+    s->xm.enter();
+  };
   number(" ");
   number("9999");
   number(" 20260002 ");
@@ -177,7 +183,8 @@ TEST(ArrearsEntry, LoadsTheShortfallOfTheFeeWindow) {
                                {"校服费", Money::yuan(2), Money::yuan(1)},
                                {"水费", Money::yuan(2), Money::yuan(1)}}};
     auto s = opened<Formqfcl>(desk);
-    for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(s->lines[i].sfxm.text() + " " + s->lines[i].total.text(), one.items[i]);
+    for (std::size_t i = 0; i < 3; ++i)
+      EXPECT_EQ(s->lines[i].sfxm.text() + " " + s->lines[i].total.text(), one.items[i]);
     EXPECT_EQ(s->lines[0].instalments[0].date.text(), one.items[0] == " " ? "" : "2026-10-7");
     EXPECT_EQ(s->focused, one.loads ? &s->lines[0].instalments[1].amount : &s->xh);
     EXPECT_FALSE(desk.session.from_fee_window);  // the next one who opens it may be another

@@ -25,7 +25,8 @@ class Mixture {
   std::vector<Row> rows() {
     std::vector<Row> all;
     for (int i = 0; i < 25; ++i)
-      all.push_back({any({"上", "下"}), any({"一班", "二班"}), any({"1", "2"}), any({"王", "李"}), any({"学费", "书费"}), any({"", "不足"}), day(), day(), day()});
+      all.push_back({any({"上", "下"}), any({"一班", "二班"}), any({"1", "2"}), any({"王", "李"}),
+                     any({"学费", "书费"}), any({"", "不足"}), day(), day(), day()});
     return all;
   }
 
@@ -85,7 +86,15 @@ TEST(ArrearsFilter, EveryMixtureGivesItsClauseAndItsRows) {
   Mixture mixture(7);
   const std::vector<Row> rows = mixture.rows();
   for (const Row& row : rows)
-    desk.add("qfjl", {{"xq", row.xq}, {"bjmc", row.bjmc}, {"xh", row.xh}, {"xm", row.xm}, {"sfxm", row.sfxm}, {"clfs", row.clfs}, {"qfrq", row.qfrq}, {"bjrq", row.bjrq}, {"sbjrq", row.sbjrq}});
+    desk.add("qfjl", {{"xq", row.xq},
+                      {"bjmc", row.bjmc},
+                      {"xh", row.xh},
+                      {"xm", row.xm},
+                      {"sfxm", row.sfxm},
+                      {"clfs", row.clfs},
+                      {"qfrq", row.qfrq},
+                      {"bjrq", row.bjrq},
+                      {"sbjrq", row.sbjrq}});
   int accepted = 0;
   for (int i = 0; i < 400; ++i) {
     auto s = opened<Formqfcl11>(desk);

@@ -18,9 +18,11 @@ TEST(ArrearsLedger, NumbersGoOnWithTheDayAndLeaveOnePerItemWithoutRows) {
     std::vector<Debt> debts;
     std::string numbers;
   } const cases[] = {
-      {"", {{"学费", {due(10, 1), due(11, 2), due(12, 3)}}, {"住宿费", {due(10, 4)}}},
+      {"",
+       {{"学费", {due(10, 1), due(11, 2), due(12, 3)}}, {"住宿费", {due(10, 4)}}},
        "20260907001 1|20260907002 2|20260907003 3|20260907004 4|"},
-      {"20260907012", {{"学费", {due(10, 1)}}, {"住宿费", {}}, {"书本费", {due(10, 2)}}},
+      {"20260907012",
+       {{"学费", {due(10, 1)}}, {"住宿费", {}}, {"书本费", {due(10, 2)}}},
        "20260907013 1|20260907015 2|"},
       {"20260906044", {{"学费", {std::nullopt, due(11, 1)}}}, "20260907002 1|"},
       {"20260908001", {{"学费", {due(10, 1)}}}, "20260907001 1|"},  // a clock that was set back
@@ -34,9 +36,8 @@ TEST(ArrearsLedger, NumbersGoOnWithTheDayAndLeaveOnePerItemWithoutRows) {
     addArrears(desk.store, entry, today);
     std::string numbers;
     store::RecordSet added(desk.store, "select * from qfjl where xh='20260001'");
-    store::forEach(added, [&](store::RecordSet& row) {
-      numbers += row.get("lsh").text() + " " + row.get("bjje").text() + "|";
-    });
+    store::forEach(
+        added, [&](store::RecordSet& row) { numbers += row.get("lsh").text() + " " + row.get("bjje").text() + "|"; });
     EXPECT_EQ(numbers, one.numbers);
   }
 }
@@ -89,8 +90,9 @@ TEST(Waiver, TheCardTestsNothing) {
   EXPECT_EQ(desk.states(), "1||40|不足\n2|2026-9-7|50|减免\n3||30|减免\n4||25|\n5||0|\n6||0.5|不足\n");
   desk.waives(true, all);
   EXPECT_TRUE(waiveAll(desk.desk, "1", WaivedFrom::Card));
-  EXPECT_EQ(desk.states(), "1|2026-9-7|100|减免\n2|2026-9-7|50|减免\n3|2026-9-7|30|减免\n4|2026-9-7|20|减免\n"
-                           "5||0|\n6||0.5|不足\n");
+  EXPECT_EQ(desk.states(),
+            "1|2026-9-7|100|减免\n2|2026-9-7|50|减免\n3|2026-9-7|30|减免\n4|2026-9-7|20|减免\n"
+            "5||0|\n6||0.5|不足\n");
 }
 
 TEST(Waiver, TheOverviewRefusesWhatIsDecided) {
@@ -108,8 +110,9 @@ TEST(Waiver, TheOverviewRefusesWhatIsDecided) {
   EXPECT_TRUE(waiveOne(desk.desk, "1", WaivedFrom::Overview));
   desk.waives(true, all);
   EXPECT_TRUE(waiveAll(desk.desk, "6", WaivedFrom::Overview));
-  EXPECT_EQ(desk.states(), "1|2026-9-7|100|减免\n2||50|结清\n3||30|减免\n4||25|\n5|2026-9-7|70|减免\n"
-                           "6|2026-9-7|10.5|减免\n");
+  EXPECT_EQ(desk.states(),
+            "1|2026-9-7|100|减免\n2||50|结清\n3||30|减免\n4||25|\n5|2026-9-7|70|减免\n"
+            "6|2026-9-7|10.5|减免\n");
 }
 
 }  // namespace

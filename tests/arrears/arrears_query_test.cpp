@@ -23,23 +23,51 @@ TEST(ArrearsQuery, ChainsWithTheOddSignBehindAnother) {
   };
   const Case cases[] = {
       {[](auto&) {}, "", 2},
-      {[](auto& s) { s.qfrq.day.type("2026-9-1"); s.qfrq.how.pick(">="); }, " where qfrq>=#2026-9-1#", 2},
-      {[](auto& s) { s.xq.type("2026学年"); s.qfrq.day.type("2026-9-2"); s.qfrq.how.pick(">="); s.bjrq.day.type("2026-12-1"); s.bjrq.how.pick("<="); s.clfs.type("不足"); },
+      {[](auto& s) {
+         s.qfrq.day.type("2026-9-1");
+         s.qfrq.how.pick(">=");
+       },
+       " where qfrq>=#2026-9-1#", 2},
+      {[](auto& s) {
+         s.xq.type("2026学年");
+         s.qfrq.day.type("2026-9-2");
+         s.qfrq.how.pick(">=");
+         s.bjrq.day.type("2026-12-1");
+         s.bjrq.how.pick("<=");
+         s.clfs.type("不足");
+       },
        " where xq='2026学年' and qfrq=>#2026-9-2# and bjrq<=#2026-12-1# and clfs='不足'", 1},
-      {[](auto& s) { s.qfrq.day.type("2026-9-7"); s.sbjrq.day.type("2026-9-8"); s.sbjrq.how.pick(">="); },
+      {[](auto& s) {
+         s.qfrq.day.type("2026-9-7");
+         s.sbjrq.day.type("2026-9-8");
+         s.sbjrq.how.pick(">=");
+       },
        " where qfrq=#2026-9-7# and sbjrq=>#2026-9-8#", 1},
       {[](auto& s) { s.period.choose(1); }, "  where qfrq=#2026-9-7#", 1},
       {[](auto& s) { s.period.choose(2); }, "  where month(qfrq)='9'", 2},
       {[](auto& s) { s.period.choose(3); }, "  where year(qfrq)='2026'", 2},
       {[](auto& s) { s.key.type("王"); },
-       "  where xm like  '%王%' or xq like  '%王%' or xh like  '%王%'  or qfrq like  '%王%' or bjmc like  '%王%' or clfs like  '%王%' or "
+       "  where xm like  '%王%' or xq like  '%王%' or xh like  '%王%'  or qfrq like  '%王%' or bjmc like  '%王%' or "
+       "clfs like  '%王%' or "
        "sfxm like  '%王%' or bjrq like  '%王%' or sbjrq like  '%王%' or skr like  '%王%'",
        2},
   };
   for (const Case& one : cases) {
     TestDesk desk;
-    desk.add("qfjl", {{"lsh", "1"}, {"xm", "王小明"}, {"xq", "2026学年"}, {"qfrq", "2026-9-7"}, {"bjrq", "2026-10-7"}, {"sbjrq", "2026-9-9"}, {"clfs", "不足"}});
-    desk.add("qfjl", {{"lsh", "2"}, {"xm", "王芳"}, {"xq", "2025学年"}, {"qfrq", "2026-9-1"}, {"bjrq", "2027-1-1"}, {"sbjrq", ""}, {"clfs", ""}});
+    desk.add("qfjl", {{"lsh", "1"},
+                      {"xm", "王小明"},
+                      {"xq", "2026学年"},
+                      {"qfrq", "2026-9-7"},
+                      {"bjrq", "2026-10-7"},
+                      {"sbjrq", "2026-9-9"},
+                      {"clfs", "不足"}});
+    desk.add("qfjl", {{"lsh", "2"},
+                      {"xm", "王芳"},
+                      {"xq", "2025学年"},
+                      {"qfrq", "2026-9-1"},
+                      {"bjrq", "2027-1-1"},
+                      {"sbjrq", ""},
+                      {"clfs", ""}});
     auto s = opened<Formqfcl11>(desk);
     one.fill(*s);
     (s->key.blank() ? s->confirm : s->search).press();
@@ -60,7 +88,8 @@ TEST(ArrearsQuery, TheOlderScreenGivesAChainToo) {
   s->of.type("计算机");
   s->clfs.type("不足");
   s->confirm.press();
-  EXPECT_EQ(desk.session.arrears_where.text(), " where left(xtbh,2)='11' and qfrq>=#2026-9-7# and qfrq<=#2026-9-7# and clfs='不足'");
+  EXPECT_EQ(desk.session.arrears_where.text(),
+            " where left(xtbh,2)='11' and qfrq>=#2026-9-7# and qfrq<=#2026-9-7# and clfs='不足'");
 }
 
 struct School : TestDesk {
@@ -68,9 +97,16 @@ struct School : TestDesk {
     std::mt19937 random(seed);
     const auto any = [&](std::vector<const char*> values) { return values[random() % values.size()]; };
     for (int i = 0; i < 40; ++i)
-      add("xs", {{"xh", "a" + std::to_string(i)}, {"xm", "学生" + std::to_string(i)}, {"bjmc", any({"一班", "二班"})}, {"sjhm", "138"}});
+      add("xs", {{"xh", "a" + std::to_string(i)},
+                 {"xm", "学生" + std::to_string(i)},
+                 {"bjmc", any({"一班", "二班"})},
+                 {"sjhm", "138"}});
     for (int i = 0; i < 90; ++i)
-      add("jfjl", {{"xh", (random() % 2 ? "a" : "A") + std::to_string(random() % 40)}, {"xq", any({"上", "下"})}, {"sfxm", any({"学费", "书费"})}, {"jfrq", any({"2026-9-1", "2026-9-5", "2026-10-1", ""})}, {"je", any({"100", "50.5", "-20"})}});
+      add("jfjl", {{"xh", (random() % 2 ? "a" : "A") + std::to_string(random() % 40)},
+                   {"xq", any({"上", "下"})},
+                   {"sfxm", any({"学费", "书费"})},
+                   {"jfrq", any({"2026-9-1", "2026-9-5", "2026-10-1", ""})},
+                   {"je", any({"100", "50.5", "-20"})}});
   }
 };
 
@@ -84,13 +120,16 @@ TEST(Comparison, AgreesWithAStatementForEveryStudent) {
     for (const PaymentQuestion& question : questions) {
       School school(seed);
       std::string unpaid, less, more;
-      RecordSet students(school.store, question.bjmc.empty() ? Sql("select * from xs") : Sql("select * from xs where bjmc='") + question.bjmc + "'");
+      RecordSet students(school.store, question.bjmc.empty()
+                                           ? Sql("select * from xs")
+                                           : Sql("select * from xs where bjmc='") + question.bjmc + "'");
       store::forEach(students, [&](RecordSet& student) {
         const std::string xh = student.get("xh").text();
         Sql filter = Sql(" where xh='") + xh + "'";
         if (!question.xq.empty()) filter += Sql(" and xq='") + question.xq + "'";
         if (!question.sfxm.empty()) filter += Sql(" and sfxm='") + question.sfxm + "'";
-        if (question.from) filter += Sql(" and jfrq>=#") + question.from->plain() + "# and jfrq<=#" + question.to->plain() + "#";
+        if (question.from)
+          filter += Sql(" and jfrq>=#") + question.from->plain() + "# and jfrq<=#" + question.to->plain() + "#";
         Money sum;
         RecordSet paid(school.store, Sql("select * from jfjl ") + filter);
         if (paid.empty()) unpaid += xh + "\n";
@@ -125,7 +164,8 @@ TEST(Comparison, TellsThePeriodAndItsResult) {
   s->searchUnpaid.press();
   EXPECT_TRUE(s->closed());
   EXPECT_EQ(school.session.arrears_list_mode, 2);
-  EXPECT_EQ(school.value("select * from qfjl_wjf", "xqrq") + school.value("select * from qfjl_wjf", "sfxm"), "从 2026-9-9 到 2026-9-10无任何交费记录");
+  EXPECT_EQ(school.value("select * from qfjl_wjf", "xqrq") + school.value("select * from qfjl_wjf", "sfxm"),
+            "从 2026-9-9 到 2026-9-10无任何交费记录");
 
   auto again = opened<Formqfcl11>(school);
   school.person.expect(Box::Stop, "应交金额不能为空！ ", "错误提示");

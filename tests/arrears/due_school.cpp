@@ -25,8 +25,7 @@ std::string number(sample::Random& random) {
   return random.percent(8) ? plain + " " : plain;
 }
 
-template <std::size_t N>
-Value anyOf(sample::Random& random, const std::array<const char*, N>& from) {
+template <std::size_t N> Value anyOf(sample::Random& random, const std::array<const char*, N>& from) {
   return random.percent(4) ? Value() : Value(random.pick(from));
 }
 
@@ -124,14 +123,10 @@ Sql standardsPlainly(support::TestDesk& test, const Due& chosen, RecordSet& stud
 
 Sql studentsPlainly(const Due& chosen) {
   switch (chosen.range) {
-    case Due::Range::Major:
-      return Sql("select * from xs where left(xtbh,2)='") + chosen.major_code + "' order by xtbh";
-    case Due::Range::Class:
-      return Sql("select * from xs where bjmc='") + chosen.value + "' order by xtbh";
-    case Due::Range::Form:
-      return Sql("select * from xs where rxxs='") + chosen.value + "' order by xtbh";
-    default:
-      return "select * from xs order by xtbh";
+    case Due::Range::Major: return Sql("select * from xs where left(xtbh,2)='") + chosen.major_code + "' order by xtbh";
+    case Due::Range::Class: return Sql("select * from xs where bjmc='") + chosen.value + "' order by xtbh";
+    case Due::Range::Form: return Sql("select * from xs where rxxs='") + chosen.value + "' order by xtbh";
+    default: return "select * from xs order by xtbh";
   }
 }
 

@@ -18,9 +18,15 @@ TEST(Pinyin, AnEntryIsMeantByItsTextOrItsInitials) {
     const char *entry, *typed;
     bool meant;
   };
-  const Case cases[] = {{"王小明", "wxm", true},       {"王小明", "XM", true},  {"王小明", "小", true},
-                        {"王小明", "wm", false},       {"20260001", "26", true}, {"学费", " xf ", true},
-                        {"计算机应用11001班", "11001", true}, {"学费", "", true},      {"学费", "费学", false}};
+  const Case cases[] = {{"王小明", "wxm", true},
+                        {"王小明", "XM", true},
+                        {"王小明", "小", true},
+                        {"王小明", "wm", false},
+                        {"20260001", "26", true},
+                        {"学费", " xf ", true},
+                        {"计算机应用11001班", "11001", true},
+                        {"学费", "", true},
+                        {"学费", "费学", false}};
   for (const Case& one : cases) EXPECT_EQ(meantBy(one.entry, one.typed), one.meant) << one.entry << " " << one.typed;
 }
 

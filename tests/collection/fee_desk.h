@@ -15,8 +15,12 @@ struct FeeDesk : support::TestDesk {
     session.SessionUser = "李芳";
     session.current_xh = " 20260001 ";
     session.standard_basis_class = session.only_items = true;
-    add("xs", {{"xh", "20260001"}, {"xm", "王小明"}, {"rxrq", base::Date{2026, 9, 1}}, {"rxxs", "统招"},
-               {"bjmc", "计算机1班"}, {"xtbh", "0101001"}});
+    add("xs", {{"xh", "20260001"},
+               {"xm", "王小明"},
+               {"rxrq", base::Date{2026, 9, 1}},
+               {"rxxs", "统招"},
+               {"bjmc", "计算机1班"},
+               {"xtbh", "0101001"}});
     if (!standards) return;
     standard("02", "住宿费", Money::yuan(600));
     standard("01", "学费", Money::yuan(2400));
@@ -29,8 +33,14 @@ struct FeeDesk : support::TestDesk {
   void item(const std::string& bh, const std::string& mc) { add("sfxmb", {{"sfxmbh", bh}, {"sfxmmc", mc}}); }
   void arrears(const std::string& lsh, const std::string& sfxm, base::Date bjrq, Money bjje, Money sbjje = {},
                const std::string& clfs = "") {
-    add("qfjl", {{"lsh", lsh}, {"xh", "20260001"}, {"sfxm", sfxm}, {"bjrq", bjrq}, {"bjje", bjje}, {"sbjje", sbjje},
-                 {"clfs", clfs}, {"qfts", 7}});
+    add("qfjl", {{"lsh", lsh},
+                 {"xh", "20260001"},
+                 {"sfxm", sfxm},
+                 {"bjrq", bjrq},
+                 {"bjje", bjje},
+                 {"sbjje", sbjje},
+                 {"clfs", clfs},
+                 {"qfts", 7}});
   }
   // As another computer would change them: the session does not know yet.
   void settings(const std::string& qfjz, bool qfcejz) {
@@ -51,7 +61,10 @@ inline std::string shown(const collection::Formzctsf4& window) {
   for (const collection::FeeLine& line : window.lines) {
     if (line.place.blank() && line.paid.blank()) continue;
     text += line.place.text() + "|" + line.sfxm.text() + "|" + line.due.text() + "|" +
-            (!line.tick.visible() ? "-" : line.tick.on() ? "x" : "o") + "|" + line.paid.text() + "\n";
+            (!line.tick.visible() ? "-"
+             : line.tick.on()     ? "x"
+                                  : "o") +
+            "|" + line.paid.text() + "\n";
   }
   return text;
 }

@@ -111,8 +111,9 @@ TEST(FeeWindowConfirm, ArrearsAreSettledAndRemarked) {
   desk.navigator.expect<Formzctsf5>([&](Formzctsf5&) { EXPECT_FALSE(desk.session.fee_normal_mode); });
   window->confirm.press();
   EXPECT_TRUE(desk.session.fee_normal_mode);
-  EXPECT_EQ(desk.dump("qfjl", "lsh|sbjrq|sbjje|clfs", "lsh"),
-            "20260601001|2026-9-7|500|结清\n20260601002|2026-9-7|100|不足\n20260601003||0|\n20260601004|2026-9-7|31|\n");
+  EXPECT_EQ(
+      desk.dump("qfjl", "lsh|sbjrq|sbjje|clfs", "lsh"),
+      "20260601001|2026-9-7|500|结清\n20260601002|2026-9-7|100|不足\n20260601003||0|\n20260601004|2026-9-7|31|\n");
   EXPECT_EQ(desk.count("select * from jfjl"), 3);
 }
 
@@ -151,7 +152,8 @@ TEST(FeeWindowConfirm, WithoutAShortfallItSavesOrDoesNothing) {
     bool on;
     std::string paid;
     long long rows;
-  } const cases[] = {{"学费", true, "2400", 1}, {"学费", true, "2500", 1}, {"学费", false, "2000", 1}, {"班费", true, "1", 0}};
+  } const cases[] = {
+      {"学费", true, "2400", 1}, {"学费", true, "2500", 1}, {"学费", false, "2000", 1}, {"班费", true, "1", 0}};
   for (const auto& one : cases) {
     FeeDesk desk;
     desk.settings(one.item, one.on);

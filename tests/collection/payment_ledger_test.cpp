@@ -35,7 +35,8 @@ TEST(PaymentLedger, NumbersFollowTheLastRow) {
 Receipt receiptOf(const std::string& skr, std::vector<PaidLine> lines) {
   Receipt receipt;
   receipt.xh = "20260001", receipt.xm = "王小明", receipt.bjmc = "计算机1班", receipt.xq = "2026学年下学期";
-  receipt.xtbh = "0101001", receipt.rxxs = "统招", receipt.jffs = "现金", receipt.skr = skr, receipt.jfrq = {2026, 8, 31};
+  receipt.xtbh = "0101001", receipt.rxxs = "统招", receipt.jffs = "现金", receipt.skr = skr,
+  receipt.jfrq = {2026, 8, 31};
   receipt.lines = std::move(lines);
   return receipt;
 }

@@ -19,8 +19,21 @@ struct Office : TestDesk {
     pay("2", "1002", "张三", "12001001", "2026-8-1", "书费", "12.5");
     pay("3", "1001", "王小明", "11001001", "2025-9-7", "学费", "100");
   }
-  void pay(const char* lsh, const char* xh, const char* xm, const char* xtbh, const char* day, const char* item, const char* je) {
-    add("jfjl", {{"lsh", lsh}, {"xh", xh}, {"xm", xm}, {"xtbh", xtbh}, {"bjmc", "一班"}, {"xq", "2026学年"}, {"jfrq", day}, {"sfxm", item}, {"je", je}, {"sftj", ""}, {"skr", "李强"}, {"fpbh", "10000001"}, {"jffs", "现金"}});
+  void pay(const char* lsh, const char* xh, const char* xm, const char* xtbh, const char* day, const char* item,
+           const char* je) {
+    add("jfjl", {{"lsh", lsh},
+                 {"xh", xh},
+                 {"xm", xm},
+                 {"xtbh", xtbh},
+                 {"bjmc", "一班"},
+                 {"xq", "2026学年"},
+                 {"jfrq", day},
+                 {"sfxm", item},
+                 {"je", je},
+                 {"sftj", ""},
+                 {"skr", "李强"},
+                 {"fpbh", "10000001"},
+                 {"jffs", "现金"}});
   }
   std::string where() const { return session.payment_where.text(); }
   long long found() { return count(Sql("select * from jfjl ") + session.payment_where); }
@@ -34,8 +47,16 @@ TEST(PaymentQuery, ChainsConditionsOrTakesAPeriod) {
   };
   const Case cases[] = {
       {[](auto&) {}, "", 3},
-      {[](auto& s) { s.sfxm.type("学费"); s.xq.type("2026学年"); }, " where xq='2026学年' and sfxm='学费'", 2},
-      {[](auto& s) { s.from.type("2026-8-1"); s.to.type("2026-9-30"); s.jffs.type("现金"); },
+      {[](auto& s) {
+         s.sfxm.type("学费");
+         s.xq.type("2026学年");
+       },
+       " where xq='2026学年' and sfxm='学费'", 2},
+      {[](auto& s) {
+         s.from.type("2026-8-1");
+         s.to.type("2026-9-30");
+         s.jffs.type("现金");
+       },
        " where jfrq>=#2026-8-1# and jfrq<=#2026-9-30# and jffs='现金'", 2},
       {[](auto& s) { s.period.choose(1); }, "  where jfrq=#2026-9-7#", 1},
       {[](auto& s) { s.period.choose(2); }, "  where month(jfrq)='9'", 2},
@@ -54,8 +75,10 @@ TEST(PaymentQuery, ChainsConditionsOrTakesAPeriod) {
   auto s = opened<Formzctsf31>(office);
   s->key.type("书");
   s->search.press();
-  EXPECT_EQ(office.where(), "  where xm like  '%书%' or xq like  '%书%' or xh like  '%书%' or jfrq like  '%书%' or bjmc like  '%书%' or "
-                            "jffs like  '%书%' or sfxm like  '%书%' or rxxs like  '%书%' or fpbh like  '%书%'");
+  EXPECT_EQ(
+      office.where(),
+      "  where xm like  '%书%' or xq like  '%书%' or xh like  '%书%' or jfrq like  '%书%' or bjmc like  '%书%' or "
+      "jffs like  '%书%' or sfxm like  '%书%' or rxxs like  '%书%' or fpbh like  '%书%'");
   EXPECT_EQ(office.found(), 1);
 }
 
@@ -82,14 +105,32 @@ TEST(PaymentQuery, ByScopeAndPeriod) {
   const Case cases[] = {
       {[](auto&) {}, " where jfrq>=#2026-9-7# and jfrq<=#2026-9-7# order by jfrq",
        "全校信息：从 2026-9-7 到 2026-9-7 共有交费记录 1 条，交费金额：300.00 元！ "},
-      {[](auto& s) { s.scope.choose(1); s.of.type("计算机"); s.from.type("2025-1-1"); s.sfxm.type("学费"); },
+      {[](auto& s) {
+         s.scope.choose(1);
+         s.of.type("计算机");
+         s.from.type("2025-1-1");
+         s.sfxm.type("学费");
+       },
        " where left(xtbh,2)='11' and jfrq>=#2025-1-1# and jfrq<=#2026-9-7# and sfxm='学费' order by jfrq",
        "专业信息：从 2025-1-1 到 2026-9-7 共有交费记录 2 条，交费金额：400.00 元！ "},
-      {[](auto& s) { s.scope.choose(2); s.of.type("一班"); s.period.choose(1); s.xq.type("2026学年"); s.sfxm.type("书费"); },
+      {[](auto& s) {
+         s.scope.choose(2);
+         s.of.type("一班");
+         s.period.choose(1);
+         s.xq.type("2026学年");
+         s.sfxm.type("书费");
+       },
        " where bjmc='一班' and xq='2026学年' and  sfxm='书费' order by jfrq",
        "班级信息：2026学年 共有交费记录 1 条，交费金额：12.50 元！ "},
-      {[](auto& s) { s.scope.choose(3); s.xh.type("1001"); s.xm.type("别人"); s.period.choose(1); s.xq.type("2026学年"); },
-       " where xh='1001' and xq='2026学年' order by jfrq", "学生信息：2026学年 共有交费记录 2 条，交费金额：400.00 元！ "},
+      {[](auto& s) {
+         s.scope.choose(3);
+         s.xh.type("1001");
+         s.xm.type("别人");
+         s.period.choose(1);
+         s.xq.type("2026学年");
+       },
+       " where xh='1001' and xq='2026学年' order by jfrq",
+       "学生信息：2026学年 共有交费记录 2 条，交费金额：400.00 元！ "},
   };
   for (const Case& one : cases) {
     Office office;
@@ -117,7 +158,10 @@ TEST(PaymentQuery, AScopeAsksForItsName) {
   s->scope.choose(3);
   refused("请输入学号或姓名！学号具有唯一性，建议用学号查询！     ");
   s->xm.type("王小明");
-  office.person.answer(false, Box::Ask, "您没有输入学号，将按姓名查询，同名学生的记录会一并列出，这样可能会导致查询结果不准确！您确认继续吗？      ", "操作提示");
+  office.person.answer(
+      false, Box::Ask,
+      "您没有输入学号，将按姓名查询，同名学生的记录会一并列出，这样可能会导致查询结果不准确！您确认继续吗？      ",
+      "操作提示");
   s->confirm.press();
   s->scope.choose(0);
   s->period.choose(1);
@@ -152,7 +196,8 @@ TEST(PaymentEdit, RefusesInItsOrderAndRewritesTheRow) {
   s->je.type("20");
   office.person.expect(Box::Information, "选定记录已修改！   ", "修改成功提示");
   s->confirm.press();
-  EXPECT_EQ(office.dump("jfjl", "lsh|xh|je|sftj|jfrq"), "1|1001|300||2026-9-7\n2|1002|20|*|2026-8-1\n3|1001|100||2025-9-7\n");
+  EXPECT_EQ(office.dump("jfjl", "lsh|xh|je|sftj|jfrq"),
+            "1|1001|300||2026-9-7\n2|1002|20|*|2026-8-1\n3|1001|100||2025-9-7\n");
 }
 
 TEST(PaymentEdit, DeletesTheRowAlone) {

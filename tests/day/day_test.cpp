@@ -1,8 +1,7 @@
 // What must hold at the end of any day at the front desk, and after a power cut in the middle of one.
+#include <gmock/gmock.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-#include <gmock/gmock.h>
 
 #include <filesystem>
 #include <map>
@@ -32,7 +31,7 @@ struct Books {
   };
   std::map<std::string, Receipt> receipts;
   std::map<std::string, Money> credited;  // by arrears row
-  std::map<std::string, int> happened;  // how often, by what was reported
+  std::map<std::string, int> happened;    // how often, by what was reported
   std::string digest, underWay;
   std::optional<Receipt> doing;
 
@@ -116,7 +115,8 @@ void expectSameSums(store::Store& store, Operator& desk) {
 }
 
 class Days : public testing::TestWithParam<unsigned> {};
-INSTANTIATE_TEST_SUITE_P(Seeds, Days, testing::Values(11u, 12u, 13u), [](const auto& seed) { return std::to_string(seed.param); });
+INSTANTIATE_TEST_SUITE_P(Seeds, Days, testing::Values(11u, 12u, 13u),
+                         [](const auto& seed) { return std::to_string(seed.param); });
 
 TEST_P(Days, LeaveTheBooksInAgreement) {
   support::TestDesk desk;
@@ -128,15 +128,18 @@ TEST_P(Days, LeaveTheBooksInAgreement) {
     if (i % 200 == 0) expectSameSums(desk.store, front);
   }
   expectAgreement(desk.store, books);
-  for (const auto& [what, times] : std::map<std::string, int>{{"paid", 300}, {"credited", 40}, {"waived", 20}, {"deleted", 30}, {"submitted", 20}, {"imported", 5}})
+  for (const auto& [what, times] : std::map<std::string, int>{
+           {"paid", 300}, {"credited", 40}, {"waived", 20}, {"deleted", 30}, {"submitted", 20}, {"imported", 5}})
     EXPECT_GT(books.happened[what], times) << what;
   EXPECT_THAT(front.stops(), testing::IsEmpty());
 }
 
 // A folder for a program that dies: in memory where there is such a place, since no machine is switched off here.
 struct Folder {
-  Folder() : path((std::filesystem::exists("/dev/shm") ? std::filesystem::path("/dev/shm") : std::filesystem::temp_directory_path()) /
-                  ("fee-office-day-" + std::to_string(getpid()))) {
+  Folder()
+      : path((std::filesystem::exists("/dev/shm") ? std::filesystem::path("/dev/shm")
+                                                  : std::filesystem::temp_directory_path()) /
+             ("fee-office-day-" + std::to_string(getpid()))) {
     std::filesystem::create_directories(path);
   }
   ~Folder() { std::filesystem::remove_all(path); }

@@ -46,10 +46,14 @@ void Operator::act() {
     int share;
     const char* name;
     std::function<void()> act;
-  } actions[] = {{45, "pay", [this] { pay(false); }},     {15, "payArrears", [this] { pay(true); }},
-                 {10, "enterArrears", [this] { enterArrears(); }}, {8, "waive", [this] { waive(); }},
-                 {8, "correct", [this] { correct(); }},   {8, "remove", [this] { remove(); }},
-                 {4, "submit", [this] { submit(); }},     {2, "importDue", [this] { importDue(); }}};
+  } actions[] = {{45, "pay", [this] { pay(false); }},
+                 {15, "payArrears", [this] { pay(true); }},
+                 {10, "enterArrears", [this] { enterArrears(); }},
+                 {8, "waive", [this] { waive(); }},
+                 {8, "correct", [this] { correct(); }},
+                 {8, "remove", [this] { remove(); }},
+                 {4, "submit", [this] { submit(); }},
+                 {2, "importDue", [this] { importDue(); }}};
   int roll = below(100);
   for (const auto& action : actions) {
     if ((roll -= action.share) >= 0) continue;
@@ -81,7 +85,8 @@ void Operator::lookUp(const std::string& xh, Fee fee) {
 }
 
 void Operator::pay(bool arrears) {
-  const std::string xh = arrears ? studentOf(pickLsh("select * from qfjl where sbjje<bjje and clfs<>'减免'")) : someStudent();
+  const std::string xh =
+      arrears ? studentOf(pickLsh("select * from qfjl where sbjje<bjje and clfs<>'减免'")) : someStudent();
   if (xh.empty()) return;
   lookUp(xh, arrears ? Fee::Arrears : Fee::Normal);
 }

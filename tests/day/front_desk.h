@@ -1,5 +1,6 @@
-// An operator at the console who does what comes: a seeded sequence of payments, arrears, waivers, corrections, deletions
-// and submissions through the screens, each reported as it is begun and when the screens have said that it is done.
+// An operator at the console who does what comes: a seeded sequence of payments, arrears, waivers, corrections,
+// deletions and submissions through the screens, each reported as it is begun and when the screens have said that it is
+// done.
 #pragma once
 
 #include <random>

@@ -8,8 +8,7 @@ namespace support {
 struct EditDesk : TestDesk {
   store::RecordSet edited{store};
 
-  template <class S>
-  std::unique_ptr<S> at(kit::Mode mode, const store::Sql& sql, int row = 0) {
+  template <class S> std::unique_ptr<S> at(kit::Mode mode, const store::Sql& sql, int row = 0) {
     edited.open(sql);
     edited.first();
     for (int i = 0; i < row; ++i) edited.next();
@@ -17,8 +16,7 @@ struct EditDesk : TestDesk {
     session.edited = &edited;
     return opened<S>(*this);
   }
-  template <class S>
-  std::unique_ptr<S> adding() {
+  template <class S> std::unique_ptr<S> adding() {
     session.EditMode = kit::Mode::Add;
     session.edited = nullptr;
     return opened<S>(*this);

@@ -20,11 +20,15 @@ class Sample : public Screen {
       store::RecordSet wrong = rows("select * from zymcb where nosuch='1'");
       second.set("不应到这里");
     });
-    leaving.onPress([this] { close(); first.set("关闭以后"); });
+    leaving.onPress([this] {
+      close();
+      first.set("关闭以后");
+    });
   }
   void load() override { majors.open("select * from zymcb order by zybh"); }
   Layout layout() override {
-    return {.root = column({form({first, hidden, second}), majors, buttons({confirm, broken, leaving})}), .confirm = &confirm};
+    return {.root = column({form({first, hidden, second}), majors, buttons({confirm, broken, leaving})}),
+            .confirm = &confirm};
   }
   Field first{*this, "first", "一"}, hidden{*this, "hidden", "二"}, second{*this, "second", "三"};
   Grid majors{*this, "majors", desk.store, {{"代号", "zybh"}, {"名称", "zymc"}}};
@@ -37,8 +41,8 @@ TEST(Screen, AFaultEndsTheEventAndIsToldOnceInWords) {
   auto s = opened<Sample>(test);
   test.person.expect(Box::Stop, "数据表“zymcb”中没有“nosuch”这一栏！", "错误提示");
   s->broken.press();
-  EXPECT_EQ(s->first.text(), "已改");      // what went before stays
-  EXPECT_EQ(s->second.text(), "随已改");   // a value set by code raises the same change as typing
+  EXPECT_EQ(s->first.text(), "已改");     // what went before stays
+  EXPECT_EQ(s->second.text(), "随已改");  // a value set by code raises the same change as typing
 }
 
 TEST(Screen, EnterMovesOverWhatIsHiddenAndConfirmsInTheEnd) {
@@ -93,9 +97,16 @@ TEST(Validation, StopsAtTheFirstBreachWithTheFocusInItsField) {
                                 {&s->first, blank(s->first), "不能为空", "二", Box::Warning},
                                 {&s->second, filledNotNumeric(s->second), "应该是数字", "三"},
                                 {&s->second, filledNotDate(s->second), "应该是日期", "四"}};
-  const struct { const char* first; const char* second; Box box; const char* text; const char* title; } cases[] = {
-      {"汉字四个", "x", Box::Stop, "太长", "一"}, {" ", "x", Box::Warning, "不能为空", "二"},
-      {"好", "x", Box::Stop, "应该是数字", "三"}, {"好", "12", Box::Stop, "应该是日期", "四"}};
+  const struct {
+    const char* first;
+    const char* second;
+    Box box;
+    const char* text;
+    const char* title;
+  } cases[] = {{"汉字四个", "x", Box::Stop, "太长", "一"},
+               {" ", "x", Box::Warning, "不能为空", "二"},
+               {"好", "x", Box::Stop, "应该是数字", "三"},
+               {"好", "12", Box::Stop, "应该是日期", "四"}};
   for (const auto& c : cases) {
     s->first.type(c.first);
     s->second.type(c.second);
@@ -122,7 +133,8 @@ TEST(List, ALongListReadsItsRowsWhenTheyAreLookedAt) {
   }
   auto s = opened<Sample>(test);
   ASSERT_EQ(s->majors.count(), 5000);
-  for (const long long row : {0, 1999, 2000, 4999, 3000, 2100}) EXPECT_EQ(s->majors.cell(row, 0), std::to_string(10000 + row));
+  for (const long long row : {0, 1999, 2000, 4999, 3000, 2100})
+    EXPECT_EQ(s->majors.cell(row, 0), std::to_string(10000 + row));
   s->majors.select(4321);
   EXPECT_EQ(s->majors.current()->get("zymc").text(), "专业4321");
   store::RecordSet(test.store, "select * from zymcb where zybh='14000'").remove();
@@ -131,10 +143,17 @@ TEST(List, ALongListReadsItsRowsWhenTheyAreLookedAt) {
 }
 
 TEST(List, ShowsEachFormat) {
-  const struct { store::Value value; Format format; const char* shown; } cases[] = {
-      {store::Value(" 王 "), Format::Text, "王"}, {store::Value(), Format::Money, ""}, {store::Value(""), Format::Date, ""},
-      {store::Value(base::Money::fen(1250)), Format::Money, "12.50"}, {store::Value("12.5"), Format::Padded, "    12.50"},
-      {store::Value(base::Date{2008, 9, 1}), Format::Date, "2008-9-1"}, {store::Value("2008-9-1"), Format::LongDate, "2008年9月1日"}};
+  const struct {
+    store::Value value;
+    Format format;
+    const char* shown;
+  } cases[] = {{store::Value(" 王 "), Format::Text, "王"},
+               {store::Value(), Format::Money, ""},
+               {store::Value(""), Format::Date, ""},
+               {store::Value(base::Money::fen(1250)), Format::Money, "12.50"},
+               {store::Value("12.5"), Format::Padded, "    12.50"},
+               {store::Value(base::Date{2008, 9, 1}), Format::Date, "2008-9-1"},
+               {store::Value("2008-9-1"), Format::LongDate, "2008年9月1日"}};
   for (const auto& c : cases) EXPECT_EQ(formatted(c.value, c.format), c.shown);
 }
 

@@ -1,5 +1,5 @@
-// Everything that fingers, scanners and pasted texts can put into a field, in every field of every screen: no screen may
-// fall over, every refusal is a message in words, and what was stored before stays readable.
+// Everything that fingers, scanners and pasted texts can put into a field, in every field of every screen: no screen
+// may fall over, every refusal is a message in words, and what was stored before stays readable.
 #include "app/screens.h"
 #include "support/test_desk.h"
 
@@ -8,7 +8,10 @@ namespace {
 struct PatientPerson : kit::Person {
   explicit PatientPerson(bool yes) : says(yes) {}
   void tell(kit::Box, const std::string& text, const std::string&) override { hear(text); }
-  bool ask(kit::Box, const std::string& text, const std::string&) override { hear(text); return says; }
+  bool ask(kit::Box, const std::string& text, const std::string&) override {
+    hear(text);
+    return says;
+  }
   std::optional<std::string> chooseFile(const std::string&, const std::string&) override { return std::nullopt; }
   void hear(const std::string& text) {
     EXPECT_FALSE(text.empty());
@@ -22,7 +25,10 @@ struct PassingNavigator : kit::Navigator {
   std::vector<kit::Screen*> standing() override { return {}; }
 
  protected:
-  void run(kit::Screen& screen) override { screen.start(); screen.close(); }
+  void run(kit::Screen& screen) override {
+    screen.start();
+    screen.close();
+  }
   void keep(std::unique_ptr<kit::Screen> screen) override { screen->close(); }
 };
 
@@ -31,14 +37,25 @@ struct BadInput {
   std::string text;
 };
 
-const std::vector<BadInput> inputs{
-    {"Quote", "x' or 'a'='a"},      {"Percent", "%_100%"},
-    {"Long", std::string(10000, '9')}, {"LongChinese", [] { std::string t; for (int i = 0; i < 3000; ++i) t += "王"; return t; }()},
-    {"Control", std::string("a\0b\x01\x1f\n\tc", 8)}, {"Emoji", "😀👨‍👩‍👧𠮷"},
-    {"BrokenUtf8", "\xFF\xC3("},    {"Blank", "   "},
-    {"Negative", "-12.345"},        {"Huge", "99999999999999999999999"},
-    {"WrongDate", "2026-02-30"},    {"Hash", "2026-1-1# or #2026-1-1"},
-    {"FullWidth", "１２３"},        {"NotANumber", "1e309"}};
+const std::vector<BadInput> inputs{{"Quote", "x' or 'a'='a"},
+                                   {"Percent", "%_100%"},
+                                   {"Long", std::string(10000, '9')},
+                                   {"LongChinese",
+                                    [] {
+                                      std::string t;
+                                      for (int i = 0; i < 3000; ++i) t += "王";
+                                      return t;
+                                    }()},
+                                   {"Control", std::string("a\0b\x01\x1f\n\tc", 8)},
+                                   {"Emoji", "😀👨‍👩‍👧𠮷"},
+                                   {"BrokenUtf8", "\xFF\xC3("},
+                                   {"Blank", "   "},
+                                   {"Negative", "-12.345"},
+                                   {"Huge", "99999999999999999999999"},
+                                   {"WrongDate", "2026-02-30"},
+                                   {"Hash", "2026-1-1# or #2026-1-1"},
+                                   {"FullWidth", "１２３"},
+                                   {"NotANumber", "1e309"}};
 
 class EveryField : public testing::TestWithParam<std::tuple<BadInput, bool>> {};
 
@@ -56,14 +73,17 @@ TEST_P(EveryField, TakesIt) {
     test.add("sfbzb", {{"bjmc", "甲班"}, {"sfxmmc", "学费"}, {"je", "300"}});
     PatientPerson person(yes);
     PassingNavigator navigator;
-    kit::Desk desk{test.session, test.store, person, navigator, test.clock, test.printer, test.sheets, test.desktop, test.progress};
+    kit::Desk desk{test.session, test.store,  person,       navigator,    test.clock,
+                   test.printer, test.sheets, test.desktop, test.progress};
     store::RecordSet row(test.store, "select * from bjzl");
     test.session.edited = &row;
     test.session.EditMode = kit::Mode::Modify;
 
     const auto screen = entry.make(desk);
     screen->start();
-    const auto usable = [&](const kit::Member* member) { return member->enabled() && member->visible() && !screen->closed(); };
+    const auto usable = [&](const kit::Member* member) {
+      return member->enabled() && member->visible() && !screen->closed();
+    };
     for (kit::Member* member : screen->members()) {
       if (member->kind != kit::MemberKind::Field || !usable(member)) continue;
       auto& field = static_cast<kit::Field&>(*member);
@@ -85,7 +105,8 @@ TEST_P(EveryField, TakesIt) {
 
 INSTANTIATE_TEST_SUITE_P(BadInput, EveryField, testing::Combine(testing::ValuesIn(inputs), testing::Bool()),
                          [](const auto& about) {
-                           return std::string(std::get<0>(about.param).name) + (std::get<1>(about.param) ? "Yes" : "No");
+                           return std::string(std::get<0>(about.param).name) +
+                                  (std::get<1>(about.param) ? "Yes" : "No");
                          });
 
 }  // namespace

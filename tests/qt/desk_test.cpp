@@ -66,7 +66,8 @@ TEST(Person, everyLineOfAMessageIsInSight) {
       EXPECT_TRUE(QTest::qWaitForWindowActive(message));
       const auto* label = message->findChild<QLabel*>("qt_msgbox_label");
       const QRect room(0, 0, label->contentsRect().width(), 10000);
-      const QRect needed = label->fontMetrics().boundingRect(room, label->wordWrap() ? Qt::TextWordWrap : 0, label->text());
+      const QRect needed =
+          label->fontMetrics().boundingRect(room, label->wordWrap() ? Qt::TextWordWrap : 0, label->text());
       EXPECT_GE(label->contentsRect().height(), needed.height()) << text;
       EXPECT_GE(label->contentsRect().width(), needed.width()) << text;
       QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
@@ -120,8 +121,8 @@ Middle::Middle(kit::Desk& all) : Screen(all, "Middle", "") {
 TEST(Navigator, keepsAScreenWhileItsHandlersRunAndEndsWithTheLastOne) {
   support::WindowDesk parts;
   qt::QtNavigator navigator({});
-  kit::Desk desk{parts.desk.session, parts.desk.store,   parts.desk.person,  navigator,
-                 parts.desk.clock,   parts.desk.printer, parts.desk.sheets, parts.desk.desktop, parts.desk.progress};
+  kit::Desk desk{parts.desk.session, parts.desk.store,  parts.desk.person,  navigator,          parts.desk.clock,
+                 parts.desk.printer, parts.desk.sheets, parts.desk.desktop, parts.desk.progress};
   std::vector<std::string> shown, standing;
   navigator.onShown = [&](qt::ScreenWindow& window) {
     shown.push_back(window.screen().name);

@@ -3,21 +3,21 @@
 
 #include <QCoreApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPrinter>
 #include <QProcess>
-#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include "collection/batch_voucher.h"
 #include "collection/receipt.h"
 #include "platform/desktop.h"
-#include "qt_test.h"
 #include "qt/printing/drawing_files.h"
 #include "qt/printing/drawing_painter.h"
 #include "qt/printing/preview_window.h"
 #include "qt/theme.h"
 #include "qt/xp_button.h"
+#include "qt_test.h"
 
 // The search for a face that has a character leaves patterns of the font library behind.
 extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig"; }

@@ -31,8 +31,8 @@ struct WindowDesk {
   TestDesk parts;
   QuietPerson person;
   QuietNavigator navigator;
-  kit::Desk desk{parts.session, parts.store,   person,        navigator,
-                 parts.clock,   parts.printer, parts.sheets, parts.desktop, parts.progress};
+  kit::Desk desk{parts.session, parts.store,  person,        navigator,     parts.clock,
+                 parts.printer, parts.sheets, parts.desktop, parts.progress};
 };
 
 void settle();  // handles all events there are

@@ -34,8 +34,7 @@ class RendererTest : public testing::Test {
     support::settle();
     screen.log.clear();
   }
-  template <class W = QWidget>
-  W& find(const char* member) {
+  template <class W = QWidget> W& find(const char* member) {
     auto* found = window.findChild<W*>(member);
     if (!found) throw std::runtime_error(std::string("no widget ") + member);
     return *found;
@@ -218,7 +217,8 @@ TEST_F(RendererTest, chosenRowsAreCopiedAsText) {
   view.setCurrentIndex(view.model()->index(1, 0));
   QTest::keyClick(&view, Qt::Key_Down, Qt::ShiftModifier);
   QTest::keySequence(&view, QKeySequence::Copy);
-  EXPECT_EQ(QGuiApplication::clipboard()->text(), "1002\t王小明\t学费及住宿费\t1201.00\n1003\t欧阳娜娜\t学费及住宿费\t1202.00\n");
+  EXPECT_EQ(QGuiApplication::clipboard()->text(),
+            "1002\t王小明\t学费及住宿费\t1201.00\n1003\t欧阳娜娜\t学费及住宿费\t1202.00\n");
 }
 
 TEST_F(RendererTest, drawnWidthsAreThereTheNextTime) {

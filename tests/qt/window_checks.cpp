@@ -102,10 +102,8 @@ std::vector<std::string> faults(qt::ScreenWindow& window) {
   const auto named = membersOf(layout);
   for (const kit::Member* member : screen.members()) {
     if (member->kind == kit::MemberKind::Timer) continue;
-    if (!named.contains(member))
-      found.insert("not in the layout: " + member->name);
-    else if (!window.findChild<QObject*>(qt::toQt(member->name)))
-      found.insert("without a widget: " + member->name);
+    if (!named.contains(member)) found.insert("not in the layout: " + member->name);
+    else if (!window.findChild<QObject*>(qt::toQt(member->name))) found.insert("without a widget: " + member->name);
     const auto* action = dynamic_cast<const kit::Action*>(member);
     if (action && !action->icon.empty() && qt::icon(qt::toQt(action->icon)).isNull())
       found.insert("no such icon: " + action->icon);

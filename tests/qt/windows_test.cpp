@@ -47,8 +47,7 @@ struct ClassDesk : support::WindowDesk {
 };
 
 // Whole, and nothing of it has moved, whatever the class.
-template <class S, class Choose>
-void proveWhole(Choose choose) {
+template <class S, class Choose> void proveWhole(Choose choose) {
   for (const int students : {7, 95}) {
     SCOPED_TRACE(students);
     ClassDesk desk(students);

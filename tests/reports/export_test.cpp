@@ -35,9 +35,10 @@ struct ExportDesk : support::TestDesk {
   }
   void told(const std::string& title, long long rows, const std::string& more = "") {
     const auto file = desktop.exportFolder() / (title + " 2026-09-07.xlsx");
-    person.expect(Box::Information,
-                  "“" + title + "”已导出，共 " + std::to_string(rows) + " 条记录，文件保存在：\n" + file.string() + more,
-                  "信息提示");
+    person.expect(
+        Box::Information,
+        "“" + title + "”已导出，共 " + std::to_string(rows) + " 条记录，文件保存在：\n" + file.string() + more,
+        "信息提示");
   }
   const support::RecordedSheet& last() const { return sheets.kept.back(); }
 };
@@ -121,14 +122,18 @@ TEST(Export, OneFieldIsHeadedDifferentlyInDifferentLists) {
     return base::join(desk.last().plan.headings, "|");
   };
   EXPECT_EQ(headings(List::Payments, "jfjl"),
-            "记录标识号|学号|姓名|院校及班级名称|交费所属学年学期|交费日期|交费方式|收据编号|收费项目名称|交费金额|是否提交|收款人");
-  EXPECT_EQ(headings(List::GraduatePayments, "bys_jfjl"),
-            "记录标识号|学号|姓名|院校及班级名称|交费所属学年学期|交费日期|收据编号|收费项目名称|交费金额|是否提交|收款人");
+            "记录标识号|学号|姓名|院校及班级名称|交费所属学年学期|交费日期|交费方式|收据编号|收费项目名称|交费金额|"
+            "是否提交|收款人");
+  EXPECT_EQ(
+      headings(List::GraduatePayments, "bys_jfjl"),
+      "记录标识号|学号|姓名|院校及班级名称|交费所属学年学期|交费日期|收据编号|收费项目名称|交费金额|是否提交|收款人");
   EXPECT_EQ(headings(List::Unpaid, "qfjl_wjf"),
             "学号|姓名|所在院校及班级名称|应交费所属学期或日期区间|应交费项目名称|联系电话|手机号码");
   EXPECT_EQ(headings(List::AssetStock, "wpkc"),
-            "资产设备后勤物资分类编号|资产设备后勤物资分类名称|资产设备后勤物资编号|资产设备后勤物资名称|规格型号|单位|库存数量|平均单价|总金额");
-  EXPECT_EQ(headings(List::AssetDesk, "wpgl").substr(0, std::string("类编号|类名称|登录日期").size()), "类编号|类名称|登录日期");
+            "资产设备后勤物资分类编号|资产设备后勤物资分类名称|资产设备后勤物资编号|资产设备后勤物资名称|规格型号|单位|"
+            "库存数量|平均单价|总金额");
+  EXPECT_EQ(headings(List::AssetDesk, "wpgl").substr(0, std::string("类编号|类名称|登录日期").size()),
+            "类编号|类名称|登录日期");
   // Two pay items: the columns behind them have no name.
   desk.add("gzmcb", {{"gzbh", "201"}, {"gzmc", "房租"}});
   desk.add("gzmcb", {{"gzbh", "101"}, {"gzmc", "基本工资"}});
@@ -174,7 +179,9 @@ TEST(Export, ASheetTakesSoManyRowsAndNoMore) {
   }
   desk.told("入学形式", mostRows, "\n未能启动电子表格程序，请到上述文件夹中打开此文件。");
   desk.desktop.opensDocuments = false;
-  const auto exported = [&] { exportToSheet(desk.desk, "入学形式", "select rxxs,bsh from rxxs", {{"rxxs", "入学形式"}}, {}); };
+  const auto exported = [&] {
+    exportToSheet(desk.desk, "入学形式", "select rxxs,bsh from rxxs", {{"rxxs", "入学形式"}}, {});
+  };
   exported();
   EXPECT_EQ(desk.last().rows.size(), static_cast<std::size_t>(mostRows));
   EXPECT_THAT(desk.last().plan.headings, testing::ElementsAre("入学形式", ""));

@@ -58,9 +58,7 @@ TEST(Income, OneWalkGivesWhatTheStatementsGive) {
       if (upTo(9) == 0) day = upTo(1) ? Value("") : Value();
       Value amount;
       if (upTo(9) != 0) amount = base::Money::ofUnits(upTo(90'000'000) - 30'000'000);
-      test.add("jfjl", {{"sfxm", items[static_cast<std::size_t>(upTo(8))]},
-                        {"jfrq", day},
-                        {"je", amount}});
+      test.add("jfjl", {{"sfxm", items[static_cast<std::size_t>(upTo(8))]}, {"jfrq", day}, {"je", amount}});
     }
     for (const Period period : {Period{2026, 9}, Period{2025, 12}, Period{2024, 1}, Period{2023, 6}})
       EXPECT_EQ(computed(test, period), asStated(test, period)) << seed << ", " << period.year << "-" << period.month;

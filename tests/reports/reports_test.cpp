@@ -37,14 +37,9 @@ void addRow(TestDesk& desk, const Report& report, int number) {
       case store::Type::Text:
         values.emplace_back(column.name, "一段比它的位置更长的文字" + std::to_string(number));
         break;
-      case store::Type::Date:
-        values.emplace_back(column.name, base::Date{2026, 9, 7});
-        break;
-      case store::Type::Money:
-        values.emplace_back(column.name, base::Money::fen(10 * number));
-        break;
-      default:
-        values.emplace_back(column.name, number);
+      case store::Type::Date: values.emplace_back(column.name, base::Date{2026, 9, 7}); break;
+      case store::Type::Money: values.emplace_back(column.name, base::Money::fen(10 * number)); break;
+      default: values.emplace_back(column.name, number);
     }
   }
   desk.add(report.table, values);

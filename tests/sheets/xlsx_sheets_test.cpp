@@ -33,7 +33,10 @@ std::string readBack(const fs::path& file) {
 struct XlsxSheetsTest : testing::Test {
   support::FakeDesktop desktop;
   XlsxSheets sheets;
-  SheetPlan plan{desktop.programFolder() / "我的 文档" / "导出", "学员交费记录 2026-09-07", "学员交费记录", {"学号", "日期", "金额", "数量"}};
+  SheetPlan plan{desktop.programFolder() / "我的 文档" / "导出",
+                 "学员交费记录 2026-09-07",
+                 "学员交费记录",
+                 {"学号", "日期", "金额", "数量"}};
 
   std::vector<std::string> filesThere() const {
     std::vector<std::string> names;
@@ -124,7 +127,8 @@ template <class Work> std::string faultOf(Work work) {
 TEST_F(XlsxSheetsTest, AFullDiskIsToldAndLeavesNothing) {
   const auto writeMany = [this](int rows) {
     const auto sheet = sheets.create(plan);
-    for (int i = 0; i < rows; ++i) sheet->add({std::to_string(i * 7919), base::Date{2026, 9, 7}, base::Money::fen(i), 1.0});
+    for (int i = 0; i < rows; ++i)
+      sheet->add({std::to_string(i * 7919), base::Date{2026, 9, 7}, base::Money::fen(i), 1.0});
     sheet->finish();
   };
   writeMany(2000);

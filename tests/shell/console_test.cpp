@@ -40,11 +40,27 @@ struct Office : TestDesk {
     pay("202609070001", "1001", "2026-9-7", "10000001", "300", "", "李强");
     pay("202609060001", "1001", "2026-9-6", "10000000", "12.5", "*", "李强");
   }
-  void pay(const char* lsh, const char* xh, const char* day, const char* receipt, const char* je, const char* sftj, const char* skr) {
-    add("jfjl", {{"lsh", lsh}, {"xh", xh}, {"xm", "王小明"}, {"jfrq", day}, {"fpbh", receipt}, {"je", je}, {"sftj", sftj}, {"skr", skr}, {"sfxm", "学费"}});
+  void pay(const char* lsh, const char* xh, const char* day, const char* receipt, const char* je, const char* sftj,
+           const char* skr) {
+    add("jfjl", {{"lsh", lsh},
+                 {"xh", xh},
+                 {"xm", "王小明"},
+                 {"jfrq", day},
+                 {"fpbh", receipt},
+                 {"je", je},
+                 {"sftj", sftj},
+                 {"skr", skr},
+                 {"sfxm", "学费"}});
   }
   void owe(const char* lsh, const char* xh, base::Date day, const char* bjje, const char* clfs = "") {
-    add("qfjl", {{"lsh", lsh}, {"xh", xh}, {"xm", "王小明"}, {"sfxm", "学费"}, {"bjrq", day}, {"bjje", bjje}, {"sbjje", 0}, {"clfs", clfs}});
+    add("qfjl", {{"lsh", lsh},
+                 {"xh", xh},
+                 {"xm", "王小明"},
+                 {"sfxm", "学费"},
+                 {"bjrq", day},
+                 {"bjje", bjje},
+                 {"sbjje", 0},
+                 {"clfs", clfs}});
   }
   void set(std::string_view column, store::Value value) {
     store::RecordSet settings(store, "select * from morvanedjpzb where fn='kqd'", store::Connection::Config);
@@ -91,7 +107,8 @@ TEST(Console, FindsByNumberAndShowsCardAndPayments) {
   EXPECT_EQ(s->card.frame.title(), "王小明同学学籍资料信息");
   EXPECT_EQ(s->payments.list.cell(0, 8), "    12.50");
   EXPECT_EQ(s->payments.list.cell(1, 0), "202609070001");
-  EXPECT_EQ(s->payments.bar.text(), "学生：王小明 从2026年9月6日到2026年9月7日共有交费记录数： 2 条，累计交费总额：312.50 元");
+  EXPECT_EQ(s->payments.bar.text(),
+            "学生：王小明 从2026年9月6日到2026年9月7日共有交费记录数： 2 条，累计交费总额：312.50 元");
   s->cd55.press();
   EXPECT_EQ(s->payments.bar.text(), "新交费记录： 1 条，累计金额：300.00 元");
   s->card.xm.click();
@@ -120,8 +137,14 @@ TEST(Console, SearchMessages) {
   Office office;
   office.set("sfctsz", 1);
   auto s = opened<Formzct>(office);
-  const auto byNumber = [&](const char* text) { s->card.xh.type(text); s->card.xh.enter(); };
-  const auto byName = [&](const char* text) { s->card.xm.type(text); s->card.xm.enter(); };
+  const auto byNumber = [&](const char* text) {
+    s->card.xh.type(text);
+    s->card.xh.enter();
+  };
+  const auto byName = [&](const char* text) {
+    s->card.xm.type(text);
+    s->card.xm.enter();
+  };
   office.person.expect(Box::Stop, "学号不能为空，请输入正确的学号！    ", "操作错误")
       .expect(Box::Stop, "学号应该是数字，请重新输入！    ", "错误提示")
       .expect(Box::Information, "找不到相关记录，请检查学号输入是否正确！    ", "信息提示")
@@ -218,7 +241,8 @@ TEST(Console, ExportsTheListInFrontUnderItsFilter) {
     office.session.arrears_list_mode = one.listMode;
     const std::string title = one.title, file = (office.desktop.exportFolder() / (title + " 2026-09-07.xlsx")).string();
     office.person
-        .answer(true, Box::Ask, std::string("此操作将导出") + one.object + "为EXCEL格式表，您确认继续吗？      ", "信息提示")
+        .answer(true, Box::Ask, std::string("此操作将导出") + one.object + "为EXCEL格式表，您确认继续吗？      ",
+                "信息提示")
         .expect(Box::Information,
                 "“" + title + "”已导出，共 " + std::to_string(one.rows) + " 条记录，文件保存在：\n" + file, "信息提示");
     s->k8.press();
@@ -344,7 +368,8 @@ TEST(Console, EditsArrearsFromTheOverview) {
   office.navigator.expect<arrears::Formqf>([](arrears::Formqf& edit) { EXPECT_EQ(edit.lsh.text(), "1"); });
   overview.list.doubleClick(0);
   overview.list.select(0);
-  office.navigator.expect<arrears::Formqfcl5>([&](arrears::Formqfcl5&) { EXPECT_EQ(office.session.arrears_selection, "1"); });
+  office.navigator.expect<arrears::Formqfcl5>(
+      [&](arrears::Formqfcl5&) { EXPECT_EQ(office.session.arrears_selection, "1"); });
   overview.button("删除").press();
 
   office.navigator.expect<arrears::Formqfcl>();  // left without a row: all rows stay in sight
@@ -381,15 +406,20 @@ TEST(Console, ShowsWhatAnImportHasAdded) {
   auto s = opened<Formzct>(office);
   s->k4.press();
   s->timer1.tick();
-  office.navigator.expect<arrears::Formqfcl2>([&](arrears::Formqfcl2&) { office.owe("1", "1001", {2026, 9, 13}, "100"); });
+  office.navigator.expect<arrears::Formqfcl2>([&](arrears::Formqfcl2&) {
+    office.owe("1", "1001", {2026, 9, 13}, "100");
+  });
   s->arrears_overview.button("导入").press();
   EXPECT_EQ(s->arrears_overview.list.count(), 1);
 }
 
 TEST(Console, SaysGoodbyeInItsOrder) {
-  const struct { const char* width; std::vector<std::pair<int, int>> modes; } cases[] = {
-      {"1024\n", {}}, {"1366\n", {{1024, 768}}}, {"800\n", {{800, 600}}}, {"1280\n", {{1280, 800}}}};
-  const std::string question = "您确认是要退出本系统吗？   \n选择“是”将关闭本窗口\n或者选择“否”撤消此操作！                     ";
+  const struct {
+    const char* width;
+    std::vector<std::pair<int, int>> modes;
+  } cases[] = {{"1024\n", {}}, {"1366\n", {{1024, 768}}}, {"800\n", {{800, 600}}}, {"1280\n", {{1280, 800}}}};
+  const std::string question =
+      "您确认是要退出本系统吗？   \n选择“是”将关闭本窗口\n或者选择“否”撤消此操作！                     ";
   for (const auto& c : cases) {
     Office office;
     auto s = opened<Formzct>(office);
@@ -397,7 +427,8 @@ TEST(Console, SaysGoodbyeInItsOrder) {
     office.person.answer(false, Box::Ask, question, "确认退出");
     EXPECT_FALSE(s->mayClose());
     EXPECT_EQ(office.count("select * from czjl where gjsj=''"), 1);
-    office.person.answer(true, Box::Ask, question, "确认退出").answer(true, Box::Ask, "退出之前是否备份数据库？        ", "备份提示");
+    office.person.answer(true, Box::Ask, question, "确认退出")
+        .answer(true, Box::Ask, "退出之前是否备份数据库？        ", "备份提示");
     s->k10.press();
     EXPECT_TRUE(s->closed());
     EXPECT_EQ(office.dump("czjl", "gjsj"), "2026-9-7 8:30:05\n");

@@ -1,8 +1,9 @@
+#include "shell/start.h"
+
 #include "shell/console.h"
 #include "shell/loading.h"
 #include "shell/login.h"
 #include "shell/splash.h"
-#include "shell/start.h"
 #include "support/test_desk.h"
 #include "upkeep/first_run.h"
 #include "upkeep/users.h"
@@ -44,7 +45,9 @@ TEST(Splash, LeadsToTheFirstRunScreenWithoutUsersAndToTheLoginWithThem) {
   splash->timer.tick();
   EXPECT_TRUE(test.navigator.find<Formcsh5>());
   EXPECT_TRUE(splash->closed());
-  EXPECT_NE(test.session.MainConnection.find("\\mv_Database\\morvanegxgl.mdb;Jet OLEDB:Database Password='kestrelboatfield7416'"), std::string::npos);
+  EXPECT_NE(test.session.MainConnection.find(
+                "\\mv_Database\\morvanegxgl.mdb;Jet OLEDB:Database Password='kestrelboatfield7416'"),
+            std::string::npos);
   EXPECT_NE(test.session.ConfigConnection.find("\\配置文件\\morvanedjpz.mdb"), std::string::npos);
 }
 
@@ -80,8 +83,9 @@ TEST(Login, SetsTheSessionUpAndMarksWhatThisComputerLeftOpen) {
   EXPECT_EQ(test.session.SessionLevel, "一般操作员");
   EXPECT_EQ(test.session.SessionStart, "2026-9-7 8:30:05");
   EXPECT_FALSE(test.session.Rights[31]);
-  EXPECT_EQ(test.dump("czjl", "yhxm|jsjmc|kjsj|gjsj"),
-            "甲|收费一号机|2026-9-6 8:00:00|强行中断\n乙|收费二号机|2026-9-7 8:00:00|\n李强|收费一号机|2026-9-7 8:30:05|\n");
+  EXPECT_EQ(
+      test.dump("czjl", "yhxm|jsjmc|kjsj|gjsj"),
+      "甲|收费一号机|2026-9-6 8:00:00|强行中断\n乙|收费二号机|2026-9-7 8:00:00|\n李强|收费一号机|2026-9-7 8:30:05|\n");
   EXPECT_TRUE(test.navigator.find<Formcsh1>());
   EXPECT_FALSE(s->panel.visible());
 }
@@ -91,14 +95,18 @@ TEST(Login, StepsThroughTheNinePictures) {
   addClerk(test);
   const auto folder = test.desktop.programFolder() / "背景图";
   std::filesystem::create_directories(folder);
-  for (int i = 1; i <= 9; ++i) platform::writeFile(folder / ("morvane" + std::to_string(i) + ".jpg"), "picture " + std::to_string(i));
+  for (int i = 1; i <= 9; ++i)
+    platform::writeFile(folder / ("morvane" + std::to_string(i) + ".jpg"), "picture " + std::to_string(i));
   const auto setPicture = [&](int number) {
     store::RecordSet settings(test.store, "select * from morvanedjpzb where fn='kqd'", Connection::Config);
     settings.set("tupan", number);
     settings.update();
   };
-  const struct { int stored; const char* shown; const char* stepped; } cases[] = {
-      {3, "picture 3", "picture 4"}, {9, "picture 9", "picture 1"}, {0, "", ""}, {12, "", ""}};
+  const struct {
+    int stored;
+    const char* shown;
+    const char* stepped;
+  } cases[] = {{3, "picture 3", "picture 4"}, {9, "picture 9", "picture 1"}, {0, "", ""}, {12, "", ""}};
   for (const auto& c : cases) {
     setPicture(c.stored);
     auto s = opened<Formcsh5>(test);

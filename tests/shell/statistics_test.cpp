@@ -22,7 +22,8 @@ struct School : TestDesk {
     session.Rights.fill(true);
     add("zymcb", {{"zybh", "11"}, {"zymc", "计算机"}});
     add("zymcb", {{"zybh", "12"}, {"zymc", "护理"}});
-    for (const char* name : {"计算机1班", "护理A班", "空班"}) add("bjzl", {{"zybh", "11"}, {"bjdh", name}, {"bjmc", name}});
+    for (const char* name : {"计算机1班", "护理A班", "空班"})
+      add("bjzl", {{"zybh", "11"}, {"bjdh", name}, {"bjmc", name}});
   }
   Money sum(const Sql& sql, const char* column) {
     Money total;
@@ -38,9 +39,21 @@ struct School : TestDesk {
     const std::vector<store::Value> amounts{"0", "12.5", "300", "-4.25", "1000", store::Value()};
     const std::vector<store::Value> days{"2026-9-7", "2026-9-1", "2025-9-30", "2026-10-2", "", store::Value()};
     for (int i = 0; i < 120; ++i) {
-      add("xs", {{"xh", std::to_string(i)}, {"bjmc", any(classes)}, {"xb", any({"男", "女", "", store::Value()})}, {"xtbh", any({"1101", "1202", "1", store::Value()})}});
-      add("jfjl", {{"sfxm", any({"学费", "书费A", "书费a", "住宿费"})}, {"je", any(amounts)}, {"sftj", any({"", "*", "x", store::Value()})}, {"skr", any({"李强", "王芳", "LI", "li"})}, {"jfrq", any(days)}});
-      add("qfjl", {{"xh", any({"1", "2", "a3", "A3"})}, {"bjmc", any(classes)}, {"bjje", any(amounts)}, {"sbjje", any(amounts)}, {"clfs", any({"", "减免", "结清", store::Value()})}, {"bjrq", any(days)}});
+      add("xs", {{"xh", std::to_string(i)},
+                 {"bjmc", any(classes)},
+                 {"xb", any({"男", "女", "", store::Value()})},
+                 {"xtbh", any({"1101", "1202", "1", store::Value()})}});
+      add("jfjl", {{"sfxm", any({"学费", "书费A", "书费a", "住宿费"})},
+                   {"je", any(amounts)},
+                   {"sftj", any({"", "*", "x", store::Value()})},
+                   {"skr", any({"李强", "王芳", "LI", "li"})},
+                   {"jfrq", any(days)}});
+      add("qfjl", {{"xh", any({"1", "2", "a3", "A3"})},
+                   {"bjmc", any(classes)},
+                   {"bjje", any(amounts)},
+                   {"sbjje", any(amounts)},
+                   {"clfs", any({"", "减免", "结清", store::Value()})},
+                   {"bjrq", any(days)}});
     }
   }
 };
@@ -66,27 +79,37 @@ TEST(Statistics, AgreeWithAStatementForEveryLine) {
     for (const auto& row : payments.first) {
       const Sql item = Sql("select * from jfjl where sfxm='") + row[0] + "'";
       const Money all = school.sum(item, "je"), submitted = school.sum(item + " and sftj='*'", "je");
-      EXPECT_EQ(tail(row), (std::vector{base::paddedAmount(all), base::paddedAmount(submitted), base::paddedAmount(all - submitted)}));
+      EXPECT_EQ(tail(row), (std::vector{base::paddedAmount(all), base::paddedAmount(submitted),
+                                        base::paddedAmount(all - submitted)}));
     }
     for (const auto& row : payments.second)
-      EXPECT_EQ(row[1], base::paddedAmount(school.sum(Sql("select * from jfjl where skr='") + row[0] + "' and sftj=''", "je")));
+      EXPECT_EQ(row[1],
+                base::paddedAmount(school.sum(Sql("select * from jfjl where skr='") + row[0] + "' and sftj=''", "je")));
     const Money kept = school.sum("select * from jfjl where sftj=''", "je");
-    EXPECT_NE(payments.totals.find("前台未提交笔数：" + base::caption(school.count("select * from jfjl where sftj=''")) + " 笔，金额：" + kept.fixed2()), std::string::npos);
+    EXPECT_NE(
+        payments.totals.find("前台未提交笔数：" + base::caption(school.count("select * from jfjl where sftj=''")) +
+                             " 笔，金额：" + kept.fixed2()),
+        std::string::npos);
 
     const Statistics arrears = arrearsStatistics(school.store, {2026, 9, 7});
     std::size_t open = 0;
     RecordSet groups(school.store, "select bjmc from qfjl group by bjmc");
     store::forEach(groups, [&](RecordSet& group) {
-      const Sql of = Sql("select * from qfjl where bjmc='") + group.get("bjmc").text() + "'and sbjje<bjje and clfs<>'减免'";
+      const Sql of =
+          Sql("select * from qfjl where bjmc='") + group.get("bjmc").text() + "'and sbjje<bjje and clfs<>'减免'";
       if (school.count(of) == 0) return;
-      const long long who = school.count(Sql("select xh from qfjl where bjmc='") + group.get("bjmc").text() + "'and sbjje<bjje and clfs<>'减免' group by xh");
-      const std::vector<std::string> line{arrears.first.at(open)[0], std::to_string(who), base::paddedAmount(school.sum(of, "bjje") - school.sum(of, "sbjje"))};
+      const long long who = school.count(Sql("select xh from qfjl where bjmc='") + group.get("bjmc").text() +
+                                         "'and sbjje<bjje and clfs<>'减免' group by xh");
+      const std::vector<std::string> line{arrears.first.at(open)[0], std::to_string(who),
+                                          base::paddedAmount(school.sum(of, "bjje") - school.sum(of, "sbjje"))};
       EXPECT_EQ(arrears.first[open++], line);
     });
     for (const auto& row : arrears.second) {
       const Sql of = Sql("select * from qfjl where bjmc='") + row[0] + "' and month(bjrq)='9'";
-      const Money due = school.sum(of, "bjje"), paid = school.sum(of, "sbjje"), waived = school.sum(of + " and clfs='减免'", "sbjje");
-      EXPECT_EQ(row[1] + row[2] + row[3] + row[4], base::paddedAmount(due) + base::paddedAmount(paid - waived) + base::paddedAmount(waived) + base::paddedAmount(due - paid));
+      const Money due = school.sum(of, "bjje"), paid = school.sum(of, "sbjje"),
+                  waived = school.sum(of + " and clfs='减免'", "sbjje");
+      EXPECT_EQ(row[1] + row[2] + row[3] + row[4], base::paddedAmount(due) + base::paddedAmount(paid - waived) +
+                                                       base::paddedAmount(waived) + base::paddedAmount(due - paid));
     }
   }
 }
@@ -103,8 +126,11 @@ TEST(Statistics, OperatorsWithNothingKeptHaveNoLine) {
   pay("赵云", "2026-9-6", "-20");
   pay("钱进", "2026-9-6", "20", "*");
   const Statistics payments = paymentStatistics(school.store);
-  EXPECT_EQ(payments.second, (Rows{{"李强", "   312.50", "2026年9月5日到2026年9月7日发生"}, {"王芳", "      20.00", "2026年9月6日发生"}}));
-  EXPECT_EQ(payments.totals, "记录总数： 6 笔，总金额：352.50 元，其中  已提交笔数： 1 笔，金额：20.00 元；前台未提交笔数： 5 笔，金额：332.50 元 ！");
+  EXPECT_EQ(payments.second, (Rows{{"李强", "   312.50", "2026年9月5日到2026年9月7日发生"},
+                                   {"王芳", "      20.00", "2026年9月6日发生"}}));
+  EXPECT_EQ(payments.totals,
+            "记录总数： 6 笔，总金额：352.50 元，其中  已提交笔数： 1 笔，金额：20.00 元；前台未提交笔数： 5 "
+            "笔，金额：332.50 元 ！");
 }
 
 // Opens a panel and its statistics bar, as the timers do.
@@ -121,10 +147,14 @@ std::unique_ptr<Formzct> console(TestDesk& desk, kit::Action& (*entry)(Formzct&)
 
 TEST(Statistics, ALineOfStudentsOpensItsClass) {
   School school;
-  for (const char* xb : {"男", "男", "女"}) school.add("xs", {{"xh", "1"}, {"bjmc", "计算机1班"}, {"xb", xb}, {"xtbh", "1101"}});
+  for (const char* xb : {"男", "男", "女"})
+    school.add("xs", {{"xh", "1"}, {"bjmc", "计算机1班"}, {"xb", xb}, {"xtbh", "1101"}});
   school.add("xs", {{"xh", "9"}, {"bjmc", "别的班"}});
-  auto s = console(school, [](Formzct& c) -> kit::Action& { return c.k2; }, [](Formzct& c) -> Overview& { return c.students_overview; });
-  EXPECT_EQ(s->students_overview.statistics.totals.text(), "全校总人数： 4 人，其中 男生人数： 2 人，女生人数： 2 人！");
+  auto s = console(
+      school, [](Formzct& c) -> kit::Action& { return c.k2; },
+      [](Formzct& c) -> Overview& { return c.students_overview; });
+  EXPECT_EQ(s->students_overview.statistics.totals.text(),
+            "全校总人数： 4 人，其中 男生人数： 2 人，女生人数： 2 人！");
   StatisticsBar& bar = s->students_overview.statistics;
   long long line = 0;
   while (bar.first.cell(line, 0) != "计算机1班") ++line;
@@ -139,7 +169,9 @@ TEST(Statistics, ALineOfPaymentsOpensWhatIsNotSubmitted) {
   School school;
   school.add("jfjl", {{"sfxm", "学费"}, {"je", "300"}, {"sftj", ""}, {"skr", "李强"}, {"jfrq", "2026-9-7"}});
   school.add("jfjl", {{"sfxm", "住宿费"}, {"je", "100"}, {"sftj", "*"}, {"skr", "李强"}, {"jfrq", "2026-9-7"}});
-  auto s = console(school, [](Formzct& c) -> kit::Action& { return c.k3; }, [](Formzct& c) -> Overview& { return c.payments_overview; });
+  auto s = console(
+      school, [](Formzct& c) -> kit::Action& { return c.k3; },
+      [](Formzct& c) -> Overview& { return c.payments_overview; });
   StatisticsBar& bar = s->payments_overview.statistics;
   const long long dormitory = bar.first.cell(0, 0) == "住宿费" ? 0 : 1;
   school.person.expect(Box::Information, "前台没有该收费项目的未提交记录！    ", "信息提示");
@@ -153,23 +185,31 @@ TEST(Statistics, ALineOfPaymentsOpensWhatIsNotSubmitted) {
 TEST(Statistics, LinesOfArrearsOpenTheClassAndItsMonth) {
   School school;
   const auto owe = [&](const char* day, const char* due, const char* paid, const char* state) {
-    school.add("qfjl", {{"xh", "1"}, {"bjmc", "计算机1班"}, {"bjrq", day}, {"bjje", due}, {"sbjje", paid}, {"clfs", state}});
+    school.add("qfjl",
+               {{"xh", "1"}, {"bjmc", "计算机1班"}, {"bjrq", day}, {"bjje", due}, {"sbjje", paid}, {"clfs", state}});
   };
   owe("2026-9-1", "100", "0", "");
-  owe("2025-9-1", "200", "50", "不足");   // the year does not count
+  owe("2025-9-1", "200", "50", "不足");  // the year does not count
   owe("2026-9-3", "80", "80", "减免");
   owe("2026-10-3", "10", "0", "");
   school.add("qfjl_wjf", {{"xh", "7"}, {"xm", "王小明"}});
-  auto s = console(school, [](Formzct& c) -> kit::Action& { return c.k4; }, [](Formzct& c) -> Overview& { return c.arrears_overview; });
+  auto s = console(
+      school, [](Formzct& c) -> kit::Action& { return c.k4; },
+      [](Formzct& c) -> Overview& { return c.arrears_overview; });
   Overview& overview = s->arrears_overview;
-  EXPECT_EQ(overview.statistics.totals.text(), "本月应收欠费总额：380.00 元；已收回：50.00 元；减免：80.00 元；尚欠：250.00 元；收回比例：34%");
+  EXPECT_EQ(overview.statistics.totals.text(),
+            "本月应收欠费总额：380.00 元；已收回：50.00 元；减免：80.00 元；尚欠：250.00 元；收回比例：34%");
   overview.statistics.first.doubleClick(0);
   EXPECT_EQ(overview.bar.text(), "记录个数： 3 条，欠费总额：260.00 元 ！");
   long long line = 0;
   while (overview.statistics.second.cell(line, 0) != "计算机1班") ++line;
   overview.statistics.second.doubleClick(line);
-  EXPECT_EQ(overview.bar.text(), "本月欠费记录个数： 3 条，欠费总额：380.00 元；已收回欠费：50.00 元；减免欠费：80.00 元；还有 250.00 元欠费需要催收！");
-  EXPECT_EQ(overview.figures[0].text() + " " + overview.figures[1].text() + " " + overview.figures[2].text(), "390.00 130.00 80.00") << "of the whole book";
+  EXPECT_EQ(overview.bar.text(),
+            "本月欠费记录个数： 3 条，欠费总额：380.00 元；已收回欠费：50.00 元；减免欠费：80.00 元；还有 250.00 "
+            "元欠费需要催收！");
+  EXPECT_EQ(overview.figures[0].text() + " " + overview.figures[1].text() + " " + overview.figures[2].text(),
+            "390.00 130.00 80.00")
+      << "of the whole book";
   school.session.arrears_list_mode = 2;
   school.session.arrears_where = {};
   s->cd82.press();
@@ -183,12 +223,17 @@ TEST(Clearing, TakesAPanelsTablesBehindTwoWarnings) {
   const std::string more = "选择“是”继续；否则，点“否”撤销此操作！   \n\n";
   school.add("xs", {{"xh", "1"}});
   school.add("jfjl", {{"xh", "1"}, {"je", "5"}});
-  auto s = console(school, [](Formzct& c) -> kit::Action& { return c.k3; }, [](Formzct& c) -> Overview& { return c.payments_overview; });
-  school.person.answer(true, Box::AskStop, "您确认是要清空系统中所有交费记录吗？   ", "警告").answer(false, Box::AskStop, more + "数据清空后不可恢复！您确认继续吗？    ", "再次警告");
+  auto s = console(
+      school, [](Formzct& c) -> kit::Action& { return c.k3; },
+      [](Formzct& c) -> Overview& { return c.payments_overview; });
+  school.person.answer(true, Box::AskStop, "您确认是要清空系统中所有交费记录吗？   ", "警告")
+      .answer(false, Box::AskStop, more + "数据清空后不可恢复！您确认继续吗？    ", "再次警告");
   s->k9.press();
   EXPECT_EQ(school.count("select * from jfjl"), 1);
   for (const char* said : {"交费记录信息已全部清空 ！        ", "不存在需要清空的记录！  "}) {
-    school.person.answer(true, Box::AskStop, "您确认是要清空系统中所有交费记录吗？   ", "警告").answer(true, Box::AskStop, more + "数据清空后不可恢复！您确认继续吗？    ", "再次警告").expect(Box::Information, said, "信息提示");
+    school.person.answer(true, Box::AskStop, "您确认是要清空系统中所有交费记录吗？   ", "警告")
+        .answer(true, Box::AskStop, more + "数据清空后不可恢复！您确认继续吗？    ", "再次警告")
+        .expect(Box::Information, said, "信息提示");
     s->k9.press();
   }
   EXPECT_EQ(school.count("select * from jfjl"), 0);

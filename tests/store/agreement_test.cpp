@@ -71,16 +71,11 @@ class ServerEngines : public testing::Test {
   Value valueFor(const Column& column) {
     if (random_() % 8 == 0) return {};
     switch (column.type) {
-      case Type::Date:
-        return one(oddDates);
-      case Type::DateTime:
-        return one(oddMoments);
-      case Type::Number:
-        return std::strtod(one(oddNumbers).c_str(), nullptr);
-      case Type::Money:
-        return one(oddAmounts);
-      default:
-        return one(oddTexts);
+      case Type::Date: return one(oddDates);
+      case Type::DateTime: return one(oddMoments);
+      case Type::Number: return std::strtod(one(oddNumbers).c_str(), nullptr);
+      case Type::Money: return one(oddAmounts);
+      default: return one(oddTexts);
     }
   }
   void fill(std::string_view table, int rows) {
@@ -122,14 +117,10 @@ class ServerEngines : public testing::Test {
                            "month(qfrq)", "year(xm)", "month(bjrq)", "-qfts"};
     static const Texts literals{"7", "100.5", "0.5", "-1", "true", "#2008-9-1#", "#1999/1/1#"};
     switch (random_() % 5) {
-      case 0:
-        return "'" + quotable(one(oddTexts)) + "'";
-      case 1:
-        return one(literals);
-      case 2:
-        return "'" + one(random_() % 2 ? oddDates : oddAmounts) + "'";
-      default:
-        return one(own);
+      case 0: return "'" + quotable(one(oddTexts)) + "'";
+      case 1: return one(literals);
+      case 2: return "'" + one(random_() % 2 ? oddDates : oddAmounts) + "'";
+      default: return one(own);
     }
   }
   static std::string quotable(std::string text) {
@@ -141,20 +132,13 @@ class ServerEngines : public testing::Test {
     static const Texts arithmetic{"+", "-", "*", "/"};
     static const Texts patterns{"%", "王%", "a%", "%B%", "_", "__", "\\%", "2008-9-1%", "1%", "%0", "%.5", "[%"};
     switch (random_() % (depth > 0 ? 8 : 5)) {
-      case 0:
-        return value() + (random_() % 3 ? " like '" : " not like '") + one(patterns) + "'";
-      case 1:
-        return value() + (random_() % 2 ? " is null" : " is not null");
-      case 2:
-        return value() + one(arithmetic) + value() + one(signs) + value();
-      case 5:
-        return "not (" + condition(depth - 1) + ")";
-      case 6:
-        return "(" + condition(depth - 1) + " or " + condition(depth - 1) + ")";
-      case 7:
-        return condition(depth - 1) + " and " + condition(depth - 1);
-      default:
-        return value() + one(signs) + value();
+      case 0: return value() + (random_() % 3 ? " like '" : " not like '") + one(patterns) + "'";
+      case 1: return value() + (random_() % 2 ? " is null" : " is not null");
+      case 2: return value() + one(arithmetic) + value() + one(signs) + value();
+      case 5: return "not (" + condition(depth - 1) + ")";
+      case 6: return "(" + condition(depth - 1) + " or " + condition(depth - 1) + ")";
+      case 7: return condition(depth - 1) + " and " + condition(depth - 1);
+      default: return value() + one(signs) + value();
     }
   }
   void expectSame(const std::string& text) {

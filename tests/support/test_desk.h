@@ -1,5 +1,5 @@
-// A desk for tests: a real store, in memory or (STORE_ENGINE=postgres) on the throw-away server, and around it a person, a navigator, a clock, a printer and a computer that
-// follow a script and remember what happened.
+// A desk for tests: a real store, in memory or (STORE_ENGINE=postgres) on the throw-away server, and around it a
+// person, a navigator, a clock, a printer and a computer that follow a script and remember what happened.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -25,8 +25,8 @@ class ScriptedPerson : public kit::Person {
   explicit ScriptedPerson(store::Store& store) : store_(store) {}
   ~ScriptedPerson() override;
 
-  ScriptedPerson& expect(kit::Box box, std::string text, std::string title);             // a message
-  ScriptedPerson& answer(bool yes, kit::Box box, std::string text, std::string title);   // a question
+  ScriptedPerson& expect(kit::Box box, std::string text, std::string title);            // a message
+  ScriptedPerson& answer(bool yes, kit::Box box, std::string text, std::string title);  // a question
   void pickFile(std::optional<std::string> path) { files_.push_back(std::move(path)); }
 
   void tell(kit::Box box, const std::string& text, const std::string& title) override { met(box, text, title); }
@@ -94,9 +94,15 @@ class FakeDesktop : public platform::Desktop {
   std::string computerName() override { return computer; }
   std::filesystem::path programFolder() override { return folder_; }
   void SetDisplayMode(int width, int height, int, int) override { modes.push_back({width, height}); }
-  bool startProgram(const std::filesystem::path& program) override { started.push_back(program); return true; }
+  bool startProgram(const std::filesystem::path& program) override {
+    started.push_back(program);
+    return true;
+  }
   std::filesystem::path exportFolder() override { return folder_ / "导出"; }
-  bool openDocument(const std::filesystem::path& file) override { documents.push_back(file); return opensDocuments; }
+  bool openDocument(const std::filesystem::path& file) override {
+    documents.push_back(file);
+    return opensDocuments;
+  }
 
   platform::WorkArea area{0, 0, 1366, 728};
   std::string computer = "收费一号机";
@@ -112,7 +118,10 @@ class FakeDesktop : public platform::Desktop {
 struct RecordingProgress : kit::Progress {
   std::vector<std::string> texts;
   bool shown = false;
-  void show(const std::string& text, long long, long long) override { texts.push_back(text); shown = true; }
+  void show(const std::string& text, long long, long long) override {
+    texts.push_back(text);
+    shown = true;
+  }
   void hide() override { shown = false; }
 };
 

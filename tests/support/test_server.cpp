@@ -28,8 +28,8 @@ class Administrator {
  public:
   explicit Administrator(const std::string& database)
       : connection_(PQconnectdb(("host=" + variable("STORE_TEST_SERVER") + " user=tests dbname=" + database +
-                                " options='-c client_min_messages=warning'")
-                                   .c_str()),
+                                 " options='-c client_min_messages=warning'")
+                                    .c_str()),
                     PQfinish) {
     if (PQstatus(connection_.get()) != CONNECTION_OK) throw std::runtime_error(PQerrorMessage(connection_.get()));
   }

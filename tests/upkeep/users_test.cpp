@@ -1,3 +1,5 @@
+#include "upkeep/users.h"
+
 #include "support/test_desk.h"
 #include "upkeep/first_run.h"
 #include "upkeep/password.h"
@@ -5,7 +7,6 @@
 #include "upkeep/user_edit.h"
 #include "upkeep/user_list.h"
 #include "upkeep/user_rights.h"
-#include "upkeep/users.h"
 
 namespace upkeep {
 namespace {
@@ -138,12 +139,17 @@ TEST(PasswordChange, TestsInOrderThenChanges) {
   addUser(test.store, "李强", "一般操作员", "old", test.clock.now());
   test.session.SessionUser = "李强";
   auto s = opened<Formyhxx3>(test);
-  const struct { const char* was; const char* now; const char* again; const char* text; const char* title; } refused[] = {
-      {"", "", "", "您必须输入旧密码！     ", "操作提示"},
-      {"x", "", "", "您必须输入新密码！     ", "操作提示"},
-      {"x", "n", " ", "您必须对新密码进行确认！     ", "操作提示"},
-      {"x", "n", "m", "旧密码错误，不能进行修改操作！     ", "错误提示"},
-      {"old", "n", "m", "新密码与验证码不相符！     ", "错误提示"}};
+  const struct {
+    const char* was;
+    const char* now;
+    const char* again;
+    const char* text;
+    const char* title;
+  } refused[] = {{"", "", "", "您必须输入旧密码！     ", "操作提示"},
+                 {"x", "", "", "您必须输入新密码！     ", "操作提示"},
+                 {"x", "n", " ", "您必须对新密码进行确认！     ", "操作提示"},
+                 {"x", "n", "m", "旧密码错误，不能进行修改操作！     ", "错误提示"},
+                 {"old", "n", "m", "新密码与验证码不相符！     ", "错误提示"}};
   for (const auto& c : refused) {
     s->old_password.type(c.was);
     s->new_password.type(c.now);

@@ -16,8 +16,8 @@ kit::Layout Formqfcl::layout() {
   return {.root = column({
               group("学生", {form({wide(xh, 10), wide(xm, 8), wide(bjmc, 14), wide(xq, 12), wide(qfts, 4)}, 5)}),
               status,
-              kit::lines({"收费项目", "欠费总额", "首期补交日期", "首期金额", "二期补交日期", "二期金额", "三期补交日期",
-                          "三期金额"},
+              kit::lines({"收费项目", "欠费总额", "首期补交日期", "首期金额", "二期补交日期", "二期金额",
+                          "三期补交日期", "三期金额"},
                          std::move(grid)),
               buttons({confirm, cancel}),
           }),

@@ -1,5 +1,6 @@
-#include "collection/payment_edit.h"
 #include "collection/payment_query.h"
+
+#include "collection/payment_edit.h"
 
 namespace collection {
 
@@ -14,7 +15,8 @@ Layout Formzctsf31::layout() {
 }
 
 Layout Formzctsf1::layout() {
-  return {.root = column({form({lsh, xh, xm, bjmc, xq, jfrq, fpbh, sfxm, je, jffs, sftj, skr}, 2), buttons({confirm, cancel})}),
+  return {.root = column(
+              {form({lsh, xh, xm, bjmc, xq, jfrq, fpbh, sfxm, je, jffs, sftj, skr}, 2), buttons({confirm, cancel})}),
           .confirm = &confirm,
           .cancel = &cancel,
           .width = 640};

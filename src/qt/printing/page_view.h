@@ -11,7 +11,7 @@ class PageView : public QWidget {
  public:
   explicit PageView(const platform::Drawing& drawing, QWidget* parent = nullptr);
   void show(std::size_t page, double zoom);  // zoom 1 is the size of the paper
-  void highlight(const QRectF& place);  // millimetres of the page shown; null for none
+  void highlight(const QRectF& place);       // millimetres of the page shown; null for none
   QRect placeInView(const QRectF& place) const;
   // The zoom at which the paper is as wide as the room given, in pixels.
   double zoomForWidth(int room) const;

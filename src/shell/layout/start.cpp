@@ -7,12 +7,16 @@ namespace shell {
 using namespace kit;
 
 Layout Form1::layout() {
-  return {.root = column({stretch(), product, note("正在启动 ..."), stretch()}), .width = 560, .height = 320, .frameless = true};
+  return {.root = column({stretch(), product, note("正在启动 ..."), stretch()}),
+          .width = 560,
+          .height = 320,
+          .frameless = true};
 }
 
 // The panel stands at the lower right over the background picture; login_view places it.
 Layout Formcsh5::layout() {
-  return {.root = custom("login", {background, group(panel, {school, form({wide(yhxm, 12), wide(yhmm, 12)}), buttons({login, cancel})})}),
+  return {.root = custom("login", {background, group(panel, {school, form({wide(yhxm, 12), wide(yhmm, 12)}),
+                                                             buttons({login, cancel})})}),
           .confirm = &login,
           .cancel = &cancel,
           .frameless = true,
@@ -20,7 +24,10 @@ Layout Formcsh5::layout() {
 }
 
 Layout Formcsh2::layout() {
-  return {.root = column({product, form({version, date}), buttons({cancel})}), .confirm = &cancel, .cancel = &cancel, .width = 420};
+  return {.root = column({product, form({version, date}), buttons({cancel})}),
+          .confirm = &cancel,
+          .cancel = &cancel,
+          .width = 420};
 }
 
 }  // namespace shell

@@ -2,8 +2,8 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
-#include <algorithm>
 #include <QSplitter>
+#include <algorithm>
 
 #include "qt/theme.h"
 #include "shell/console.h"
@@ -79,7 +79,8 @@ class ConsoleArea : public QWidget {
       console_.class_strip.press();
     // A shown overview stands alone: what it covers must neither shine through nor take the focus.
     if ((event->type() == QEvent::Show || event->type() == QEvent::Hide) && object != strip_ && object != front_)
-      front_->setVisible(std::none_of(covers_.begin(), covers_.end(), [](QWidget* cover) { return cover->isVisibleTo(cover->parentWidget()); }));
+      front_->setVisible(std::none_of(covers_.begin(), covers_.end(),
+                                      [](QWidget* cover) { return cover->isVisibleTo(cover->parentWidget()); }));
     return QWidget::eventFilter(object, event);
   }
 

@@ -33,9 +33,11 @@ class LoginArea : public QWidget {
   void paintEvent(QPaintEvent*) override {
     if (picture_.isNull()) return;
     QPainter painter(this);
-    const QPixmap cover = picture_.scaled(size() * devicePixelRatioF(), Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
-    painter.drawPixmap(rect(), cover, QRect(QPoint((cover.width() - int(width() * devicePixelRatioF())) / 2, 0),
-                                            size() * devicePixelRatioF()));
+    const QPixmap cover =
+        picture_.scaled(size() * devicePixelRatioF(), Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+    painter.drawPixmap(
+        rect(), cover,
+        QRect(QPoint((cover.width() - int(width() * devicePixelRatioF())) / 2, 0), size() * devicePixelRatioF()));
   }
   void mouseDoubleClickEvent(QMouseEvent*) override { login_.background.doubleClick(); }
 

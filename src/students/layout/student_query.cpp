@@ -5,8 +5,8 @@ namespace students {
 using namespace kit;
 
 Layout Formzctxscx1::layout() {
-  const Node conditions = column({form({zymc, bjmc, xh, xm, xb, mz, zzmm, rxxs, spanning(byxx, 2)}, 2),
-                                  row({csrq.node(), rxrq.node()})});
+  const Node conditions =
+      column({form({zymc, bjmc, xh, xm, xb, mz, zzmm, rxxs, spanning(byxx, 2)}, 2), row({csrq.node(), rxrq.node()})});
   return {.root = column({queryNode(conditions), buttons({single, clearAll, confirm, cancel})}),
           .confirm = &confirm,
           .cancel = &cancel,

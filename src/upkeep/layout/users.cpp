@@ -20,7 +20,8 @@ Layout Formyhxx2::layout() {
 }
 
 Layout Formyhxx3::layout() {
-  return {.root = column({form({wide(old_password, 14), wide(new_password, 14), wide(repeated, 14)}), buttons({confirm, cancel})}),
+  return {.root = column(
+              {form({wide(old_password, 14), wide(new_password, 14), wide(repeated, 14)}), buttons({confirm, cancel})}),
           .confirm = &confirm,
           .cancel = &cancel};
 }
