@@ -6,7 +6,7 @@ set(WARNINGS -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor -Woverlo
     -Wno-restrict)  # GCC 12 sees overlaps in optimised text + text that are not there
 
 function(include_tree target out)
-  set(tree ${CMAKE_SOURCE_DIR}/build/include/${target})
+  set(tree ${CMAKE_BINARY_DIR}/include/${target})
   file(MAKE_DIRECTORY ${tree})
   file(GLOB old ${tree}/*)
   foreach(link ${old})
@@ -23,6 +23,21 @@ function(include_tree target out)
   set(${out} ${tree} PARENT_SCOPE)
 endfunction()
 
+# The standard library's headers, compiled once for all that is compiled alike.
+function(standard_headers target)
+  if(TARGET standard_headers)
+    target_precompile_headers(${target} REUSE_FROM standard_headers)
+    return()
+  endif()
+  file(WRITE ${CMAKE_BINARY_DIR}/empty.cpp "")
+  add_library(standard_headers STATIC ${CMAKE_BINARY_DIR}/empty.cpp)
+  target_compile_options(standard_headers PRIVATE ${WARNINGS})
+  target_precompile_headers(standard_headers PRIVATE
+    <algorithm> <array> <chrono> <deque> <filesystem> <functional> <map> <memory> <optional> <random> <set> <span> <sstream>
+    <stdexcept> <string> <string_view> <unordered_map> <utility> <variant> <vector>)
+  target_precompile_headers(${target} REUSE_FROM standard_headers)
+endfunction()
+
 function(room name)
   cmake_parse_arguments(ROOM "" "" "DEPENDS;LINK" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp ${CMAKE_SOURCE_DIR}/src/${name}/layout/*.cpp)
@@ -37,6 +52,7 @@ function(room name)
   target_include_directories(${name} PRIVATE ${tree})
   target_compile_options(${name} PRIVATE ${WARNINGS})
   target_link_libraries(${name} PUBLIC ${ROOM_DEPENDS} ${ROOM_LINK})
+  standard_headers(${name})
 endfunction()
 
 # program(NAME source DEPENDS rooms...): an executable in bin/ that sees the rooms named.
@@ -47,5 +63,6 @@ function(program name source)
   target_include_directories(${name} PRIVATE ${tree})
   target_compile_options(${name} PRIVATE ${WARNINGS})
   target_link_libraries(${name} PRIVATE ${PROGRAM_DEPENDS})
+  standard_headers(${name})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 endfunction()
