@@ -23,7 +23,7 @@ function(gui_target name)
   set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
   target_include_directories(${name} PRIVATE ${tree})
   target_compile_options(${name} PRIVATE ${WARNINGS})
-  target_link_libraries(${name} PUBLIC ${GUI_LINK})
+  target_link_libraries(${name} PUBLIC ${GUI_LINK} Qt6::Widgets Qt6::PrintSupport Qt6::Svg)
   window_headers(${name})
 endfunction()
 
