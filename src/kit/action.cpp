@@ -19,6 +19,10 @@ void Action::press() {
   raise(press_);
 }
 
+void Action::invoke() {
+  if (enabled() && visible()) raise(press_);
+}
+
 Check::Check(Screen& screen, std::string own, std::string words, bool ticked)
     : Member(screen, MemberKind::Check, std::move(own)), caption_(std::move(words)), on_(ticked) {}
 
@@ -92,6 +96,13 @@ void Timer::start() {
 void Timer::stop() {
   running_ = false;
   changed();
+}
+
+void Timer::onceTicked(Handler handler) {
+  onTick([this, handler = std::move(handler)] {
+    stop();
+    handler();
+  });
 }
 
 void Timer::tick() {

@@ -19,7 +19,8 @@ class Action : public Member {
   bool link = false;          // words alone, red under the mouse
 
   void onPress(Handler handler) { press_.push_back(std::move(handler)); }
-  void press();  // the person's side
+  void press();   // the person's side
+  void invoke();  // code's side: does nothing when a person could not press it
 
  private:
   std::string caption_;
@@ -96,6 +97,7 @@ class Timer : public Member {
   void start();
   void stop();
   void onTick(Handler handler) { tick_.push_back(std::move(handler)); }
+  void onceTicked(Handler handler);  // stops, then handles: for what is done once its screen has been painted
   void tick();  // does nothing while stopped
 
  private:

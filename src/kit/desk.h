@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "kit/session.h"
@@ -33,8 +34,9 @@ class Person {
 class Navigator {
  public:
   virtual ~Navigator() = default;
-  // Modal: returns when the screen has been closed.
-  template <class S> void open(Desk& desk);
+  // Modal: returns when the screen has been closed. What the screen is opened with goes to its constructor, and what it
+  // found out comes back: a screen with an `answer` hands that over, however it was left.
+  template <class S, class... With> auto open(Desk& desk, With&&... with);
   // Puts a screen on the desk and returns; the navigator keeps it until it is closed. The program ends with the last
   // one.
   template <class S> void stand(Desk& desk);
@@ -69,9 +71,10 @@ struct Desk {
   Progress& progress;
 };
 
-template <class S> void Navigator::open(Desk& desk) {
-  S screen(desk);
+template <class S, class... With> auto Navigator::open(Desk& desk, With&&... with) {
+  S screen(desk, std::forward<With>(with)...);
   run(screen);
+  if constexpr (requires { screen.answer; }) return std::move(screen.answer);
 }
 
 template <class S> void Navigator::stand(Desk& desk) { keep(std::make_unique<S>(desk)); }

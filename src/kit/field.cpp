@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "base/text.h"
+#include "kit/rows.h"
 #include "kit/screen.h"
 
 namespace kit {
@@ -19,6 +20,21 @@ void Field::setLabel(std::string label) {
 
 std::string Field::trimmed() const { return base::trim(text_); }
 bool Field::blank() const { return base::blank(text_); }
+
+base::Money Field::money() const { return base::Money::leading(trimmed()); }
+std::optional<base::Date> Field::date() const { return base::Date::parse(trimmed()); }
+
+void Field::offers(store::Sql sql, std::string column) {
+  offers([sql = std::move(sql)] { return sql; }, std::move(column));
+}
+
+void Field::offers(std::function<store::Sql()> sql, std::string column) {
+  onDrop([this, sql = std::move(sql), column = std::move(column)] {
+    std::vector<std::string> found = columnTexts(screen_.desk.store, sql(), column);
+    std::erase(found, "");
+    setChoices(std::move(found));
+  });
+}
 
 void Field::set(std::string text) { replace(std::move(text)); }
 

@@ -3,7 +3,10 @@
 
 #include <optional>
 
+#include "base/date.h"
+#include "base/money.h"
 #include "kit/member.h"
+#include "store/sql.h"
 
 namespace kit {
 
@@ -21,11 +24,16 @@ class Field : public Member {
   const std::string& text() const { return text_; }
   std::string trimmed() const;
   bool blank() const;
+  base::Money money() const;                // what a number at its beginning says; 0 without one
+  std::optional<base::Date> date() const;   // nothing when the text is no day
   void set(std::string text);  // raises change as typing does
   void clear() { set(""); }
 
   const std::vector<std::string>& choices() const { return choices_; }
   void setChoices(std::vector<std::string> choices);
+  // Drops down one column of what the statement finds at that moment, without blank entries.
+  void offers(store::Sql sql, std::string column);
+  void offers(std::function<store::Sql()> sql, std::string column);
 
   std::optional<Colour> colour() const { return colour_; }  // of the text
   void setColour(std::optional<Colour> colour);

@@ -32,6 +32,13 @@ std::string majorCode(store::Store& store, const std::string& zymc);
 // " where " before the first that has a value, " and " before the others; empty when none has one.
 store::Sql chain(const std::vector<Condition>& conditions);
 
+// What a query answers: the clause of the list, and what its bar or its status line says of it (empty: the list's own
+// words). A query that was left without asking answers nothing.
+struct Filter {
+  store::Sql where{};
+  std::string heading{};
+};
+
 // The key behind each piece, the end behind the last: "  where xm like  '%" key "%' or xb like  '%" key ….
 store::Sql keywordChain(const std::vector<store::Sql>& pieces, const std::string& key, const store::Sql& end);
 

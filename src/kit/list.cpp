@@ -52,6 +52,7 @@ void List::setColumns(std::vector<ListColumn> columns) {
 void List::empty() {
   cells_.clear();
   marks_.clear();
+  count_ = 0;
   behind_.reset();
   window_.clear();
   windowFrom_ = -1;
@@ -64,9 +65,14 @@ void List::clear() {
   changed();
 }
 
-void List::addRow(const std::vector<std::string>& cells) {
+void List::addRow(const std::vector<std::string>& cells, std::int64_t mark) {
   if (cells.size() != columns_.size()) throw std::logic_error(name + " takes one cell a column");
   for (const std::string& cell : cells) cells_.add(cell);
+  if (mark != 0) {
+    marks_.resize(static_cast<std::size_t>(count_));
+    marks_.push_back(mark);
+  }
+  ++count_;
   ++version_;
   changed();
 }
@@ -79,29 +85,25 @@ void List::addCells(store::RecordSet& row, Cells& cells) const {
 void List::fill(store::RecordSet& set, const std::function<void(store::RecordSet&)>& visit) {
   empty();
   const bool mayMark = set.hasMarks();
-  long long kept = 0;
   store::forEach(set, [&](store::RecordSet& row) {
-    if (mayMark && kept >= keptRows) marks_.push_back(row.mark());
-    else addCells(row, cells_), ++kept;
+    if (mayMark) marks_.push_back(row.mark());
+    if (!mayMark || count_ < keptRows) addCells(row, cells_);
+    ++count_;
     if (visit) visit(row);
   });
-  if (!marks_.empty()) behind_ = set.another();
+  if (mayMark && count_ > keptRows) behind_ = set.another();
   changed();
 }
 
-long long List::count() const {
-  return columns_.empty() ? 0 : static_cast<long long>(cells_.count() / columns_.size() + marks_.size());
-}
+long long List::count() const { return count_; }
 
 void List::showWindow(long long row) const {
-  const auto first = static_cast<long long>(cells_.count() / columns_.size());
-  windowFrom_ = std::max(first, row - windowRows / 4);
+  windowFrom_ = std::max(keptRows, row - windowRows / 4);
   window_.clear();
-  const auto marks = std::span(marks_).subspan(static_cast<std::size_t>(windowFrom_ - first));
+  const auto marks = std::span(marks_).subspan(static_cast<std::size_t>(windowFrom_));
   behind_->visit(marks.first(std::min<std::size_t>(windowRows, marks.size())), [this](bool there) {
     if (there) return addCells(*behind_, window_);
-    for (std::size_t i = 0; i < columns_.size(); ++i)
-      window_.add("");  // a row deleted meanwhile: its place stays, blank
+    for (std::size_t i = 0; i < columns_.size(); ++i) window_.add("");  // deleted meanwhile: its place stays, blank
   });
 }
 
@@ -126,6 +128,16 @@ void List::setSelected(long long row) {
 
 std::string List::key() const { return selected_ < 0 ? "" : std::string(cell(selected_, 0)); }
 
+std::int64_t List::mark() const {
+  const auto row = static_cast<std::size_t>(selected_);
+  return selected_ < 0 || row >= marks_.size() ? 0 : marks_[row];
+}
+
+void List::selectMark(std::int64_t mark) {
+  const auto found = mark == 0 ? marks_.end() : std::find(marks_.begin(), marks_.end(), mark);
+  if (found != marks_.end()) setSelected(found - marks_.begin());
+}
+
 void List::doubleClick(long long row) {
   mustBeReachable();
   screen_.run([&] {
@@ -134,9 +146,8 @@ void List::doubleClick(long long row) {
   });
 }
 
-Grid::Grid(Screen& screen, std::string own, store::Store& store, std::vector<ListColumn> table, std::string words,
-           store::Connection connection)
-    : List(screen, std::move(own), std::move(table), std::move(words)), set_(store, connection) {}
+Grid::Grid(Screen& screen, std::string own, store::Store& store, std::vector<ListColumn> table, std::string words)
+    : List(screen, std::move(own), std::move(table), std::move(words)), set_(store) {}
 
 void Grid::open(const store::Sql& sql) {
   set_.open(sql);
@@ -144,17 +155,17 @@ void Grid::open(const store::Sql& sql) {
 }
 
 void Grid::reload() {
-  const long long place = selected();
+  const std::int64_t before = mark();
   set_.refresh();
   fill(set_);
-  if (place >= 0 && count() > 0) setSelected(std::min(place, count() - 1));
+  selectMark(before);
 }
 
 store::RecordSet* Grid::current() {
-  if (selected() < 0) return nullptr;
-  set_.first();
-  for (long long row = 0; row < selected() && !set_.atEnd(); ++row) set_.next();
-  return set_.atEnd() ? nullptr : &set_;
+  const std::int64_t wanted = mark();
+  bool there = false;
+  if (wanted != 0) set_.visit(std::span(&wanted, 1), [&](bool found) { there = found; });
+  return there ? &set_ : nullptr;
 }
 
 Tree::Tree(Screen& screen, std::string own) : Member(screen, MemberKind::Tree, std::move(own)) {}

@@ -46,8 +46,9 @@ class List : public Member {
   const std::string label;
 
   void clear();
-  void addRow(const std::vector<std::string>& cells);
+  void addRow(const std::vector<std::string>& cells, std::int64_t mark = 0);
   // Empties the list and fills it from the set, first to last, by the columns. visit sees each row as it is added.
+  // Nothing is selected then.
   void fill(store::RecordSet& set, const std::function<void(store::RecordSet&)>& visit = {});
   long long count() const;
   long long version() const { return version_; }                   // another one whenever the rows are others
@@ -56,6 +57,10 @@ class List : public Member {
   long long selected() const { return selected_; }  // -1: none
   void setSelected(long long row);                  // raises select
   std::string key() const;                          // first cell of the selected row, "" when none is selected
+  // What an action works on: the row that was selected, whatever has become of the rows around it. 0: none is selected,
+  // or it stands in no table.
+  std::int64_t mark() const;
+  void selectMark(std::int64_t mark);  // goes back to a row, when it is in the list
 
   std::vector<Action*> menu;  // pop-up entries, in order; null is a rule between them
 
@@ -76,9 +81,10 @@ class List : public Member {
   void showWindow(long long row) const;
 
   Cells cells_;
-  // Of a long list only the first rows are kept as cells. The rest are marks; the rows that are looked at are read, a
-  // window at a time, when they are looked at.
-  std::vector<std::int64_t> marks_;
+  // Of a long list only the first rows are kept as cells; the rows that are looked at are read, a window at a time, when
+  // they are looked at.
+  std::vector<std::int64_t> marks_;  // of each row; empty when no row has one
+  long long count_ = 0;
   mutable std::optional<store::RecordSet> behind_;
   mutable Cells window_;
   mutable long long windowFrom_ = -1;
@@ -86,14 +92,13 @@ class List : public Member {
   std::vector<Handler> select_, doubleClick_;
 };
 
-// A list over an open record set whose current row an edit screen works on.
+// A list of the rows of one statement.
 class Grid : public List {
  public:
-  Grid(Screen& screen, std::string name, store::Store& store, std::vector<ListColumn> columns, std::string label = "",
-       store::Connection connection = store::Connection::Main);
-  void open(const store::Sql& sql);  // shows the set; no row is current
-  void reload();                     // runs the statement again, keeping the selected place as far as it exists
-  store::RecordSet* current();       // the set at the selected row; null when none is selected
+  Grid(Screen& screen, std::string name, store::Store& store, std::vector<ListColumn> columns, std::string label = "");
+  void open(const store::Sql& sql);  // shows the set; nothing is selected
+  void reload();                     // runs the statement again and goes back to the row that was selected
+  store::RecordSet* current();       // the set at the selected row; null when none is selected or it is gone meanwhile
   store::RecordSet& rows() { return set_; }
 
  private:

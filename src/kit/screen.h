@@ -13,6 +13,8 @@
 
 namespace kit {
 
+class RecordDesk;
+
 class Screen {
  public:
   Screen(Desk& desk, std::string name, std::string title);
@@ -32,6 +34,8 @@ class Screen {
   void close();  // leaves the screen; what is under way in it goes on to its end
   bool closed() const { return closed_; }
   const std::vector<Member*>& members() const { return members_; }
+  const std::vector<RecordDesk*>& recordDesks() const { return recordDesks_; }
+  void contains(RecordDesk& one) { recordDesks_.push_back(&one); }
   std::optional<Colour> backdrop;  // colour of the whole window; the panel colour when not given
 
   // The edge where events enter: faults of the store and the platform inside the outermost one are shown to the person
@@ -66,14 +70,18 @@ class Screen {
     return askStop(text, "警告") && askStop("选择“是”继续；否则，点“否”撤销此操作！   \n\n" + lastLine, "再次警告");
   }
   void notYet(const std::string& what) { inform("“" + what + "”尚未开放，将在后续版本中提供。", "信息提示"); }
-  template <class S> void open() { desk.navigator.open<S>(desk); }
+  template <class S, class... With> auto open(With&&... with) {
+    return desk.navigator.open<S>(desk, std::forward<With>(with)...);
+  }
 
  private:
   friend class Member;
+  friend class Field;
   std::string title_;
   bool closed_ = false;
   int depth_ = 0;
   std::vector<Member*> members_;
+  std::vector<RecordDesk*> recordDesks_;
 };
 
 }  // namespace kit

@@ -8,12 +8,10 @@
 #include <vector>
 
 #include "base/money.h"
+#include "kit/editing.h"
 #include "store/record_set.h"
 
 namespace kit {
-
-enum class Mode { Add = 1, Modify = 2, Delete = 3 };
-enum class Panel { None = 0, Students = 1, Payments = 2, Arrears = 3, FeeWindow = 4 };
 
 struct Session {
   // Who works where; written by the login.

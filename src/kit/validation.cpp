@@ -30,6 +30,10 @@ std::function<bool()> filledNotDate(const Field& field) {
   return [&field] { return !field.blank() && !base::Date::parse(field.trimmed()); };
 }
 
+std::function<bool()> holdsQuote(const Field& field) {
+  return [&field] { return field.text().find('\'') != std::string::npos; };
+}
+
 bool holds(Person& person, const std::vector<Rule>& rules) {
   for (const Rule& rule : rules) {
     if (!rule.fails()) continue;

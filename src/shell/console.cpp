@@ -37,7 +37,7 @@ Formzct::Formzct(kit::Desk& all) : Screen(all, "Formzct", ""), ConsoleMenu(stati
 }
 
 void Formzct::load() {
-  settle(desk, {{cd11, {Income}},
+  kit::enableByRights(desk, {{cd11, {Income}},
                 {cd121, {Recommendation}},
                 {cd21, {SystemSettings}},
                 {cd14, {ClassTransfer}},

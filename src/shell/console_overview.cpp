@@ -173,7 +173,7 @@ Overview::Overview(kit::Screen& screen, const OverviewPlan& what)
 
 void Overview::settle(const kit::Desk& desk) {
   for (std::size_t i = 0; i < buttons.size(); ++i)
-    if (!plan.buttons[i].anyOf.empty()) shell::settle(desk, {{buttons[i], plan.buttons[i].anyOf}});
+    if (!plan.buttons[i].anyOf.empty()) kit::enableByRights(desk, {{buttons[i], plan.buttons[i].anyOf}});
 }
 
 kit::Action& Overview::button(std::string_view caption) {

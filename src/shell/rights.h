@@ -1,9 +1,6 @@
-// Gates that stand on the rights.
+// The rights as the console's files name them.
 #pragma once
 
-#include <vector>
-
-#include "kit/action.h"
 #include "kit/rights.h"
 
 namespace shell {
@@ -11,13 +8,5 @@ namespace shell {
 using kit::may;
 using kit::refuse;
 using enum kit::Right;
-
-// Enabled only with one of the rights; settled once, when the console loads.
-struct Gate {
-  kit::Action& action;
-  std::vector<int> anyOf;
-};
-
-void settle(const kit::Desk& desk, const std::vector<Gate>& gates);
 
 }  // namespace shell

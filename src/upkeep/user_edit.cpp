@@ -6,61 +6,56 @@
 
 namespace upkeep {
 
-Formyhxx2::Formyhxx2(kit::Desk& all) : Screen(all, "Formyhxx2", "用户编辑") {
+Formyhxx2::Formyhxx2(kit::Desk& all, const kit::Editing& editing)
+    : RecordEdit(all, "Formyhxx2", "用户编辑", "yhxx", editing) {
   yhjb.setChoices({"系统管理员", "一般操作员"});
-  confirm.onPress([this] {
-    switch (desk.session.EditMode) {
-      case kit::Mode::Add: return add();
-      case kit::Mode::Modify: return modify();
-      case kit::Mode::Delete: return remove();
-    }
+  // The dots stand for the password that is kept. They are never a part of a new one.
+  yhmm.onFocus([this] {
+    if (yhmm.text() == keptPassword) yhmm.clear();
   });
-  cancel.onPress([this] { close(); });
+  yhmm.onLeave([this] {
+    if (hasPassword_ && yhmm.blank()) yhmm.set(keptPassword);
+  });
 }
 
-void Formyhxx2::load() {
-  if (desk.session.EditMode == kit::Mode::Add) return;
-  if (!desk.session.edited) return close();
-  store::RecordSet& user = *desk.session.edited;
-  yhxm.set(user.get("yhxm").trimmed());
-  yhjb.set(user.get("yhjb").trimmed());
-  yhmm.set(user.get("yhmm").empty() ? "" : keptPassword);
+void Formyhxx2::shown(store::RecordSet& row) {
+  hasPassword_ = !row.get("yhmm").empty();
+  if (hasPassword_) yhmm.set(keptPassword);
+  if (EditMode == kit::Mode::Delete) yhmm.enable(false);
+}
+
+kit::RecordEdit::Words Formyhxx2::words() {
+  return {.modify = {"您确认要修改记录吗？  "},
+          .remove = {"您确认要删除选定记录吗？   ", "删除提示"},
+          .added = "用户添加成功！   ",
+          .modified = "选定记录已修改 ！     ",
+          .removed = "选定记录已删除 ！     "};
 }
 
 bool Formyhxx2::filled() {
-  if (!yhxm.blank() && !yhjb.blank() && !yhmm.blank()) return true;
-  stop("输入项均不能为空！    ", "错误提示");
-  return false;
+  return kit::holds(desk.person,
+                    {{nullptr, [this] { return yhxm.blank() || yhjb.blank() || (yhmm.blank() && !hasPassword_); },
+                      "输入项均不能为空！    ", "错误提示"},
+                     {&yhxm, kit::holdsQuote(yhxm), kit::quoteRefused, "错误提示"}});
 }
 
 void Formyhxx2::add() {
   if (!filled()) return;
   addUser(desk.store, yhxm.trimmed(), yhjb.trimmed(), yhmm.trimmed(), desk.clock.now());
-  inform("用户添加成功！   ", "信息提示");
-  close();
+  done(words().added);
 }
 
 void Formyhxx2::modify() {
-  if (!filled() || !ask("您确认要修改记录吗？  ", "修改提示")) return;
-  // The rights rows keep the old name: a renamed user has no rights until an administrator grants them anew.
-  store::RecordSet& user = *desk.session.edited;
-  user.set("yhxm", yhxm.trimmed());
-  user.set("yhjb", yhjb.trimmed());
-  if (yhmm.text() != keptPassword) user.set("yhmm", hashPassword(yhmm.text()));
-  user.update();
-  inform("选定记录已修改 ！     ", "信息提示");
-  close();
+  if (filled()) RecordEdit::modify();
 }
 
-void Formyhxx2::remove() {
-  if (!ask("您确认要删除选定记录吗？   ", "删除提示")) return;
-  store::RecordSet& user = *desk.session.edited;
-  store::Unit unit(desk.store);
-  kit::removeEach(desk.store, store::Sql("select * from yhxx1 where yhxm='") + user.get("yhxm").trimmed() + "'");
-  user.remove();
-  unit.finish();
-  inform("选定记录已删除 ！     ", "信息提示");
-  close();
+// The rights rows keep the old name: a renamed user has no rights until an administrator grants them anew.
+void Formyhxx2::modifying(store::RecordSet& row) {
+  if (!yhmm.blank() && yhmm.text() != keptPassword) row.set("yhmm", hashPassword(yhmm.text()));
+}
+
+void Formyhxx2::removing(store::RecordSet& row) {
+  kit::removeEach(desk.store, store::Sql("select * from yhxx1 where yhxm='") + row.get("yhxm").trimmed() + "'");
 }
 
 }  // namespace upkeep

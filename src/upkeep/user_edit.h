@@ -1,26 +1,29 @@
-// Adds, changes or deletes one user, by the session's EditMode.
+// Adds, changes or deletes one user.
 #pragma once
 
-#include "kit/screen.h"
+#include "kit/record_edit.h"
 
 namespace upkeep {
 
-class Formyhxx2 : public kit::Screen {  // 用户编辑
+class Formyhxx2 : public kit::RecordEdit {  // 用户编辑
  public:
-  explicit Formyhxx2(kit::Desk& desk);
-  void load() override;
-  kit::Layout layout() override;
+  explicit Formyhxx2(kit::Desk& desk, const kit::Editing& editing = {});
 
   kit::Field yhxm{*this, "yhxm", "用户姓名"};
   kit::Field yhjb{*this, "yhjb", "用户级别", kit::Entry::Pick};
   kit::Field yhmm{*this, "yhmm", "用户密码", kit::Entry::Password};
-  kit::Action confirm{*this, "confirm", "确认", "check"}, cancel{*this, "cancel", "撤销", "x"};
 
  private:
+  std::vector<Bound> bound() override { return {{yhxm, 14}, {yhjb, 14}}; }
+  kit::Layout layout() override;
+  Words words() override;
   bool filled();
-  void add();
-  void modify();
-  void remove();
+  void shown(store::RecordSet& row) override;
+  void add() override;
+  void modify() override;
+  void modifying(store::RecordSet& row) override;
+  void removing(store::RecordSet& row) override;
+  bool hasPassword_ = false;
 };
 
 }  // namespace upkeep

@@ -73,30 +73,41 @@ void Formyhxx1::enableAll(bool on) {
   save.enable(on);
 }
 
+namespace {
+constexpr const char* noRows = "该用户没有权限记录（可能改过姓名），不能授权！请先删除该用户，再重新添加。    ";
+}
+
+void Formyhxx1::clearAll() {
+  shownFor_.clear();
+  for (kit::Check& box : boxes) box.set(false);
+}
+
 void Formyhxx1::showRights() {
+  clearAll();
+  if (yhxm.blank()) return;
   RecordSet rights = rows(Sql("select * from yhxx1 where yhxm='") + yhxm.trimmed() + "' order by bh");
-  if (rights.empty()) return;
-  enableAll(true);
+  enableAll(!rights.empty());
+  if (rights.empty()) return inform(noRows, "信息提示");
+  shownFor_ = yhxm.trimmed();
   store::forEach(rights, [this](RecordSet& row) {
-    const int number = static_cast<int>(row.get("bh").number()) - 1000;
-    if (number >= 0 && number <= lastRight && box(number)) box(number)->set(row.get("fn").yes());
+    const double number = row.get("bh").number() - 1000;
+    if (number >= 0 && number <= kit::lastRight) box(static_cast<int>(number))->set(row.get("fn").yes());
   });
 }
 
+// By place, as the login reads them: when two users bear one name, the first hundred rows are the ones that count.
 void Formyhxx1::saveRights() {
-  RecordSet rights = rows(Sql("select * from yhxx1 where yhxm='") + yhxm.trimmed() + "' order by bh");
-  if (!rights.empty()) {
-    store::Unit unit(desk.store);
-    store::forEach(rights, [this](RecordSet& row) {
-      const int number = static_cast<int>(row.get("bh").number()) - 1000;
-      if (number < 0 || number > lastRight || !box(number)) return;
-      row.set("fn", box(number)->on());
-      row.update();
-    });
-    unit.finish();
-    inform("授权设置成功 ！      ", "信息提示");
+  if (yhxm.trimmed() != shownFor_) return showRights();  // a name typed over another one's ticks
+  store::Unit unit(desk.store);
+  RecordSet rights = rows(Sql("select * from yhxx1 where yhxm='") + shownFor_ + "' order by bh");
+  if (rights.empty()) throw store::StoreError(store::Fault::RowGone, noRows);
+  for (int number = 0; number <= kit::lastRight && !rights.atEnd(); ++number, rights.next()) {
+    rights.set("fn", box(number)->on());
+    rights.update();
   }
-  for (kit::Check& box : boxes) box.set(false);
+  unit.finish();
+  inform("授权设置成功 ！      ", "信息提示");
+  clearAll();
   yhxm.clear();
   enableAll(false);
 }

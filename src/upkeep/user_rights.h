@@ -4,11 +4,10 @@
 #include <array>
 #include <deque>
 
+#include "kit/rights.h"
 #include "kit/screen.h"
 
 namespace upkeep {
-
-constexpr int lastRight = 71;  // 72 to 99 have a row and no check box
 
 struct RightCaption {
   int number;
@@ -35,9 +34,11 @@ class Formyhxx1 : public kit::Screen {  // 用户权限设置
 
  private:
   void enableAll(bool on);
+  void clearAll();
   void showRights();
   void saveRights();
-  std::array<kit::Check*, lastRight + 1> byNumber_{};
+  std::array<kit::Check*, kit::lastRight + 1> byNumber_{};
+  std::string shownFor_;  // whose rights the boxes hold
 };
 
 }  // namespace upkeep

@@ -58,7 +58,7 @@ TEST(UserEdit, ChangingWithoutTouchingTheDotsKeepsThePassword) {
   addUser(test.store, "李强", "一般操作员", "abc", test.clock.now());
   auto list = opened<Formyhxx>(test);
   list->modify.press();  // no row chosen: nothing opens
-  list->users.select(0);
+  list->users.list.select(0);
   test.person.answer(true, Box::Ask, "您确认要修改记录吗？  ", "修改提示")
       .expect(Box::Information, "选定记录已修改 ！     ", "信息提示");
   test.navigator.expect<Formyhxx2>([](Formyhxx2& s) {
@@ -67,7 +67,7 @@ TEST(UserEdit, ChangingWithoutTouchingTheDotsKeepsThePassword) {
     s.confirm.press();
   });
   list->modify.press();
-  EXPECT_EQ(list->users.cell(0, 0), "李刚");
+  EXPECT_EQ(list->users.list.cell(0, 0), "李刚");
   EXPECT_TRUE(passwordFits(storedPassword(test, "李刚"), "abc"));
   EXPECT_EQ(test.count("select * from yhxx1 where yhxm='李强'"), 100);  // the rights keep the old name
 
@@ -98,7 +98,7 @@ TEST(UserEdit, AddsWithTypedSuperLevelAndDeletesWithTheRights) {
   list->add.press();
   EXPECT_EQ(test.count("select * from yhxx1 where yhxm='赵敏' and fn=true"), 100);
 
-  list->users.select(0);
+  list->users.list.select(0);
   test.person.answer(true, Box::Ask, "您确认要删除选定记录吗？   ", "删除提示")
       .expect(Box::Information, "选定记录已删除 ！     ", "信息提示");
   test.navigator.expect<Formyhxx2>([](Formyhxx2& s) { s.confirm.press(); });
@@ -131,7 +131,7 @@ TEST(UserRights, GrantsWhatIsTickedAndReadiesForTheNextUser) {
   for (std::size_t i = 0; i < rights.size(); ++i) EXPECT_EQ(rights[i], i == 31 || i == 3) << i;
   s->yhxm.pick("李强");
   EXPECT_TRUE(s->box(31)->on());
-  for (int number = 0; number <= lastRight; ++number) EXPECT_TRUE(s->box(number)) << number;
+  for (int number = 0; number <= kit::lastRight; ++number) EXPECT_TRUE(s->box(number)) << number;
 }
 
 TEST(PasswordChange, TestsInOrderThenChanges) {

@@ -1,0 +1,138 @@
+#include "kit/record_edit.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "kit/rows.h"
+
+namespace kit {
+namespace {
+
+std::string columnOf(const Field& field, std::string_view column) {
+  return column.empty() ? field.name : std::string(column);
+}
+
+store::Value stored(const Field& field, Format format) {
+  if (format == Format::Money || format == Format::Padded) {
+    if (field.blank()) return base::Money();  // an emptied amount is no amount: a sum over it would find nothing
+    return base::Money::leading(field.trimmed());
+  }
+  if (format == Format::Date || format == Format::LongDate) {
+    const auto day = base::Date::parse(field.trimmed());
+    return day ? store::Value(*day) : store::Value("");
+  }
+  return field.trimmed();
+}
+
+}  // namespace
+
+RecordEdit::RecordEdit(Desk& all, std::string own, std::string words, const char* table, const Editing& editing)
+    : Screen(all, std::move(own), std::move(words)),
+      EditMode(editing.EditMode),
+      ConsolePanel(editing.ConsolePanel),
+      table_(table),
+      mark_(editing.row) {
+  confirm.onPress([this] { act(); });
+  cancel.onPress([this] { close(); });
+}
+
+void RecordEdit::load() {
+  if (EditMode == Mode::Add) return propose();
+  if (!standsStill(desk.store, table_, mark_)) return close();
+  store::RecordSet set = row();
+  show(set);
+  shown(set);
+  // What is to be deleted is shown, not edited: the guards ask for the row as it stands.
+  if (EditMode != Mode::Delete) return;
+  for (const Bound& one : bound()) one.field.enable(false);
+  confirm.focus();
+}
+
+void RecordEdit::show(store::RecordSet& set) {
+  former_.clear();
+  for (const Bound& one : bound()) {
+    one.field.set(formatted(set.get(columnOf(one.field, one.column)), one.format));
+    former_.emplace_back(&one.field, one.field.trimmed());
+  }
+}
+
+store::RecordSet RecordEdit::row() { return rowAt(desk.store, table_, mark_); }
+
+std::string RecordEdit::former(const Field& field) const {
+  const auto found = std::ranges::find(former_, &field, &std::pair<const Field*, std::string>::first);
+  return found == former_.end() ? "" : found->second;
+}
+
+bool RecordEdit::changed(const Field& field) const { return EditMode == Mode::Add || field.trimmed() != former(field); }
+
+void RecordEdit::write(store::RecordSet& set) {
+  for (const Bound& one : bound()) {
+    if (!changed(one.field)) continue;
+    const std::string column = columnOf(one.field, one.column);
+    if (EditMode == Mode::Modify && base::trim(formatted(set.get(column), one.format)) != former(one.field))
+      throw store::StoreError(store::Fault::RowGone, "“" + base::trim(one.field.label()) +
+                                                         "”已被其他计算机修改，请撤销后重新打开该记录再修改！");
+    set.set(column, stored(one.field, one.format));
+  }
+}
+
+void RecordEdit::act() {
+  if (!holds(desk.person, rules())) return;
+  switch (EditMode) {
+    case Mode::Add: return add();
+    case Mode::Modify: return modify();
+    case Mode::Delete: return remove();
+  }
+}
+
+bool RecordEdit::agreed(const Question& question) {
+  return question.text.empty() || desk.person.ask(question.box, question.text, question.title);
+}
+
+void RecordEdit::add() {
+  store::Unit unit(desk.store);
+  store::RecordSet set = rows(store::Sql::table(table_));
+  set.addNew();
+  write(set);
+  adding(set);
+  set.update();
+  unit.finish();
+  done(words().added);
+}
+
+void RecordEdit::modify() {
+  const Words say = words();
+  if (!agreed(say.modify)) return;
+  store::Unit unit(desk.store);
+  store::RecordSet set = row();
+  write(set);
+  modifying(set);
+  set.update();
+  unit.finish();
+  done(say.modified);
+}
+
+void RecordEdit::remove() {
+  const Words say = words();
+  if (!agreed(say.remove)) return;
+  store::Unit unit(desk.store);
+  store::RecordSet set = row();
+  removing(set);
+  set.remove();
+  unit.finish();
+  done(say.removed);
+}
+
+// The window closes as soon as the row is in, whatever the person does with the words.
+void RecordEdit::done(const std::string& words) {
+  close();
+  if (!words.empty()) inform(words, "信息提示");
+}
+
+Layout RecordEdit::layout() {
+  Nodes fields;
+  for (const Bound& one : bound()) fields.push_back(wide(one.field, one.width));
+  return {.root = column({form(std::move(fields)), buttons({confirm, cancel})}), .confirm = &confirm, .cancel = &cancel};
+}
+
+}  // namespace kit
