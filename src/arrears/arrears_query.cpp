@@ -19,9 +19,7 @@ const kit::QueryPlan plan{
      "单击确认查看全部欠费记录"},
     {"  where xm like  '%", "%' or xq like  '%", "%' or xh like  '%", "%'  or qfrq like  '%", "%' or bjmc like  '%",
      "%' or clfs like  '%", "%' or sfxm like  '%", "%' or bjrq like  '%", "%' or sbjrq like  '%", "%' or skr like  '%"},
-    "%'",
-    &kit::Session::arrears_where,
-    &kit::Session::reload_arrears_list};
+    "%'"};
 
 // Behind another condition the later days are asked for with =>: the office's older conditions are written so, and the
 // store takes both.
@@ -55,7 +53,7 @@ Formqfcl11::Formqfcl11(kit::Desk& all)
   compare.onPress([this] { showCompared(); });
   byScope.onPress([this] {
     close();
-    open<Formqfcl1>();
+    answer = open<Formqfcl1>();
   });
 }
 
@@ -132,7 +130,7 @@ void Formqfcl11::showUnpaid() {
   }
   if (found == 0) return inform("相关记录不存在！    ", "信息提示");
   inform("信息搜索完毕！    ", "信息提示");
-  show(2);
+  show(reports::List::Unpaid);
 }
 
 void Formqfcl11::showCompared() {
@@ -152,13 +150,11 @@ void Formqfcl11::showCompared() {
   }
   if (found == 0) return inform("不存在相匹配记录！ ", "信息提示");
   inform("信息搜索完毕！ ", "信息提示");
-  show(3);
+  show(reports::List::Comparison);
 }
 
-void Formqfcl11::show(int listMode) {
-  desk.session.arrears_list_mode = listMode;
-  desk.session.arrears_where = {};
-  desk.session.reload_arrears_list = true;
+void Formqfcl11::show(reports::List computed) {
+  answer = ArrearsFilter{{}, computed};
   close();
 }
 
@@ -184,9 +180,7 @@ void Formqfcl1::query() {
   const Sql filter = kit::chain(all);
   if (rows(Sql("select * from qfjl") + filter).empty())
     return inform("相关记录不存在，请检查条件设置是否正确！    ", "信息提示");
-  desk.session.arrears_list_mode = 1;
-  desk.session.arrears_where = filter;
-  desk.session.reload_arrears_list = true;
+  answer = ArrearsFilter{{filter}};
   close();
 }
 

@@ -5,8 +5,14 @@
 #include "arrears/comparison.h"
 #include "kit/query_screen.h"
 #include "kit/scope_screen.h"
+#include "reports/export.h"
 
 namespace arrears {
+
+// What the arrears' overview is to hold: arrears, or one of the two computed lists.
+struct ArrearsFilter : kit::Filter {
+  reports::List arrears_list_mode = reports::List::Arrears;
+};
 
 // The fields of a question about payments; two tabs ask it.
 struct QuestionFields {
@@ -34,17 +40,18 @@ class Formqfcl11 : public kit::QueryScreen {  // 打开欠费信息
   kit::Field due{*this, "due", "应交金额"};
   kit::Choice wanted;
   kit::Action compare{*this, "compare", "开始对比", "search"};
+  std::optional<ArrearsFilter> answer;
 
  private:
   std::optional<std::vector<kit::Condition>> conditions() override;
   std::vector<kit::Field*> conditionFields() override;
-  void accepted() override { desk.session.arrears_list_mode = 1; }
+  void accepted(kit::Filter filter) override { answer = ArrearsFilter{std::move(filter)}; }
 
   void wire(QuestionFields& fields);
   std::optional<PaymentQuestion> asked(QuestionFields& fields);
   void showUnpaid();
   void showCompared();
-  void show(int listMode);
+  void show(reports::List computed);
 };
 
 class Formqfcl1 : public kit::ScopeScreen {  // 欠费记录查询条件设置
@@ -53,6 +60,7 @@ class Formqfcl1 : public kit::ScopeScreen {  // 欠费记录查询条件设置
   kit::Layout layout() override { return scopeLayout({clfs}); }
 
   kit::Field clfs{*this, "clfs", "状态", kit::Entry::Pick};
+  std::optional<ArrearsFilter> answer;
 
  private:
   void query() override;

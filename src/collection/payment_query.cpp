@@ -16,9 +16,7 @@ const kit::QueryPlan plan{
      "单击确认查看全部收费记录"},
     {"  where xm like  '%", "%' or xq like  '%", "%' or xh like  '%", "%' or jfrq like  '%", "%' or bjmc like  '%",
      "%' or jffs like  '%", "%' or sfxm like  '%", "%' or rxxs like  '%", "%' or fpbh like  '%"},
-    "%'",
-    &kit::Session::payment_where,
-    &kit::Session::reload_payment_list};
+    "%'"};
 
 constexpr const char* fault = "错误提示";
 
@@ -37,15 +35,13 @@ Formzctsf31::Formzctsf31(kit::Desk& all) : QueryScreen(all, "Formzctsf31", "打�
   wireConditions();
   scope.onPress([this] {
     close();
-    open<Formzctsf3>();
+    answer = open<Formzctsf3>();
   });
 }
 
 std::vector<kit::Field*> Formzctsf31::conditionFields() {
   return {&xq, &bjmc, &xh, &xm, &sfxm, &from, &to, &jffs, &rxxs};
 }
-
-void Formzctsf31::accepted() { desk.session.payment_heading.clear(); }
 
 std::optional<std::vector<Condition>> Formzctsf31::conditions() {
   if (from.blank() != to.blank()) {
@@ -67,12 +63,6 @@ std::optional<std::vector<Condition>> Formzctsf31::conditions() {
   return std::vector{kit::equals("xq", xq.text()),     kit::equals("bjmc", bjmc.text()), kit::equals("xh", xh.text()),
                      kit::equals("xm", xm.text()),     kit::equals("sfxm", sfxm.text()), days,
                      kit::equals("jffs", jffs.text()), kit::equals("rxxs", rxxs.text())};
-}
-
-void Formzctsf3::load() {
-  desk.session.payment_where = {};
-  desk.session.payment_heading.clear();
-  ScopeScreen::load();
 }
 
 // What opens the clause, up to the period.
@@ -101,16 +91,15 @@ void Formzctsf3::query() {
       !ask("您没有输入学号，将按姓名查询，同名学生的记录会一并列出，这样可能会导致查询结果不准确！您确认继续吗？      ",
            "操作提示"))
     return;
-  auto& session = desk.session;
-  session.payment_where = scopePart() + periodPart() + " order by jfrq";
+  kit::Filter filter;
+  filter.where = scopePart() + periodPart() + " order by jfrq";
   base::Money sum;
-  store::RecordSet found = rows(Sql("select * from jfjl") + session.payment_where);
+  store::RecordSet found = rows(Sql("select * from jfjl") + filter.where);
   store::forEach(found, [&](store::RecordSet& row) { sum += row.get("je").money(); });
-  session.payment_heading =
-      scope.options()[static_cast<std::size_t>(scope.chosen())] + "：" +
-      (period.chosen() == ByDate ? "从 " + from.trimmed() + " 到 " + to.trimmed() : xq.trimmed()) + " 共有" +
-      "交费记录 " + std::to_string(found.count()) + " 条，交费金额：" + sum.fixed2() + " 元！ ";
-  session.reload_payment_list = true;
+  filter.heading = scope.options()[static_cast<std::size_t>(scope.chosen())] + "：" +
+                   (period.chosen() == ByDate ? "从 " + from.trimmed() + " 到 " + to.trimmed() : xq.trimmed()) +
+                   " 共有" + "交费记录 " + std::to_string(found.count()) + " 条，交费金额：" + sum.fixed2() + " 元！ ";
+  answer = std::move(filter);
   close();
 }
 

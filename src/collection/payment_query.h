@@ -17,19 +17,20 @@ class Formzctsf31 : public kit::QueryScreen {  // 打开交费记录信息设置
       to{*this, "to", "到", kit::Entry::Date}, jffs{*this, "jffs", "交费方式", kit::Entry::Pick},
       rxxs{*this, "rxxs", "入学形式", kit::Entry::Pick};
   kit::Action scope{*this, "scope", "按范围查询", "list-filter"};  // the other screen instead
+  std::optional<kit::Filter> answer;
 
  private:
   std::optional<std::vector<kit::Condition>> conditions() override;
   std::vector<kit::Field*> conditionFields() override;
-  void accepted() override;
+  void accepted(kit::Filter filter) override { answer = std::move(filter); }
 };
 
 class Formzctsf3 : public kit::ScopeScreen {  // 交费记录查询条件设置
  public:
   explicit Formzctsf3(kit::Desk& desk)
       : ScopeScreen(desk, "Formzctsf3", "交费记录查询条件设置", "select xq from jfjl group by xq order by xq") {}
-  void load() override;
   kit::Layout layout() override { return scopeLayout({}); }
+  std::optional<kit::Filter> answer;
 
  private:
   store::Sql scopePart();

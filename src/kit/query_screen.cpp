@@ -98,9 +98,7 @@ void QueryScreen::accept(const Sql& filter, bool all) {
   if (rows(Sql::table(plan_.table) + " " + filter).empty())
     return all ? inform("后台无任何信息！    ", "信息提示")
                : inform("相关记录不存在，请检查条件设置是否正确！    ", "信息提示");
-  desk.session.*plan_.where = filter;
-  desk.session.*plan_.reload = true;
-  accepted();
+  accepted({filter});
   close();
 }
 

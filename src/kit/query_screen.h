@@ -24,8 +24,6 @@ struct QueryPlan {
   std::array<const char*, 5> hints;  // of the own conditions, the day, the month, the year, all
   std::vector<store::Sql> keyword;
   store::Sql keywordEnd;
-  store::Sql Session::*where;  // where the filter goes
-  bool Session::*reload;       // set when it is to be shown
 };
 
 class QueryScreen : public Screen {
@@ -42,7 +40,7 @@ class QueryScreen : public Screen {
   // The own conditions in the order of the chain; nothing when one was refused, and the person told why.
   virtual std::optional<std::vector<Condition>> conditions() = 0;
   virtual std::vector<Field*> conditionFields() = 0;
-  virtual void accepted() {}  // the filter stands in the session and the screen is about to close
+  virtual void accepted(Filter filter) = 0;  // rows answer to it, and the screen is about to close
 
   void wireConditions();  // by the constructor of the screen: clearing by button and by double click
   // Drops down what the statement finds when it is asked.

@@ -46,12 +46,9 @@ struct Session {
 
   // The console.
   Panel ConsolePanel = Panel::None;
-  bool reload_student_list = false, reload_payment_list = false, reload_arrears_list = false;
-  store::Sql student_where, payment_where, arrears_where;
-  std::string student_query, payment_heading;  // what a query says of its result; empty: the list's own words
   std::string student_selection, payment_selection, arrears_selection;
   std::string summary_xh;  // the student whose payments the summary adds up
-  int arrears_list_mode = 1, payment_list_mode = 5;
+  int payment_list_mode = 5;
 
   // The student card and the fee window.
   std::string current_xh, current_xq;
@@ -86,10 +83,6 @@ struct Session {
     int year = 0, month = 0;
     std::vector<IncomeLine> lines;
   } income;
-
-  // Suspensions: the filter of their list, and whether a query has just set it.
-  store::Sql suspension_where;
-  bool suspensions_queried = false;
 
   // Receipt printing.
   std::string print_fpbh, print_xh, print_xm, print_bjmc, print_xq, print_jffs, print_jfrq;

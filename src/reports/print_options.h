@@ -2,6 +2,7 @@
 #pragma once
 
 #include "kit/screen.h"
+#include "reports/export.h"
 
 namespace reports {
 
@@ -13,9 +14,11 @@ class PrintOptions : public kit::Screen {
   kit::Action print{*this, "print", "打印", "printer"}, back{*this, "back", "返回", "undo-2"};
 
  protected:
-  PrintOptions(kit::Desk& desk, std::string name, std::string title, std::vector<std::string> options,
+  PrintOptions(kit::Desk& desk, std::string name, std::string title, store::Sql where, std::vector<std::string> options,
                std::string prompt = "");
   virtual void printChosen() = 0;
+
+  const store::Sql where;  // of the list that is printed
 
  private:
   const std::string prompt_;
@@ -23,7 +26,7 @@ class PrintOptions : public kit::Screen {
 
 class Formzctxsdy : public PrintOptions {  // 学籍资料打印选项
  public:
-  explicit Formzctxsdy(kit::Desk& desk);
+  explicit Formzctxsdy(kit::Desk& desk, store::Sql student_where = {});
 
  private:
   void printChosen() override;
@@ -31,7 +34,7 @@ class Formzctxsdy : public PrintOptions {  // 学籍资料打印选项
 
 class Formzctjfjldy : public PrintOptions {  // 交费记录打印选项
  public:
-  explicit Formzctjfjldy(kit::Desk& desk);
+  explicit Formzctjfjldy(kit::Desk& desk, store::Sql payment_where = {});
 
  private:
   void printChosen() override;
@@ -39,12 +42,13 @@ class Formzctjfjldy : public PrintOptions {  // 交费记录打印选项
 
 class Formzctqfjldy : public PrintOptions {  // 学生欠费信息打印选项
  public:
-  explicit Formzctqfjldy(kit::Desk& desk);
+  explicit Formzctqfjldy(kit::Desk& desk, store::Sql arrears_where = {}, List arrears_list_mode = List::Arrears);
 
  private:
   void printChosen() override;
   void printArrears();
   long long copyArrears();
+  const List arrears_list_mode_;
 };
 
 }  // namespace reports

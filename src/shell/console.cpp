@@ -38,16 +38,16 @@ Formzct::Formzct(kit::Desk& all) : Screen(all, "Formzct", ""), ConsoleMenu(stati
 
 void Formzct::load() {
   kit::enableByRights(desk, {{cd11, {Income}},
-                {cd121, {Recommendation}},
-                {cd21, {SystemSettings}},
-                {cd14, {ClassTransfer}},
-                {cd31, {Users}},
-                {cd33, {GrantRights}},
-                {cd34, {Initialise}},
-                {cd91, {WaiveArrears}},
-                {cd92, {WaiveArrears}},
-                {class_strip, {Collect}}});
-  for (Overview* overview : {&students_overview, &payments_overview, &arrears_overview}) overview->settle(desk);
+                             {cd121, {Recommendation}},
+                             {cd21, {SystemSettings}},
+                             {cd14, {ClassTransfer}},
+                             {cd31, {Users}},
+                             {cd33, {GrantRights}},
+                             {cd34, {Initialise}},
+                             {cd91, {WaiveArrears}},
+                             {cd92, {WaiveArrears}},
+                             {class_strip, {Collect}}});
+  for (Overview* overview : {&students_overview, &payments_overview, &arrears_overview}) overview->enableByRights(desk);
   loadAllSettings();
   ready.set("就绪");
   user.set("当前用户：" + desk.session.SessionUser + " 级别：" + desk.session.SessionLevel);
@@ -135,17 +135,16 @@ void Formzct::wireToolbar() {
     });
   };
   chain(k7, {StudentQuery, PaymentQuery, ArrearsQuery}, [this](kit::Panel panel) {
-    if (panel == kit::Panel::Students) open<reports::Formzctxsdy>();
-    if (panel == kit::Panel::Payments) open<reports::Formzctjfjldy>();
-    if (panel == kit::Panel::Arrears) open<reports::Formzctqfjldy>();
+    if (panel == kit::Panel::Students) open<reports::Formzctxsdy>(students_overview.filter.where);
+    if (panel == kit::Panel::Payments) open<reports::Formzctjfjldy>(payments_overview.filter.where);
+    if (panel == kit::Panel::Arrears)
+      open<reports::Formzctqfjldy>(arrears_overview.filter.where, arrears_overview.holds);
   });
   chain(k8, {StudentQuery, PaymentQuery, ArrearsQuery}, [this](kit::Panel panel) {
-    const int mode = desk.session.arrears_list_mode;
-    if (panel == kit::Panel::Students) return exportList(desk, List::Students, desk.session.student_where);
-    if (panel == kit::Panel::Payments) return exportList(desk, List::Payments, desk.session.payment_where);
-    if (mode == 2) return exportList(desk, List::Unpaid);
-    if (mode == 3) return exportList(desk, List::Comparison);
-    exportList(desk, List::Arrears, desk.session.arrears_where);
+    const Overview& of = panel == kit::Panel::Students   ? students_overview
+                         : panel == kit::Panel::Payments ? payments_overview
+                                                         : arrears_overview;
+    exportList(desk, of.holds, of.filter.where);
   });
   chain(k9, {StudentClear, PaymentClear, ArrearsClear}, [this](kit::Panel panel) { clearPanel(panel); });
 }

@@ -74,9 +74,12 @@ class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
   void closeOverviews();
   Filled fill(Overview& overview);
   void openPanel();
-  void refillWhenAsked();
+  void refillLater(Overview& overview, std::optional<kit::Filter> answer);
   void refillAfterQuery();
   void queryArrears();
+  void enableWaivers();
+  void fillAgain(Overview& overview);
+  store::Sql keyedHere() const;
   void editPayment(kit::Mode mode);
   void editStudent(kit::Mode mode);
   void addArrears();
@@ -90,11 +93,14 @@ class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
   void closeStatistics(Overview& overview);
   void showStudentsOfClass();
   void showUnsubmittedOf(const store::Sql& where, const std::string& what);
+  Filled showArrears(const store::Sql& where);
   void showArrearsOfClass();
   void showMonthOfClass();
 
   // console_clearing.cpp: what 数据清空 empties.
   void clearPanel(kit::Panel panel);
+
+  Overview* asked_ = nullptr;  // its query was answered; timer4 refills it
 };
 
 }  // namespace shell

@@ -16,6 +16,7 @@ const OverviewPlan studentsPlan{
     kit::Panel::Students,
     "students",
     "学生学籍资料信息",
+    reports::List::Students,
     "正在加载学生学籍资料信息 ...",
     {{"     学号", "xh", Format::Text, 10},
      {"   姓名", "xm", Format::Text, 5},
@@ -55,6 +56,7 @@ const OverviewPlan studentsPlan{
 const OverviewPlan paymentsPlan{kit::Panel::Payments,
                                 "payments_overview",
                                 "交费记录后台信息",
+                                reports::List::Payments,
                                 "正在加载学生交费记录相关信息 ...",
                                 {{" 记录标识号", "lsh", Format::Text, 9},
                                  {"    姓名", "xm", Format::Text, 5},
@@ -100,6 +102,7 @@ const OverviewPlan arrearsPlan{
     kit::Panel::Arrears,
     "arrears_overview",
     "学生欠费应交信息",
+    reports::List::Arrears,
     "正在加载学生欠费信息 ...",
     {{" 记录标识号", "lsh", Format::Text, 9},
      {"  姓名", "xm", Format::Text, 5},
@@ -113,9 +116,9 @@ const OverviewPlan arrearsPlan{
      {"实补交金额", "sbjje", Format::Padded, 7},
      {"当前状态", "clfs", Format::Text, 5}},
     {{"arrears_open", "打开", "folder-open", {ArrearsAdd, ArrearsModify, ArrearsDelete, ArrearsQuery}},
-     {"arrears_add", "添加", "plus", {ArrearsAdd}},
-     {"arrears_modify", "修改", "pencil", {ArrearsModify}},
-     {"arrears_delete", "删除", "trash-2", {ArrearsDelete}},
+     {"arrears_add", "添加", "plus", {ArrearsAdd}, true},
+     {"arrears_modify", "修改", "pencil", {ArrearsModify}, true},
+     {"arrears_delete", "删除", "trash-2", {ArrearsDelete}, true},
      {"arrears_import", "导入", "download", {ArrearsImport}},
      {"arrears_close", "返回", "undo-2", {}}},
     {"正在统计相关欠费记录,请稍等 ...",
@@ -160,6 +163,7 @@ void StatisticsBar::close() {
 
 Overview::Overview(kit::Screen& screen, const OverviewPlan& what)
     : plan(what),
+      holds(what.holds),
       frame(screen, what.name, what.title),
       list(screen, std::string(what.name) + "_rows", what.columns),
       bar(screen, std::string(what.name) + "_bar", "", kit::Entry::Shown),
@@ -171,9 +175,10 @@ Overview::Overview(kit::Screen& screen, const OverviewPlan& what)
   frame.show(false);
 }
 
-void Overview::settle(const kit::Desk& desk) {
+void Overview::enableByRights(const kit::Desk& desk) {
   for (std::size_t i = 0; i < buttons.size(); ++i)
-    if (!plan.buttons[i].anyOf.empty()) kit::enableByRights(desk, {{buttons[i], plan.buttons[i].anyOf}});
+    buttons[i].enable(kit::mayAny(desk, plan.buttons[i].anyOf) &&
+                      (holds == plan.holds || !plan.buttons[i].changesRows));
 }
 
 kit::Action& Overview::button(std::string_view caption) {
@@ -199,7 +204,7 @@ void Overview::clear() {
 }
 
 Filled fillStudents(Overview& overview, kit::Desk& desk) {
-  RecordSet students(desk.store, Sql("select * from xs ") + desk.session.student_where);
+  RecordSet students(desk.store, Sql("select * from xs ") + overview.filter.where);
   Filled filled;
   overview.list.fill(students, [&](RecordSet& row) {
     if (row.get("xb").text() == "男") ++filled.men;
@@ -212,7 +217,7 @@ Filled fillStudents(Overview& overview, kit::Desk& desk) {
 }
 
 Filled fillPayments(Overview& overview, kit::Desk& desk) {
-  RecordSet payments(desk.store, Sql("select * from jfjl ") + desk.session.payment_where);
+  RecordSet payments(desk.store, Sql("select * from jfjl ") + overview.filter.where);
   Filled filled;
   overview.list.fill(payments, [&](RecordSet& row) { filled.paid += row.get("je").money(); });
   filled.count = overview.list.count();
@@ -249,24 +254,26 @@ Filled fillArrears(Overview& overview, kit::Desk& desk) {
     Sql rows;
     std::vector<kit::ListColumn> columns;
   };
-  const int mode = desk.session.arrears_list_mode;
-  const Holds holds = mode == 2   ? Holds{"select * from qfjl_wjf ", joined(whoOwesColumns, unpaidEnd)}
-                      : mode == 3 ? Holds{"select * from qfjl_je ", joined(whoOwesColumns, lessPaidEnd)}
-                                  : Holds{"select * from qfjl ", arrearsPlan.columns};
+  const bool arrears = overview.holds == reports::List::Arrears;
+  const Holds holds = overview.holds == reports::List::Unpaid
+                          ? Holds{"select * from qfjl_wjf ", joined(whoOwesColumns, unpaidEnd)}
+                      : overview.holds == reports::List::Comparison
+                          ? Holds{"select * from qfjl_je ", joined(whoOwesColumns, lessPaidEnd)}
+                          : Holds{"select * from qfjl ", arrearsPlan.columns};
   overview.list.setColumns(holds.columns);
   for (kit::Field& figure : overview.figures) {
     figure.clear();
-    figure.show(mode == 1);
+    figure.show(arrears);
   }
-  RecordSet rows(desk.store, holds.rows + desk.session.arrears_where);
+  RecordSet rows(desk.store, holds.rows + overview.filter.where);
   Filled filled;
   overview.list.fill(rows, [&](RecordSet& row) {
-    if (mode == 1) addArrears(filled, row);
+    if (arrears) addArrears(filled, row);
   });
   filled.count = overview.list.count();
   overview.bar.set("记录个数：" + base::caption(filled.count) + " 条");
-  if (mode != 1) return filled;
-  const Filled all = desk.session.arrears_where.empty() ? filled : arrearsOfAll(desk);
+  if (!arrears) return filled;
+  const Filled all = overview.filter.where.empty() ? filled : arrearsOfAll(desk);
   const base::Money sums[] = {all.due, all.paid, all.waived};
   for (std::size_t i = 0; i < overview.figures.size(); ++i) overview.figures[i].set(sums[i].fixed2());
   return filled;

@@ -3,7 +3,9 @@
 
 #include <deque>
 
+#include "kit/filter.h"
 #include "kit/screen.h"
+#include "reports/export.h"
 #include "shell/statistics.h"
 
 namespace shell {
@@ -13,6 +15,7 @@ struct OverviewButton {
   const char* caption;
   const char* icon;
   std::vector<int> anyOf;  // rights; empty: always enabled
+  bool changesRows = false;
 };
 
 // The bar that the zoom picture opens below the list.
@@ -35,6 +38,7 @@ struct OverviewPlan {
   kit::Panel panel;
   const char* name;
   const char* title;
+  reports::List holds;
   const char* notice;  // while it loads
   std::vector<kit::ListColumn> columns;
   std::vector<OverviewButton> buttons;
@@ -57,12 +61,14 @@ class StatisticsBar {
 class Overview {
  public:
   Overview(kit::Screen& screen, const OverviewPlan& plan);
-  void settle(const kit::Desk& desk);  // the buttons by the user's rights
+  void enableByRights(const kit::Desk& desk);  // and by what the list holds: a computed list has no rows to change
   kit::Action& button(std::string_view caption);
   kit::Nodes layout();
   void clear();
 
   const OverviewPlan& plan;
+  kit::Filter filter;   // of the rows that are listed
+  reports::List holds;  // the arrears' overview also takes the lists that a query computes
   kit::Frame frame;
   kit::List list;
   kit::Field bar;

@@ -25,54 +25,34 @@ void Formzct::wireOverviews() {
   timer1.onTick([this] { openPanel(); });
   timer4.onTick([this] { refillAfterQuery(); });
 
-  struct Place {
-    Overview* overview;
-    std::string* selection;
-  };
-  auto& session = desk.session;
-  for (const Place& place :
-       {Place{&students_overview, &session.student_selection}, Place{&payments_overview, &session.payment_selection},
-        Place{&arrears_overview, &session.arrears_selection}}) {
-    Overview& overview = *place.overview;
-    overview.list.onSelect([&overview, selection = place.selection] { *selection = overview.list.key(); });
-    overview.button("返回").onPress([this] { closeOverviews(); });
-  }
-
-  students_overview.button("打开").onPress([this] {
-    open<students::Formzctxscx1>();
-    refillWhenAsked();
-  });
-  payments_overview.button("打开").onPress([this] {
-    open<collection::Formzctsf31>();
-    refillWhenAsked();
-  });
+  for (Overview* overview : {&students_overview, &payments_overview, &arrears_overview})
+    overview->button("返回").onPress([this] { closeOverviews(); });
+  students_overview.button("打开").onPress([this] { refillLater(students_overview, open<students::Formzctxscx1>()); });
+  payments_overview.button("打开").onPress([this] { refillLater(payments_overview, open<collection::Formzctsf31>()); });
   arrears_overview.button("打开").onPress([this] { queryArrears(); });
   students_overview.button("添加").onPress([this] { editStudent(kit::Mode::Add); });
   students_overview.button("修改").onPress([this] { editStudent(kit::Mode::Modify); });
   students_overview.button("删除").onPress([this] { editStudent(kit::Mode::Delete); });
   students_overview.button("浏览").onPress([this] {
-    if (desk.session.student_selection.empty()) return inform("前台无记录或您没有选中要浏览的学生！     ", "信息提示");
+    if (students_overview.list.selected() < 0) return inform("前台无记录或您没有选中要浏览的学生！     ", "信息提示");
+    desk.session.student_selection = students_overview.list.key();
     open<students::Formzctxsll>();
   });
   payments_overview.list.setTip("双击选定记录修改");
   kit::Action& modifyPayment = payments_overview.button("修改");
   modifyPayment.onPress([this] { editPayment(kit::Mode::Modify); });
   payments_overview.button("删除").onPress([this] { editPayment(kit::Mode::Delete); });
-  payments_overview.list.onDoubleClick([this, &modifyPayment] {
-    if (modifyPayment.enabled()) editPayment(kit::Mode::Modify);
-  });
+  payments_overview.list.onDoubleClick([&modifyPayment] { modifyPayment.invoke(); });
   kit::Action& modifyArrears = arrears_overview.button("修改");
   modifyArrears.onPress([this] { editArrears(kit::Mode::Modify); });
   arrears_overview.button("删除").onPress([this] { editArrears(kit::Mode::Delete); });
-  arrears_overview.list.onDoubleClick([this, &modifyArrears] {
-    if (modifyArrears.enabled()) editArrears(kit::Mode::Modify);
-  });
+  arrears_overview.list.onDoubleClick([&modifyArrears] { modifyArrears.invoke(); });
   cd91.onPress([this] { waiveInOverview(false); });
   cd92.onPress([this] { waiveInOverview(true); });
   arrears_overview.list.menu = arrearsOverviewPopUp();
   arrears_overview.button("导入").onPress([this] {
     open<arrears::Formqfcl2>();
-    fill(arrears_overview);
+    fillAgain(arrears_overview);
   });
   arrears_overview.button("添加").onPress([this] { addArrears(); });
 }
@@ -118,37 +98,37 @@ Filled Formzct::fill(Overview& overview) {
   return fillArrears(overview, desk);
 }
 
-void Formzct::refillWhenAsked() {
-  const auto& session = desk.session;
-  if (session.reload_student_list || session.reload_payment_list || session.reload_arrears_list) timer4.start();
+void Formzct::refillLater(Overview& overview, std::optional<kit::Filter> answer) {
+  if (!answer) return;
+  overview.filter = std::move(*answer);
+  asked_ = &overview;
+  timer4.start();
 }
 
 // Arrears can be edited as soon as their list is chosen; the two computed lists cannot.
 void Formzct::queryArrears() {
-  open<arrears::Formqfcl11>();
-  if (!desk.session.reload_arrears_list) return;
-  const bool arrears = desk.session.arrears_list_mode == 1;
-  for (const char* caption : {"添加", "修改", "删除"}) arrears_overview.button(caption).enable(arrears);
-  if (arrears) timer4.start();
-  else refillAfterQuery();
+  auto answer = open<arrears::Formqfcl11>();
+  if (!answer) return;
+  arrears_overview.holds = answer->arrears_list_mode;
+  enableWaivers();
+  arrears_overview.enableByRights(desk);
+  refillLater(arrears_overview, std::move(answer));
+  if (arrears_overview.holds != reports::List::Arrears) refillAfterQuery();
+}
+
+// A row of a computed list is nobody's debt.
+void Formzct::enableWaivers() {
+  for (kit::Action* entry : {&cd91, &cd92})
+    entry->enable(may(desk, WaiveArrears) && arrears_overview.holds == reports::List::Arrears);
 }
 
 void Formzct::refillAfterQuery() {
   timer4.stop();
-  auto& session = desk.session;
-  struct Wanted {
-    bool& reload;
-    Overview& overview;
-  };
-  for (const Wanted& wanted :
-       {Wanted{session.reload_student_list, students_overview}, Wanted{session.reload_payment_list, payments_overview},
-        Wanted{session.reload_arrears_list, arrears_overview}}) {
-    if (!wanted.reload || session.ConsolePanel != wanted.overview.plan.panel) continue;
-    wanted.reload = false;
-    fill(wanted.overview);
-  }
-  if (inFront() == &students_overview) ready.set(session.student_query.empty() ? "就绪" : session.student_query);
-  if (!session.payment_heading.empty()) payments_overview.bar.set(session.payment_heading);
+  Overview* overview = std::exchange(asked_, nullptr);
+  if (!overview || overview != inFront()) return;
+  fill(*overview);
+  if (overview == &students_overview) ready.set(overview->filter.heading.empty() ? "就绪" : overview->filter.heading);
+  if (overview == &payments_overview && !overview->filter.heading.empty()) overview->bar.set(overview->filter.heading);
   desk.progress.hide();
 }
 
@@ -169,20 +149,33 @@ void Formzct::stampKeyedRows(const char* table) {
                desk.clock.now().plain());
 }
 
+// An edit goes back to the row that was worked on.
+void Formzct::fillAgain(Overview& overview) {
+  const std::int64_t worked = overview.list.mark();
+  fill(overview);
+  overview.list.selectMark(worked);
+  if (&overview == &payments_overview && !overview.filter.heading.empty()) overview.bar.set(overview.filter.heading);
+}
+
+store::Sql Formzct::keyedHere() const { return Sql(" where bsh='") + base::trim(desk.session.ComputerName) + "'"; }
+
 void Formzct::editStudent(kit::Mode mode) {
-  if (mode != kit::Mode::Add && desk.session.student_selection.empty()) return;
+  if (mode != kit::Mode::Add && students_overview.list.selected() < 0) return;
+  desk.session.student_selection = students_overview.list.key();
   desk.session.EditMode = mode;
+  const auto keyed = [this] { return rows(Sql("select * from xs") + keyedHere()).count(); };
+  const long long before = mode == kit::Mode::Add ? keyed() : 0;
   open<students::Formzctxs>();
-  if (mode == kit::Mode::Add)
-    desk.session.student_where = Sql(" where bsh='") + base::trim(desk.session.ComputerName) + "'";
-  fill(students_overview);
+  if (mode == kit::Mode::Add && keyed() > before) students_overview.filter = {keyedHere()};
+  fillAgain(students_overview);
 }
 
 void Formzct::editPayment(kit::Mode mode) {
-  if (desk.session.payment_selection.empty()) return;
+  if (payments_overview.list.selected() < 0) return;
+  desk.session.payment_selection = payments_overview.list.key();
   desk.session.EditMode = mode;
   open<collection::Formzctsf1>();
-  fill(payments_overview);
+  fillAgain(payments_overview);
 }
 
 void Formzct::addArrears() {
@@ -191,28 +184,27 @@ void Formzct::addArrears() {
   paid.last();
   auto& session = desk.session;
   session.current_xq = paid.get("xq").trimmed();
-  const Sql keyed = Sql(" where bsh='") + base::trim(session.ComputerName) + "'";
-  const auto keyedRows = [&] { return rows(Sql("select * from qfjl") + keyed).count(); };
+  const auto keyedRows = [&] { return rows(Sql("select * from qfjl") + keyedHere()).count(); };
   const long long before = keyedRows();
   const std::string onCard = std::exchange(session.current_xh, "");
   open<arrears::Formqfcl>();
   session.current_xh = onCard;  // the entry leaves its own student there; the card still shows the one before
-  if (keyedRows() > before) session.arrears_where = keyed;
-  fill(arrears_overview);
+  if (keyedRows() > before) arrears_overview.filter = {keyedHere()};
+  fillAgain(arrears_overview);
 }
 
 void Formzct::editArrears(kit::Mode mode) {
+  if (arrears_overview.list.selected() < 0) return;
   desk.session.arrears_selection = arrears_overview.list.key();
-  if (desk.session.arrears_selection.empty()) return;
   desk.session.EditMode = mode;
   if (mode == kit::Mode::Modify) open<arrears::Formqf>();
   else open<arrears::Formqfcl5>();
-  fill(arrears_overview);
+  fillAgain(arrears_overview);
 }
 
 void Formzct::waiveInOverview(bool all) {
   const auto waive = all ? arrears::waiveAll : arrears::waiveOne;
-  if (waive(desk, arrears_overview.list.key(), arrears::WaivedFrom::Overview)) fill(arrears_overview);
+  if (waive(desk, arrears_overview.list.key(), arrears::WaivedFrom::Overview)) fillAgain(arrears_overview);
 }
 
 }  // namespace shell

@@ -57,7 +57,7 @@ void Formzct::closeStatistics(Overview& overview) {
 
 void Formzct::showStudentsOfClass() {
   const std::string name = students_overview.statistics.first.key();
-  desk.session.student_where = Sql(" where bjmc='") + name + "' order by xh";
+  students_overview.filter = {Sql(" where bjmc='") + name + "' order by xh"};
   const Filled filled = fill(students_overview);
   desk.progress.hide();
   students_overview.bar.set("在校生人数：" + base::caption(filled.count) + " 人，其中男生：" +
@@ -68,27 +68,32 @@ void Formzct::showStudentsOfClass() {
 void Formzct::showUnsubmittedOf(const Sql& where, const std::string& what) {
   if (rows(Sql("select * from jfjl ") + where).empty())
     return inform("前台没有该收费项目的未提交记录！    ", "信息提示");
-  desk.session.payment_where = where;
+  payments_overview.filter = {where};
   const Filled filled = fill(payments_overview);
   closeStatistics(payments_overview);
   payments_overview.bar.set(what + base::caption(filled.count) + " 笔，未提交金额：" + filled.paid.fixed2() + " 元 ！");
 }
 
+// Real arrears again, also after a computed list.
+Filled Formzct::showArrears(const Sql& where) {
+  arrears_overview.filter = {where};
+  arrears_overview.holds = reports::List::Arrears;
+  arrears_overview.enableByRights(desk);
+  enableWaivers();
+  return fill(arrears_overview);
+}
+
 void Formzct::showArrearsOfClass() {
   const std::string name = arrears_overview.statistics.first.key();
-  desk.session.arrears_list_mode = 1;
-  desk.session.arrears_where = Sql(" where bjmc='") + name + "'and sbjje<bjje and clfs<>'减免'";
-  const Filled filled = fill(arrears_overview);
+  const Filled filled = showArrears(Sql(" where bjmc='") + name + "'and sbjje<bjje and clfs<>'减免'");
   arrears_overview.bar.set("记录个数：" + base::caption(filled.count) + " 条，欠费总额：" +
                            (filled.due - filled.paid).fixed2() + " 元 ！");
 }
 
 void Formzct::showMonthOfClass() {
   const std::string name = arrears_overview.statistics.second.key();
-  desk.session.arrears_list_mode = 1;
-  desk.session.arrears_where =
-      Sql(" where bjmc='") + name + "' and month(bjrq)='" + std::to_string(desk.clock.today().month) + "'";
-  const Filled filled = fill(arrears_overview);
+  const Filled filled =
+      showArrears(Sql(" where bjmc='") + name + "' and month(bjrq)='" + std::to_string(desk.clock.today().month) + "'");
   arrears_overview.bar.set("本月欠费记录个数：" + base::caption(filled.count) + " 条，欠费总额：" +
                            filled.due.fixed2() + " 元；已收回欠费：" + (filled.paid - filled.waived).fixed2() +
                            " 元；减免欠费：" + filled.waived.fixed2() + " 元；还有 " +

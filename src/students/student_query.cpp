@@ -26,9 +26,7 @@ const kit::QueryPlan plan{"xs",
                           {"", "单击确认查看当日新增的学籍资料信息", "单击确认查看本月新增的学籍资料信息",
                            "单击确认查看本年度新增的学籍资料信息", "单击确认查看全部学籍资料信息"},
                           keywordPieces,
-                          keywordEnd,
-                          &kit::Session::student_where,
-                          &kit::Session::reload_student_list};
+                          keywordEnd};
 
 }  // namespace
 
@@ -51,7 +49,7 @@ Formzctxscx1::Formzctxscx1(kit::Desk& all) : QueryScreen(all, "Formzctxscx1", "�
   wireConditions();
   single.onPress([this] {
     close();
-    open<Formzctxscx>();
+    answer = open<Formzctxscx>();
   });
 }
 
@@ -165,19 +163,13 @@ void Formzctxscx::query() {
     const bool major = chosen == &ways().front();
     filter = chosen->before + (major ? kit::majorCode(desk.store, value.trimmed()) : value.trimmed()) + "'";
   }
-  auto& session = desk.session;
   const long long count = rows(Sql("select * from xs ") + filter).count();
-  if (count == 0) {
-    session.student_query = "";
-    return inform("相关记录不存在 ！      ", "信息提示");
-  }
-  session.student_query =
-      way.text() +
-      (dates ? "：条件是从 [ " + from.trimmed() + " ] 到 [ " + to.trimmed() + " ]，符合条件的记录有："
-             : "：条件是 [ " + value.trimmed() + " ] ，符合条件的记录有：") +
-      base::caption(count) + " 条！";
-  session.student_where = filter;
-  session.reload_student_list = true;
+  if (count == 0) return inform("相关记录不存在 ！      ", "信息提示");
+  answer = kit::Filter{
+      filter, way.text() +
+                  (dates ? "：条件是从 [ " + from.trimmed() + " ] 到 [ " + to.trimmed() + " ]，符合条件的记录有："
+                         : "：条件是 [ " + value.trimmed() + " ] ，符合条件的记录有：") +
+                  base::caption(count) + " 条！"};
   close();
 }
 

@@ -17,11 +17,12 @@ class Formzctxscx1 : public kit::QueryScreen {  // 打开学籍资料信息设�
   kit::DateCondition rxrq{*this, "rxrq", "入学日期"};
   kit::Field rxxs{*this, "rxxs", "入学形式", kit::Entry::Pick}, byxx{*this, "byxx", "原毕业学校", kit::Entry::Pick};
   kit::Action single{*this, "single", "单项查询", "list-filter"};  // the other screen instead
+  std::optional<kit::Filter> answer;
 
  private:
   std::optional<std::vector<kit::Condition>> conditions() override;
   std::vector<kit::Field*> conditionFields() override;
-  void accepted() override { desk.session.student_query.clear(); }
+  void accepted(kit::Filter filter) override { answer = std::move(filter); }
 };
 
 class Formzctxscx : public kit::Screen {  // 学生学籍资料查询设置
@@ -34,6 +35,7 @@ class Formzctxscx : public kit::Screen {  // 学生学籍资料查询设置
   kit::Field value{*this, "value", "查询内容", kit::Entry::Pick};
   kit::Field from{*this, "from", "起始日期", kit::Entry::Date}, to{*this, "to", "到", kit::Entry::Date};
   kit::Action confirm{*this, "confirm", "确认", "check"}, cancel{*this, "cancel", "返回", "undo-2"};
+  std::optional<kit::Filter> answer;
 
  private:
   void wayChanged();

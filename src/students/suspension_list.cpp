@@ -31,7 +31,7 @@ Formxxfk::Formxxfk(kit::Desk& all)
   remove.onPress([this] { editSelected(Mode::Delete, "不存在需要删除的记录！  "); });
   query.onPress([this] { chooseFilter(); });
   print.onPress([this] { printAll(); });
-  toSheet.onPress([this] { reports::exportList(desk, reports::List::Suspensions, desk.session.suspension_where); });
+  toSheet.onPress([this] { reports::exportList(desk, reports::List::Suspensions, filter_.where); });
   clearAll.onPress([this] { empty(); });
   back.onPress([this] { close(); });
 }
@@ -42,13 +42,13 @@ void Formxxfk::load() {
   remove.enable(kit::may(desk, kit::SuspensionDelete));
   clearAll.enable(kit::may(desk, kit::SuspensionClear));
   for (kit::Action* one : {&query, &print, &toSheet}) one->enable(kit::may(desk, kit::SuspensionQuery));
-  desk.session.suspension_where = {};
+  filter_ = {};
   suspensions.open("select * from xxfk order by xh");
   showCount();
 }
 
 void Formxxfk::showCount() {
-  count.set((desk.session.suspension_where.empty() ? "记录个数：" : "记录个数:") + base::caption(suspensions.count()));
+  count.set((filter_.where.empty() ? "记录个数：" : "记录个数:") + base::caption(suspensions.count()));
 }
 
 void Formxxfk::editSelected(Mode mode, const std::string& none) {
@@ -67,17 +67,16 @@ void Formxxfk::edit(Mode mode, store::RecordSet* row) {
 }
 
 void Formxxfk::chooseFilter() {
-  desk.session.suspensions_queried = false;
-  open<Formxxfk2>();
-  if (!desk.session.suspensions_queried) return;
-  suspensions.open(Sql("select * from xxfk") + desk.session.suspension_where);
+  auto answer = open<Formxxfk2>();
+  if (!answer) return;
+  filter_ = std::move(*answer);
+  suspensions.open(Sql("select * from xxfk") + filter_.where);
   showCount();
 }
 
 void Formxxfk::printAll() {
   const auto fill = [this] {
-    return reports::refill(desk, "dy_xxfk", Sql("select * from xxfk ") + desk.session.suspension_where,
-                           reports::columnsOf("dy_xxfk"));
+    return reports::refill(desk, "dy_xxfk", Sql("select * from xxfk ") + filter_.where, reports::columnsOf("dy_xxfk"));
   };
   reports::printList(
       desk, fill, "bbdy_xxfk",

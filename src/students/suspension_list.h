@@ -1,6 +1,7 @@
 // The suspensions and resumptions of students: the list with all that is done to it, and the notice before it.
 #pragma once
 
+#include "kit/filter.h"
 #include "kit/loading_screen.h"
 
 namespace students {
@@ -25,6 +26,8 @@ class Formxxfk : public kit::Screen {  // 学生休学复课管理前台
       remove{*this, "remove", "删除", "trash-2"}, query{*this, "query", "查询", "search"},
       print{*this, "print", "打印", "printer"}, toSheet{*this, "toSheet", "导出", "file-spreadsheet"},
       clearAll{*this, "clearAll", "清空", "eraser"}, back{*this, "back", "返回", "undo-2"};
+
+  kit::Filter filter_;
 
  private:
   void showCount();

@@ -9,8 +9,7 @@ Formxxfk2::Formxxfk2(kit::Desk& all) : Screen(all, "Formxxfk2", "休学复课记
   bjmc.onDrop([this] { bjmc.setChoices(kit::columnTexts(desk.store, "select bjmc from xxfk group by bjmc", "bjmc")); });
   xm.onDrop([this] { xm.setChoices(kit::columnTexts(desk.store, "select * from xxfk  order by xh", "xm")); });
   confirm.onPress([this] {
-    desk.session.suspension_where = kit::chain({kit::equals("bjmc", bjmc.trimmed()), kit::equals("xm", xm.trimmed())});
-    desk.session.suspensions_queried = true;
+    answer = kit::Filter{kit::chain({kit::equals("bjmc", bjmc.trimmed()), kit::equals("xm", xm.trimmed())})};
     close();
   });
   cancel.onPress([this] { close(); });

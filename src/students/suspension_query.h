@@ -1,6 +1,7 @@
 // What the list of suspensions is filtered by: a class, a student's name, both, or neither for all of them.
 #pragma once
 
+#include "kit/filter.h"
 #include "kit/screen.h"
 
 namespace students {
@@ -12,6 +13,7 @@ class Formxxfk2 : public kit::Screen {  // 休学复课记录查询设置
 
   kit::Field bjmc{*this, "bjmc", "院校班级", kit::Entry::Pick}, xm{*this, "xm", "学生姓名", kit::Entry::Pick};
   kit::Action confirm{*this, "confirm", "确认", "check"}, cancel{*this, "cancel", "返回", "undo-2"};
+  std::optional<kit::Filter> answer;
 };
 
 }  // namespace students

@@ -105,8 +105,8 @@ TEST(ArrearsFilter, EveryMixtureGivesItsClauseAndItsRows) {
     ASSERT_EQ(s->closed(), wanted > 0) << mixture.where;
     if (wanted == 0) continue;
     ++accepted;
-    ASSERT_EQ(desk.session.arrears_where.text(), mixture.where);
-    ASSERT_EQ(desk.count(Sql("select * from qfjl ") + desk.session.arrears_where), wanted) << mixture.where;
+    ASSERT_EQ(s->answer->where.text(), mixture.where);
+    ASSERT_EQ(desk.count(Sql("select * from qfjl ") + s->answer->where), wanted) << mixture.where;
   }
   EXPECT_GT(accepted, 100);
 }

@@ -71,9 +71,9 @@ TEST(ArrearsQuery, ChainsWithTheOddSignBehindAnother) {
     auto s = opened<Formqfcl11>(desk);
     one.fill(*s);
     (s->key.blank() ? s->confirm : s->search).press();
-    EXPECT_TRUE(s->closed() && desk.session.reload_arrears_list) << one.where;
-    EXPECT_EQ(desk.session.arrears_where.text(), one.where);
-    EXPECT_EQ(desk.count(Sql("select * from qfjl ") + desk.session.arrears_where), one.found) << one.where;
+    ASSERT_TRUE(s->closed() && s->answer) << one.where;
+    EXPECT_EQ(s->answer->where.text(), one.where);
+    EXPECT_EQ(desk.count(Sql("select * from qfjl ") + s->answer->where), one.found) << one.where;
   }
 }
 
@@ -88,7 +88,8 @@ TEST(ArrearsQuery, TheOlderScreenGivesAChainToo) {
   s->of.type("计算机");
   s->clfs.type("不足");
   s->confirm.press();
-  EXPECT_EQ(desk.session.arrears_where.text(),
+  ASSERT_TRUE(s->answer);
+  EXPECT_EQ(s->answer->where.text(),
             " where left(xtbh,2)='11' and qfrq>=#2026-9-7# and qfrq<=#2026-9-7# and clfs='不足'");
 }
 
@@ -163,7 +164,8 @@ TEST(Comparison, TellsThePeriodAndItsResult) {
   school.person.expect(Box::Information, "信息搜索完毕！    ", "信息提示");
   s->searchUnpaid.press();
   EXPECT_TRUE(s->closed());
-  EXPECT_EQ(school.session.arrears_list_mode, 2);
+  ASSERT_TRUE(s->answer);
+  EXPECT_EQ(s->answer->arrears_list_mode, reports::List::Unpaid);
   EXPECT_EQ(school.value("select * from qfjl_wjf", "xqrq") + school.value("select * from qfjl_wjf", "sfxm"),
             "从 2026-9-9 到 2026-9-10无任何交费记录");
 
@@ -178,7 +180,8 @@ TEST(Comparison, TellsThePeriodAndItsResult) {
   again->compared.xq.type("上");
   school.person.expect(Box::Information, "信息搜索完毕！ ", "信息提示");
   again->compare.press();
-  EXPECT_EQ(school.session.arrears_list_mode, 3);
+  ASSERT_TRUE(again->answer);
+  EXPECT_EQ(again->answer->arrears_list_mode, reports::List::Comparison);
   EXPECT_EQ(school.count("select * from qfjl_je where yjje=5000 and xqrq='上'"), 40);
 }
 

@@ -145,7 +145,7 @@ void Operator::waive() {
 void Operator::correct() {
   const std::string lsh = pickLsh("select * from qfjl where clfs=''");
   if (lsh.empty()) return;
-  session_.arrears_where = Sql(" where lsh='") + lsh + "'";
+  console_->arrears_overview.filter = {Sql(" where lsh='") + lsh + "'"};
   session_.auto_load_lists = true;
   console_->k4.press();
   console_->timer1.tick();
@@ -153,7 +153,7 @@ void Operator::correct() {
   overview.list.select(0);
   overview.button("修改").press();
   overview.button("返回").press();
-  session_.arrears_where = {};
+  console_->arrears_overview.filter = {};
   session_.auto_load_lists = false;
 }
 

@@ -1,5 +1,6 @@
 #include "kit/screen.h"
 
+#include "kit/rows.h"
 #include "kit/validation.h"
 #include "support/test_desk.h"
 
@@ -71,23 +72,47 @@ TEST(Screen, NobodyUsesWhatCannotBeReached) {
   EXPECT_THROW(s->confirm.press(), std::logic_error);
 }
 
-TEST(Grid, KeepsItsPlaceAndHandsOutTheRow) {
+TEST(Grid, KnowsTheRowThatWasSelectedWhateverBecomesOfThoseAround) {
   TestDesk test;
   for (const char* code : {"11", "13", "12"}) test.add("zymcb", {{"zybh", code}, {"zymc", std::string("专业") + code}});
   auto s = opened<Sample>(test);
-  EXPECT_EQ(s->majors.current(), nullptr);
-  s->majors.select(2);
-  EXPECT_EQ(s->majors.key(), "13");
-  store::RecordSet* row = s->majors.current();
-  ASSERT_TRUE(row);
-  row->set("zymc", "新名");
-  row->update();
+  EXPECT_EQ(s->majors.mark(), 0);
+  s->majors.select(1);
+  const std::int64_t twelve = s->majors.mark();
+  removeEach(test.store, "select * from zymcb where zybh='11'");
+  EXPECT_EQ(rowAt(test.store, "zymcb", twelve).get("zybh").text(), "12");
   s->majors.reload();
-  EXPECT_EQ(s->majors.cell(2, 1), "新名");
-  EXPECT_EQ(s->majors.selected(), 2);
-  s->majors.current()->remove();
+  EXPECT_EQ(s->majors.key(), "12");
+  removeEach(test.store, "select * from zymcb where zybh='12'");
+  EXPECT_THROW(rowAt(test.store, "zymcb", twelve), store::StoreError);
   s->majors.reload();
-  EXPECT_EQ(s->majors.key(), "12");  // the last row there is
+  EXPECT_EQ(s->majors.selected(), -1);  // never the next best row
+}
+
+TEST(FreeNumbers, PassOverWhatStands) {
+  struct Case {
+    std::vector<const char*> standing;
+    const char* first;
+    std::vector<std::string> given;
+  };
+  const Case cases[] = {
+      {{}, "2026307001", {"2026307001", "2026307002", "2026307003"}},
+      {{"2026307001", "2026307003"}, "2026307001", {"2026307002", "2026307004", "2026307005"}},
+      {{"998", "1000", "1002"}, "998", {"999", "1001", "1003"}},  // the order of texts is not that of numbers
+      {{"1", "10000001", "10000002", "2", "A100"}, "1", {"3", "4", "5"}},
+      {{"99999999999999999999"},
+       "99999999999999999999",
+       {"100000000000000000000", "1000000000000000000001", "1000000000000000000000"}},  // beyond any step
+  };
+  for (const Case& one : cases) {
+    TestDesk test;
+    for (const char* number : one.standing) test.add("jfjl", {{"fpbh", number}});
+    EXPECT_EQ(freeNumbers(test.store, "jfjl", "fpbh", one.first, 3), one.given) << one.first;
+  }
+  TestDesk long_run;
+  for (int i = 1; i <= 40; ++i) long_run.add("jfjl", {{"fpbh", std::to_string(10000000 + i)}});
+  for (const char* number : {"1", "2"}) long_run.add("jfjl", {{"fpbh", number}});
+  EXPECT_EQ(freeNumbers(long_run.store, "jfjl", "fpbh", "1", 1), std::vector<std::string>{"3"});
 }
 
 TEST(Validation, StopsAtTheFirstBreachWithTheFocusInItsField) {

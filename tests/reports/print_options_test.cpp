@@ -41,21 +41,18 @@ TEST(PrintOptions, ArrearsTakeTheTelephoneFromTheStudent) {
 
 TEST(PrintOptions, TheListModeDecidesWhatOfArrearsIsPrinted) {
   PrintDesk desk;
-  desk.session.arrears_list_mode = 2;
   desk.asked("要打印未交费学生名单吗？请确认打印机连接正常、打印纸准备就绪！ ");
-  opened<Formzctqfjldy>(desk)->print.press();
+  opened<Formzctqfjldy>(desk, "", List::Unpaid)->print.press();
   EXPECT_EQ(desk.lastTitle(), "未交费学生名单");
   EXPECT_EQ(desk.count("select * from qfjl_wjf"), 1);
-  desk.session.arrears_list_mode = 3;
   desk.person.expect(Box::Information, "不存在能够打印的记录！", "信息提示");
-  opened<Formzctqfjldy>(desk)->print.press();
+  opened<Formzctqfjldy>(desk, "", List::Comparison)->print.press();
 }
 
 TEST(PrintOptions, StudentsAndPaymentsFollowTheConsolesFilter) {
   PrintDesk desk;
-  desk.session.student_where = " where xh='1002'";
   desk.asked("要打印学生信息空表吗？请确认打印机连接正常、打印纸准备就绪！ ");
-  auto students = opened<Formzctxsdy>(desk);
+  auto students = opened<Formzctxsdy>(desk, " where xh='1002'");
   students->what.choose(1);
   students->print.press();
   EXPECT_EQ(desk.dump("dy_xs", "xm"), "张三\n");
@@ -69,9 +66,8 @@ TEST(PrintOptions, StudentsAndPaymentsFollowTheConsolesFilter) {
   desk.asked("要打印学生交费明细记录表吗？请确认打印机连接正常、打印纸准备就绪！");
   payments->print.press();
   EXPECT_EQ(desk.lastTitle(), "交费记录打印");
-  desk.session.payment_where = " where xh='9'";
   desk.person.expect(Box::Information, "不存在需要打印的数据！  ", "信息提示");
-  payments->print.press();
+  opened<Formzctjfjldy>(desk, " where xh='9'")->print.press();
 }
 
 }  // namespace

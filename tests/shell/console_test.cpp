@@ -20,6 +20,7 @@ namespace shell {
 namespace {
 
 using kit::Box;
+using reports::List;
 using support::opened;
 using support::TestDesk;
 
@@ -224,21 +225,21 @@ TEST(Console, ExportsTheListInFrontUnderItsFilter) {
   office.owe("1", "1001", {2026, 9, 1}, "300");
   office.add("qfjl_wjf", {{"xh", "1001"}});
   office.add("qfjl_je", {{"xh", "1001"}});
-  office.session.student_where = " where xm='张三'";
   auto s = opened<Formzct>(office);
+  s->students_overview.filter = {" where xm='张三'"};
   const struct {
     kit::Panel panel;
-    int listMode;
+    List holds;
     const char *object, *title;
     std::size_t rows;
-  } exports[] = {{kit::Panel::Students, 1, "学生的学籍资料", "按查询条件导出的学生学籍资料", 2},
-                 {kit::Panel::Payments, 2, "交费记录", "学员交费记录", 2},
-                 {kit::Panel::Arrears, 1, "学生的欠费记录", "学员欠费记录", 1},
-                 {kit::Panel::Arrears, 2, "未交费学生名单", "未交费学生名单导出", 1},
-                 {kit::Panel::Arrears, 3, "应交与实交对比结果", "应交与实交对比结果导出", 1}};
+  } exports[] = {{kit::Panel::Students, List::Arrears, "学生的学籍资料", "按查询条件导出的学生学籍资料", 2},
+                 {kit::Panel::Payments, List::Unpaid, "交费记录", "学员交费记录", 2},
+                 {kit::Panel::Arrears, List::Arrears, "学生的欠费记录", "学员欠费记录", 1},
+                 {kit::Panel::Arrears, List::Unpaid, "未交费学生名单", "未交费学生名单导出", 1},
+                 {kit::Panel::Arrears, List::Comparison, "应交与实交对比结果", "应交与实交对比结果导出", 1}};
   for (const auto& one : exports) {
     office.session.ConsolePanel = one.panel;
-    office.session.arrears_list_mode = one.listMode;
+    s->arrears_overview.holds = one.holds;
     const std::string title = one.title, file = (office.desktop.exportFolder() / (title + " 2026-09-07.xlsx")).string();
     office.person
         .answer(true, Box::Ask, std::string("此操作将导出") + one.object + "为EXCEL格式表，您确认继续吗？      ",
@@ -374,7 +375,7 @@ TEST(Console, EditsArrearsFromTheOverview) {
 
   office.navigator.expect<arrears::Formqfcl>();  // left without a row: all rows stay in sight
   overview.button("添加").press();
-  EXPECT_TRUE(office.session.arrears_where.empty());
+  EXPECT_TRUE(overview.filter.where.empty());
   office.navigator.expect<arrears::Formqfcl>([](arrears::Formqfcl& entry) {
     EXPECT_EQ(entry.xh.text(), "");
     entry.xh.type("1001");

@@ -210,8 +210,8 @@ TEST(Statistics, LinesOfArrearsOpenTheClassAndItsMonth) {
   EXPECT_EQ(overview.figures[0].text() + " " + overview.figures[1].text() + " " + overview.figures[2].text(),
             "390.00 130.00 80.00")
       << "of the whole book";
-  school.session.arrears_list_mode = 2;
-  school.session.arrears_where = {};
+  overview.holds = reports::List::Unpaid;
+  overview.filter = {};
   s->cd82.press();
   EXPECT_EQ(overview.list.cell(0, 0), "7");
   EXPECT_EQ(overview.list.columns()[5].heading, "  联系电话");

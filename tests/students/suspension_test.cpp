@@ -143,7 +143,7 @@ TEST(Suspension, QueriesFilterTheListAndItsPrint) {
       query.confirm.press();
     });
     s->query.press();
-    EXPECT_EQ(test.session.suspension_where.text(), one.where);
+    EXPECT_EQ(s->filter_.where.text(), one.where);
     EXPECT_EQ(s->count.text(), one.found);
   }
   test.navigator.expect<Formxxfk2>([](Formxxfk2& query) { query.cancel.press(); });

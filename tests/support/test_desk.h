@@ -147,9 +147,9 @@ struct TestDesk {
   std::string value(const store::Sql& sql, std::string_view column);  // of the first row; "(no row)" without one
 };
 
-// A screen made, loaded and ready to be played.
-template <class S> std::unique_ptr<S> opened(TestDesk& test) {
-  auto screen = std::make_unique<S>(test.desk);
+// A screen made with what it is opened with, loaded and ready to be played.
+template <class S, class... With> std::unique_ptr<S> opened(TestDesk& test, With&&... with) {
+  auto screen = std::make_unique<S>(test.desk, std::forward<With>(with)...);
   screen->start();
   return screen;
 }
