@@ -73,7 +73,7 @@ void complete(Engine& engine, const Table& table) {
 std::string indexName(const Table& table, std::string_view index) {
   std::string name = std::string(table.name) + "_" + std::string(index);
   std::ranges::replace(name, ',', '_');
-  return quoted(name);
+  return store::quoted(name);  // not the standard library's
 }
 
 }  // namespace
