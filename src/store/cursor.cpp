@@ -124,6 +124,13 @@ void Cursor::standOn(std::int64_t rowNo) {
   place_ = Place::Row;
 }
 
+bool Cursor::goTo(std::int64_t rowNo) {
+  standOn(rowNo);
+  row_ = fetch(rowNo);
+  if (!row_) place_ = Place::End;
+  return row_.has_value();
+}
+
 void Cursor::visit(std::span<const std::int64_t> rowNos, const std::function<void(bool there)>& visit) {
   const std::string sql = rowsStatement(query_, database().engine().phrases(), readTogether);
   inPortions(rowNos, [&](const std::vector<Cell>& portion) {
