@@ -32,13 +32,15 @@ void Loan::giveBack() {
   database_->keep(std::move(sql_), std::move(statement_));
 }
 
-Database::~Database() {
+Database::~Database() { forgetStatements(); }
+
+void Database::forgetStatements() {
   byText_.clear();
   idle_.clear();
 }
 
 Engine& Database::engine() {
-  if (!engine_) engine_ = opener_();
+  if (!engine_) engine_ = between_ ? between_(opener_) : opener_();
   return *engine_;
 }
 
@@ -46,9 +48,15 @@ void Database::close() {
   if (!engine_) return;
   settle();
   if (inUnit()) return;  // its rows are not on the disk yet
-  byText_.clear();
-  idle_.clear();
+  forgetStatements();
   engine_.reset();
+}
+
+void Database::interpose(Interposer between) {
+  settle();
+  forgetStatements();
+  between_ = std::move(between);
+  if (engine_) engine_ = between_([this] { return std::move(engine_); });
 }
 
 void Database::replace(Opener opener) {

@@ -38,15 +38,17 @@ class Loan {
 class Database {
  public:
   using Opener = std::function<std::unique_ptr<Engine>()>;
+  using Interposer = std::function<std::unique_ptr<Engine>(const Opener&)>;
 
   explicit Database(Opener opener) : opener_(std::move(opener)) {}
   ~Database();
   Database(const Database&) = delete;
   Database& operator=(const Database&) = delete;
 
-  Engine& engine();             // opens the database when it is not open
-  void close();                 // not inside a unit; cursors keep their place and open it again
-  void replace(Opener opener);  // another database from now on: cursors of the old one have lost theirs
+  Engine& engine();                    // opens the database when it is not open
+  void close();                        // not inside a unit; cursors keep their place and open it again
+  void replace(Opener opener);         // another database from now on: cursors of the old one have lost theirs
+  void interpose(Interposer between);  // see Store::interpose
   int generation() const { return generation_; }
 
   void settle();  // no read is under way any longer
@@ -68,6 +70,7 @@ class Database {
  private:
   friend class Loan;
   std::unique_ptr<Statement> take(const std::string& sql, Rows rows);
+  void forgetStatements();
   void keep(std::string sql, std::unique_ptr<Statement> statement);
   void commit();
   void reachedDisk();
@@ -75,6 +78,7 @@ class Database {
   void failIfLost() const;
 
   Opener opener_;
+  Interposer between_;
   std::unique_ptr<Engine> engine_;
   std::list<std::pair<std::string, std::unique_ptr<Statement>>> idle_;  // the latest first
   std::unordered_multimap<std::string_view, decltype(idle_)::iterator> byText_;

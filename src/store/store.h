@@ -14,6 +14,7 @@
 namespace store {
 
 class Database;  // one open database behind an engine
+class Engine;
 
 constexpr std::string_view mainPassword = "kestrelboatfield7416";
 constexpr std::string_view configPassword = "w$rtq!?d3ma9&2p6u4ye";
@@ -39,6 +40,11 @@ class Store {
 
   // Called with true when a wait for another computer has lasted more than 0.2 s, with false when it is over.
   std::function<void(bool waiting)> onWait;
+
+  // Puts something between the store and what opens its engines: how tests make it fail. Not inside a unit. An engine
+  // that is open already is handed on as if it had just been opened.
+  using Opener = std::function<std::unique_ptr<Engine>()>;
+  void interpose(const std::function<std::unique_ptr<Engine>(const Opener& open)>& between);
 
   // How many times something has reached a disk since the store was made: a unit, or a single write outside of one. Of
   // what is made anew at each use (print tables and the like) nothing counts.

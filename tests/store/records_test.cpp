@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "store/configurations.h"
+#include "support/failing_engine.h"
 
 namespace store {
 namespace {
@@ -401,6 +402,47 @@ TEST_P(Records, AUnitInsideAUnitJoinsIt) {
   EXPECT_FALSE(Unit::openIn(*store_));
   EXPECT_THAT(column("select * from jfjl", "xm"), ElementsAre("joined"))
       << "an inner unit that was left takes all back";
+}
+
+TEST_P(Records, AFaultAtAnyCallLeavesAllOrNothing) {
+  addNumbered(3);
+  support::Failures failures(*store_);
+  std::vector<std::string> before = all();
+  int number = 1000;
+  for (const Fault fault : {Fault::Busy, Fault::Unreadable, Fault::DiskFull, Fault::Disconnected}) {
+    if (GetParam().reopens && fault != Fault::Busy) continue;  // opening anew takes its time
+    for (const bool forGood : {false, true}) {
+      bool struck = true;
+      for (int nth = 1; struck; ++nth) {
+        ASSERT_LT(nth, 100);
+        const long long saved = store_->saved();
+        failures.at(nth, fault, forGood);
+        try {
+          Unit unit(*store_);
+          RecordSet set(*store_, "select * from jfjl order by lsh desc");
+          set.set("lsh", std::to_string(set.get("lsh").number() + 1));
+          set.update();
+          for (set.last(); !set.atEnd(); set.next()) set.remove();
+          Unit inner(*store_);
+          RecordSet added(*store_, "select * from jfjl");
+          added.addNew();
+          added.set("lsh", std::to_string(++number));
+          added.update();
+          inner.finish();
+          unit.finish();
+        } catch (const StoreError& error) {
+          EXPECT_EQ(error.what(), support::Failures::words(fault));
+        }
+        struck = failures.failed() > 0;
+        failures.off();
+        EXPECT_FALSE(Unit::openIn(*store_));
+        const std::vector<std::string> now = all();
+        EXPECT_EQ(now == before, struck) << "at call " << nth;
+        before = now;
+        EXPECT_EQ(store_->saved() - saved, struck ? 0 : 1);
+      }
+    }
+  }
 }
 
 TEST_P(Records, WhatHasReachedADiskIsCounted) {
