@@ -124,6 +124,13 @@ void Cursor::standOn(std::int64_t rowNo) {
   place_ = Place::Row;
 }
 
+bool Cursor::goTo(std::int64_t rowNo) {
+  standOn(rowNo);
+  row_ = fetch(rowNo);
+  if (!row_) place_ = Place::End;
+  return row_.has_value();
+}
+
 void Cursor::visit(std::span<const std::int64_t> rowNos, const std::function<void(bool there)>& visit) {
   const std::string sql = rowsStatement(query_, database().engine().phrases(), readTogether);
   inPortions(rowNos, [&](const std::vector<Cell>& portion) {
@@ -163,7 +170,7 @@ void Cursor::release() {
   }
   try {
     pinStream();
-  } catch (const StoreError&) {  // told to who goes on with the walk
+  } catch (...) {  // told to who goes on with the walk
     stream_.giveBack();
     interrupted_ = true;
   }

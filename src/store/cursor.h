@@ -47,6 +47,7 @@ class Cursor {
   std::int64_t rowNo();  // of the current row; raises Fault::RowGone when there is none
   Value value(std::size_t column);
   void standOn(std::int64_t rowNo);  // a row that has just been written; nothing comes behind it
+  bool goTo(std::int64_t rowNo);     // stands on a row as it is now; false, and no row is current, when it is gone
   // Stands on each of the rows in turn, all read in few statements; there is false for a row that was deleted.
   void visit(std::span<const std::int64_t> rowNos, const std::function<void(bool there)>& visit);
   bool empty();

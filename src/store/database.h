@@ -38,15 +38,17 @@ class Loan {
 class Database {
  public:
   using Opener = std::function<std::unique_ptr<Engine>()>;
+  using Interposer = std::function<std::unique_ptr<Engine>(const Opener&)>;
 
   explicit Database(Opener opener) : opener_(std::move(opener)) {}
   ~Database();
   Database(const Database&) = delete;
   Database& operator=(const Database&) = delete;
 
-  Engine& engine();             // opens the database when it is not open
-  void close();                 // not inside a unit; cursors keep their place and open it again
-  void replace(Opener opener);  // another database from now on: cursors of the old one have lost theirs
+  Engine& engine();                    // opens the database when it is not open
+  void close();                        // not inside a unit; cursors keep their place and open it again
+  void replace(Opener opener);         // another database from now on: cursors of the old one have lost theirs
+  void interpose(Interposer between);  // see Store::interpose
   int generation() const { return generation_; }
 
   void settle();  // no read is under way any longer
@@ -58,8 +60,9 @@ class Database {
 
   void beginUnit();
   void finishUnit();            // the outermost one commits, or raises StoreError and nothing of it remains
-  void abandonUnit() noexcept;  // the same without a word, when an error is on its way already
+  void abandonUnit() noexcept;  // the outermost one rolls back; an inner one leaves no other way to those around it
   bool inUnit() const { return depth_ > 0; }
+  long long saved() const { return saved_; }  // see Store::saved
 
   void enlist(Cursor& cursor) { cursors_.push_back(&cursor); }
   void dismiss(Cursor& cursor);
@@ -67,16 +70,23 @@ class Database {
  private:
   friend class Loan;
   std::unique_ptr<Statement> take(const std::string& sql, Rows rows);
+  void forgetStatements();
   void keep(std::string sql, std::unique_ptr<Statement> statement);
   void commit();
+  void reachedDisk();
+  void rollback() noexcept;
   void failIfLost() const;
 
   Opener opener_;
+  Interposer between_;
   std::unique_ptr<Engine> engine_;
   std::list<std::pair<std::string, std::unique_ptr<Statement>>> idle_;  // the latest first
   std::unordered_multimap<std::string_view, decltype(idle_)::iterator> byText_;
   std::vector<Cursor*> cursors_;
   int depth_ = 0;
+  bool doomed_ = false;   // a unit inside the open one was abandoned
+  bool written_ = false;  // something that counts as saved once the unit is
+  long long saved_ = 0;
   int generation_ = 0;
 };
 

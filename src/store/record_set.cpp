@@ -101,8 +101,6 @@ RecordSet::~RecordSet() = default;
 RecordSet::RecordSet(RecordSet&&) noexcept = default;
 RecordSet& RecordSet::operator=(RecordSet&&) noexcept = default;
 
-void RecordSet::bind(Connection connection) { state_->connection = connection; }
-
 void RecordSet::open(const Sql& sql) {
   state_->leaveRow();
   state_->guesses.clear();
@@ -135,7 +133,6 @@ void RecordSet::next() {
 }
 
 bool RecordSet::atEnd() { return state_->editing != State::Editing::NewRow && !state_->rows().atRow(); }
-bool RecordSet::atStart() { return atEnd() && empty(); }
 
 Value RecordSet::get(std::string_view column) {
   const std::size_t index = state_->column(column);
@@ -219,9 +216,9 @@ long long RecordSet::removeAll() {
 bool RecordSet::hasMarks() { return !state_->rows().query().grouped; }
 std::int64_t RecordSet::mark() { return state_->rows().rowNo(); }
 
-void RecordSet::goTo(std::int64_t mark) {
+bool RecordSet::goTo(std::int64_t mark) {
   state_->leaveRow();
-  state_->rows().standOn(mark);
+  return state_->rows().goTo(mark);
 }
 
 void RecordSet::visit(std::span<const std::int64_t> marks, const std::function<void(bool there)>& visit) {

@@ -28,7 +28,6 @@ class RecordSet {
   RecordSet(RecordSet&&) noexcept;
   RecordSet& operator=(RecordSet&&) noexcept;
 
-  void bind(Connection connection);
   void open(const Sql& sql);  // the current row is the first row
   void refresh();             // runs the text again
   long long count();          // exact
@@ -36,8 +35,7 @@ class RecordSet {
   void first();
   void last();
   void next();
-  bool atEnd();    // past the last row, or no rows
-  bool atStart();  // before the first row: only in a set without rows
+  bool atEnd();  // past the last row, or no rows
   Value get(std::string_view column);
   void set(std::string_view column, Value value);  // of the current row, in memory until update()
   void addNew();                                   // a new row in memory; columns not set stay Null
@@ -50,11 +48,12 @@ class RecordSet {
   long long setMarked(std::span<const std::int64_t> marks, std::string_view column, const Value& value);
   std::vector<std::string> fields();
 
-  // What long lists keep instead of rows. A mark stands for a row as long as it exists; goTo makes that row current,
-  // with nothing behind it. Grouped rows have no marks.
+  // What lists keep instead of rows. A mark stands for a row of the set's table as long as it exists. goTo reads that
+  // row as it is now (inside a unit: nobody else can change it until the end) and makes it current, with nothing behind
+  // it; false when it is gone, and then there is no current row. Grouped rows have no marks.
   bool hasMarks();
   std::int64_t mark();
-  void goTo(std::int64_t mark);
+  bool goTo(std::int64_t mark);
   // Goes to each mark in turn, the rows read together; there is false for a row that was deleted meanwhile.
   void visit(std::span<const std::int64_t> marks, const std::function<void(bool there)>& visit);
   RecordSet another() const;  // a set of its own on the same statement

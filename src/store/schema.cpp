@@ -50,13 +50,13 @@ constexpr std::array<Step, 1> steps{{{1, addSettings}}};
 static_assert(steps.back().version == catalogueVersion, "each version of the catalogue has its step");
 
 std::string definition(const Column& column, const Phrases& phrases) {
-  return store::quoted(column.name) + " " + phrases.columnType(column.type);
+  return quoted(column.name) + " " + phrases.columnType(column.type);
 }
 
 void createTable(Engine& engine, const Table& table) {
   std::string columns = "row_no " + engine.phrases().rowNumber();
   for (const Column& column : table.columns) columns += ", " + definition(column, engine.phrases());
-  engine.execute("create table " + store::quoted(table.name) + " (" + columns + ")");
+  engine.execute("create table " + quoted(table.name) + " (" + columns + ")");
 }
 
 void complete(Engine& engine, const Table& table) {
@@ -65,7 +65,7 @@ void complete(Engine& engine, const Table& table) {
   for (const Column& column : table.columns) {
     const auto same = [&](const std::string& name) { return base::sameText(name, column.name); };
     if (present.empty() || std::ranges::any_of(present, same)) continue;
-    engine.execute("alter table " + store::quoted(table.name) + " add column " + definition(column, engine.phrases()));
+    engine.execute("alter table " + quoted(table.name) + " add column " + definition(column, engine.phrases()));
   }
   createIndexes(engine, table);
 }
@@ -73,7 +73,7 @@ void complete(Engine& engine, const Table& table) {
 std::string indexName(const Table& table, std::string_view index) {
   std::string name = std::string(table.name) + "_" + std::string(index);
   std::ranges::replace(name, ',', '_');
-  return store::quoted(name);
+  return store::quoted(name);  // not the standard library's
 }
 
 }  // namespace
@@ -84,10 +84,10 @@ void createIndexes(Engine& engine, const Table& table) {
     for (std::size_t from = 0; from <= index.size();) {
       const std::size_t end = std::min(index.find(',', from), index.size());
       const Column& column = *table.find(index.substr(from, end - from));
-      keys.push_back(engine.phrases().key(store::quoted(column.name), column.type));
+      keys.push_back(engine.phrases().key(quoted(column.name), column.type));
       from = end + 1;
     }
-    engine.execute("create index if not exists " + indexName(table, index) + " on " + store::quoted(table.name) + " (" +
+    engine.execute("create index if not exists " + indexName(table, index) + " on " + quoted(table.name) + " (" +
                    engine.phrases().indexed(keys) + ")");
   }
 }

@@ -102,6 +102,16 @@ void Store::close() {
   }
 }
 
+void Store::interpose(const std::function<std::unique_ptr<Engine>(const Opener&)>& between) {
+  for (State::Side& side : state_->sides) side.database->interpose(between);
+}
+
+long long Store::saved() const {
+  long long all = 0;
+  for (const State::Side& side : state_->sides) all += side.database->saved();
+  return all;
+}
+
 void Store::settle() {
   for (State::Side& side : state_->sides) side.database->settle();
 }

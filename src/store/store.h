@@ -14,6 +14,7 @@
 namespace store {
 
 class Database;  // one open database behind an engine
+class Engine;
 
 constexpr std::string_view mainPassword = "kestrelboatfield7416";
 constexpr std::string_view configPassword = "w$rtq!?d3ma9&2p6u4ye";
@@ -40,6 +41,15 @@ class Store {
   // Called with true when a wait for another computer has lasted more than 0.2 s, with false when it is over.
   std::function<void(bool waiting)> onWait;
 
+  // Puts something between the store and what opens its engines: how tests make it fail. Not inside a unit. An engine
+  // that is open already is handed on as if it had just been opened.
+  using Opener = std::function<std::unique_ptr<Engine>()>;
+  void interpose(const std::function<std::unique_ptr<Engine>(const Opener& open)>& between);
+
+  // How many times something has reached a disk since the store was made: a unit, or a single write outside of one. Of
+  // what is made anew at each use (print tables and the like) nothing counts.
+  long long saved() const;
+
   // Called by the shell when an event has been handled: reads still under way keep their place, but hold no lock.
   void settle();
 
@@ -51,14 +61,15 @@ class Store {
   std::unique_ptr<State> state_;
 };
 
-// A unit of work: the writes of one action reach the disk together, under the store's write lock, taken at once. When a
-// statement inside is refused, what went before it stays (the screens expect that); when the machine dies inside,
-// nothing of it remains. A unit inside a unit joins it. Never open one across a question to the person.
+// A unit of work: the writes of one action reach the disk together, under the store's write lock, taken at once, or
+// nothing of them does. A unit that ends without finish(), by an error or an early return, takes all its writes back. A
+// unit inside a unit joins it: when the inner one ends without finish(), nothing more can be written in the outer one,
+// and its finish() raises StoreError. Never open one across a question to the person.
 class Unit {
  public:
   explicit Unit(Store& store, Connection which = Connection::Main);
-  ~Unit();        // writes what has been done, when finish() was not reached because a statement was refused
-  void finish();  // reaches the disk, or raises StoreError: then nothing of it remains
+  ~Unit();
+  void finish();  // reaches the disk, or raises StoreError: then nothing of it remains, or Fault::Unsure says so
   static bool openIn(const Store& store);
 
  private:

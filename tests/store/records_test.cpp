@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "store/configurations.h"
+#include "support/failing_engine.h"
 
 namespace store {
 namespace {
@@ -118,7 +119,6 @@ TEST_P(Records, ASetWithoutRows) {
   RecordSet set(*store_, "select * from jfjl");
   EXPECT_TRUE(set.empty());
   EXPECT_TRUE(set.atEnd());
-  EXPECT_TRUE(set.atStart());
   EXPECT_EQ(set.count(), 0);
   set.last();
   EXPECT_TRUE(set.atEnd());
@@ -213,6 +213,34 @@ TEST_P(Records, MarkedRowsAreReadTogetherInTheirOwnOrder) {
     --wanted;
   });
   EXPECT_EQ(wanted, 0);
+}
+
+TEST_P(Records, AMarkLeadsToItsRowAsItIsNow) {
+  addNumbered(3);
+  RecordSet list(*store_, "select lsh from jfjl order by lsh"), set(*store_, "select lsh,je from jfjl where lsh='2'");
+  list.next();
+  const std::int64_t second = list.mark();
+  RecordSet(*store_, "select * from jfjl where lsh='2'").setAll("lsh", "20");
+  RecordSet(*store_, "select * from jfjl where lsh='1'").removeAll();  // the rows after it move up
+  step();
+  ASSERT_TRUE(set.goTo(second)) << "though it is not of the set any more";
+  EXPECT_EQ(set.get("lsh").text(), "20");
+  Unit unit(*store_);
+  ASSERT_TRUE(set.goTo(second));
+  set.set("je", 5);
+  set.update();
+  EXPECT_TRUE(set.goTo(second));
+  EXPECT_EQ(set.get("je").text(), "5");
+  set.next();
+  EXPECT_TRUE(set.atEnd());
+  set.goTo(second);
+  set.remove();
+  unit.finish();
+  EXPECT_FALSE(set.goTo(second));
+  EXPECT_TRUE(set.atEnd());
+  EXPECT_EQ(faultOf([&] { set.get("lsh"); }), Fault::RowGone);
+  EXPECT_EQ(faultOf([&] { set.remove(); }), Fault::RowGone);
+  EXPECT_THAT(all(), ElementsAre("3"));
 }
 
 TEST_P(Records, RowsThatOthersDeleteAreSkippedAndReadAfresh) {
@@ -320,22 +348,27 @@ TEST_P(Records, LastOfAnOrderedSet) {
   }
 }
 
-TEST_P(Records, ARefusedStatementKeepsWhatWentBefore) {
-  try {
-    Unit unit(*store_);
-    RecordSet set(*store_, "select * from jfjl");
-    set.addNew();
-    set.set("lsh", "1");
-    set.update();
-    EXPECT_TRUE(Unit::openIn(*store_));
-    RecordSet(*store_, Sql("select * from jfjl where xm='") + std::string("o'c") + "'");
-    unit.finish();
-  } catch (const StoreError& error) {
-    EXPECT_EQ(error.fault, Fault::Statement);
-  }
+TEST_P(Records, AUnitThatIsLeftByAnErrorTakesItsWritesBack) {
+  addNumbered(2);
+  RecordSet walk(*store_, "select * from jfjl");
+  EXPECT_EQ(faultOf([&] {
+              Unit unit(*store_);
+              walk.set("lsh", "9");
+              walk.update();
+              walk.next();
+              walk.remove();
+              walk.addNew();
+              walk.set("lsh", "3");
+              walk.update();
+              EXPECT_TRUE(Unit::openIn(*store_));
+              RecordSet(*store_, Sql("select * from jfjl where xm='") + std::string("o'c") + "'");
+              unit.finish();
+            }),
+            Fault::Statement);
   EXPECT_FALSE(Unit::openIn(*store_));
+  EXPECT_EQ(faultOf([&] { walk.get("lsh"); }), Fault::RowGone) << "the new row has never been";
   step();
-  EXPECT_THAT(all(), ElementsAre("1"));
+  EXPECT_THAT(all(), ElementsAre("1", "2"));
 }
 
 TEST_P(Records, AUnitInsideAUnitJoinsIt) {
@@ -356,6 +389,92 @@ TEST_P(Records, AUnitInsideAUnitJoinsIt) {
   }
   EXPECT_FALSE(Unit::openIn(*store_));
   EXPECT_THAT(column("select * from jfjl", "xm"), ElementsAre("joined"));
+  const auto inside = [&](bool finished) {
+    Unit outer(*store_);
+    RecordSet set(*store_, "select * from jfjl");
+    set.set("xm", "left");
+    set.update();
+    { Unit left(*store_); }
+    if (!finished) set.set("xm", "more"), set.update();
+    outer.finish();
+  };
+  for (const bool finished : {true, false}) EXPECT_EQ(faultOf([&] { inside(finished); }), Fault::Other);
+  EXPECT_FALSE(Unit::openIn(*store_));
+  EXPECT_THAT(column("select * from jfjl", "xm"), ElementsAre("joined"))
+      << "an inner unit that was left takes all back";
+}
+
+TEST_P(Records, AFaultAtAnyCallLeavesAllOrNothing) {
+  addNumbered(3);
+  support::Failures failures(*store_);
+  std::vector<std::string> before = all();
+  int number = 1000;
+  for (const Fault fault : {Fault::Busy, Fault::Unreadable, Fault::DiskFull, Fault::Disconnected}) {
+    if (GetParam().reopens && fault != Fault::Busy) continue;  // opening anew takes its time
+    for (const bool forGood : {false, true}) {
+      bool struck = true;
+      for (int nth = 1; struck; ++nth) {
+        ASSERT_LT(nth, 100);
+        const long long saved = store_->saved();
+        failures.at(nth, fault, forGood);
+        try {
+          Unit unit(*store_);
+          RecordSet set(*store_, "select * from jfjl order by lsh desc");
+          set.set("lsh", std::to_string(set.get("lsh").number() + 1));
+          set.update();
+          for (set.last(); !set.atEnd(); set.next()) set.remove();
+          Unit inner(*store_);
+          RecordSet added(*store_, "select * from jfjl");
+          added.addNew();
+          added.set("lsh", std::to_string(++number));
+          added.update();
+          inner.finish();
+          unit.finish();
+        } catch (const StoreError& error) {
+          EXPECT_EQ(error.what(), support::Failures::words(fault));
+        }
+        struck = failures.failed() > 0;
+        failures.off();
+        EXPECT_FALSE(Unit::openIn(*store_));
+        const std::vector<std::string> now = all();
+        EXPECT_EQ(now == before, struck) << "at call " << nth;
+        before = now;
+        EXPECT_EQ(store_->saved() - saved, struck ? 0 : 1);
+      }
+    }
+  }
+}
+
+TEST_P(Records, WhatHasReachedADiskIsCounted) {
+  RecordSet set(*store_, "select * from jfjl"), printed(*store_, "select * from dy_jfjl"),
+      settings(*store_, "select * from morvanedjpzb", Connection::Config);
+  const auto add = [](RecordSet& to) {
+    to.addNew();
+    to.update();
+  };
+  const auto unit = [&](bool finish, const std::function<void()>& write) {
+    Unit one(*store_);
+    write();
+    if (finish) one.finish();
+  };
+  const struct {
+    const char* what;
+    std::function<void()> action;
+    long long saved;
+  } cases[] = {{"a single write", [&] { add(set); }, 1},
+               {"a unit", [&] { unit(true, [&] { add(set), add(set); }); }, 1},
+               {"a unit inside a unit", [&] { unit(true, [&] { unit(true, [&] { add(set); }); }); }, 1},
+               {"the other database", [&] { add(settings); }, 1},
+               {"a unit that is left", [&] { unit(false, [&] { add(set); }); }, 0},
+               {"a unit of reads", [&] { unit(true, [&] { set.count(); }); }, 0},
+               {"nothing to delete", [&] { RecordSet(*store_, "select * from jfjl where xm='a'").removeAll(); }, 0},
+               {"a print table", [&] { add(printed); }, 0}};
+  for (const auto& each : cases) {
+    step();
+    const long long before = store_->saved();
+    each.action();
+    EXPECT_EQ(store_->saved() - before, each.saved) << each.what;
+  }
 }
 
 }  // namespace
