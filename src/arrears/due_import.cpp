@@ -170,6 +170,14 @@ class Entries {
     if (count_ % rowsOfUnit == 0) finish();
   }
 
+  // What stands before a fault stays: a repeat goes on from there.
+  void keep() noexcept {
+    try {
+      finish();
+    } catch (const store::StoreError&) {  // the fault that is on its way is told
+    }
+  }
+
   void finish() {
     if (!unit_) return;
     unit_->finish();
@@ -183,7 +191,6 @@ class Entries {
   }
 
   [[noreturn]] void tooMany() {
-    finish();
     throw store::StoreError(store::Fault::Other,
                             "一次最多只能导入" + std::to_string(mostRows) +
                                 "条应交费记录，超出的部分没有导入！已导入的记录有效，请再次导入以补齐其余记录。");
@@ -210,14 +217,19 @@ std::optional<int> importDue(kit::Desk& desk, const Chosen& chosen, const Import
   Entries entries(desk, {desk.clock.today(), chosen.term, chosen.deadline, desk.session.SessionUser,
                          base::leadingNumber(chosen.lead)});
   long long done = 0;
-  for (const Student& student : students) {
-    const int before = entries.count();
-    for (const Standard& standard : standards.of(student)) {
-      const std::optional<Money> paid = booked.paid(student.xh, standard.sfxmmc);
-      if (paid && *paid >= standard.je) continue;
-      if (booked.takePlace(student.xh, standard.sfxmmc)) entries.add(student, standard, paid);
+  try {
+    for (const Student& student : students) {
+      const int before = entries.count();
+      for (const Standard& standard : standards.of(student)) {
+        const std::optional<Money> paid = booked.paid(student.xh, standard.sfxmmc);
+        if (paid && *paid >= standard.je) continue;
+        if (booked.takePlace(student.xh, standard.sfxmmc)) entries.add(student, standard, paid);
+      }
+      tell(entries.count() > before ? "正在导入" + student.xm + "的应交费记录 ..." : scanning, ++done, total);
     }
-    tell(entries.count() > before ? "正在导入" + student.xm + "的应交费记录 ..." : scanning, ++done, total);
+  } catch (...) {
+    entries.keep();
+    throw;
   }
   entries.finish();
   return entries.count();

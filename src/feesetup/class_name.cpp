@@ -5,7 +5,6 @@
 namespace feesetup {
 namespace {
 
-// In the order in which they are changed: a fault midway leaves the earlier ones changed.
 constexpr std::string_view classTables[] = {"xs",     "sfbzb",    "qfjl", "jfjl",  "cjb",
                                             "bys_xs", "bys_jfjl", "xxfk", "zsgl2", "tjs"};
 

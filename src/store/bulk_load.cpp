@@ -10,17 +10,6 @@ BulkLoad::BulkLoad(Store& store, std::string_view table, Connection connection)
   dropIndexes(store_.database(connection_).engine(), table_);
 }
 
-BulkLoad::~BulkLoad() {
-  try {
-    finish();
-  } catch (const StoreError&) {  // the error that is on its way already told the person that it went wrong
-  }
-}
-
-void BulkLoad::finish() {
-  if (!open_) return;
-  open_ = false;
-  createIndexes(store_.database(connection_).engine(), table_);
-}
+void BulkLoad::finish() { createIndexes(store_.database(connection_).engine(), table_); }
 
 }  // namespace store

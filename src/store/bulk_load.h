@@ -12,16 +12,12 @@ namespace store {
 class BulkLoad {
  public:
   BulkLoad(Store& store, std::string_view table, Connection connection = Connection::Main);
-  ~BulkLoad();  // builds the indexes when finish() was not reached
-  BulkLoad(const BulkLoad&) = delete;
-  BulkLoad& operator=(const BulkLoad&) = delete;
-  void finish();
+  void finish();  // an index that is never built is a unit that is taken back
 
  private:
   Store& store_;
   Connection connection_;
   const Table& table_;
-  bool open_ = true;
 };
 
 }  // namespace store

@@ -163,7 +163,7 @@ void Cursor::release() {
   }
   try {
     pinStream();
-  } catch (const StoreError&) {  // told to who goes on with the walk
+  } catch (...) {  // told to who goes on with the walk
     stream_.giveBack();
     interrupted_ = true;
   }

@@ -10,11 +10,6 @@ namespace {
 
 constexpr std::size_t mostIdle = 200;  // prepared statements that wait for their next use
 
-struct Ending {  // of the outermost unit, whatever comes of it
-  int& depth;
-  ~Ending() { depth = 0; }
-};
-
 }  // namespace
 
 Loan::Loan(Database& database, std::string sql, const std::vector<Cell>& values, Rows rows)
@@ -79,13 +74,7 @@ long long Database::write(const Table& table, const std::string& sql, const std:
     }
   }
   Engine& to = engine();
-  try {
-    Loan statement(*this, sql, values);
-    statement->step();
-  } catch (const StoreError& error) {
-    if (!inUnit() || to.inTransaction()) throw;
-    throw withNothingSaved(error);
-  }
+  Loan(*this, sql, values)->step();
   const long long changes = to.changes();
   if (!inUnit()) to.committed();
   return changes;
@@ -104,35 +93,36 @@ void Database::finishUnit() {
     --depth_;
     return;
   }
-  const Ending ending{depth_};
-  commit();
-  engine_->committed();
-}
-
-void Database::abandonUnit() noexcept {
-  try {
-    finishUnit();
-  } catch (const StoreError&) {  // the error that is on its way already told the person that it went wrong
-  }
-}
-
-// The engine rolls back by itself when the disk is full or fails: what came before is gone too.
-void Database::failIfLost() const {
-  if (inUnit() && !engine_->inTransaction()) {
-    throw withNothingSaved(StoreError(Fault::Other, "前面的内容未能写入磁盘，"));
-  }
-}
-
-void Database::commit() {
   try {
     failIfLost();
     settle();  // not every engine goes on with a read behind the end of its unit
     engine_->commit();
-  } catch (const StoreError& error) {
-    engine_->rollback();
-    for (Cursor* cursor : cursors_) cursor->forget();
-    if (error.fault == Fault::Unsure) throw;
-    throw withNothingSaved(error);
+  } catch (...) {
+    rollback();
+    throw;
+  }
+  depth_ = 0;
+  engine_->committed();
+}
+
+void Database::abandonUnit() noexcept {
+  if (depth_ == 1) return rollback();
+  --depth_;
+  doomed_ = true;
+}
+
+void Database::rollback() noexcept {
+  depth_ = 0;
+  doomed_ = false;
+  settle();
+  engine_->rollback();
+  for (Cursor* cursor : cursors_) cursor->forget();
+}
+
+// The engine rolls back by itself when the disk is full or fails: what came before is gone too.
+void Database::failIfLost() const {
+  if (inUnit() && (doomed_ || !engine_->inTransaction())) {
+    throw StoreError(Fault::Other, "这次操作在前面已经出错，不能继续。请重新做一次！");
   }
 }
 

@@ -58,7 +58,7 @@ class Database {
 
   void beginUnit();
   void finishUnit();            // the outermost one commits, or raises StoreError and nothing of it remains
-  void abandonUnit() noexcept;  // the same without a word, when an error is on its way already
+  void abandonUnit() noexcept;  // the outermost one rolls back; an inner one leaves no other way to those around it
   bool inUnit() const { return depth_ > 0; }
 
   void enlist(Cursor& cursor) { cursors_.push_back(&cursor); }
@@ -69,6 +69,7 @@ class Database {
   std::unique_ptr<Statement> take(const std::string& sql, Rows rows);
   void keep(std::string sql, std::unique_ptr<Statement> statement);
   void commit();
+  void rollback() noexcept;
   void failIfLost() const;
 
   Opener opener_;
@@ -77,6 +78,7 @@ class Database {
   std::unordered_multimap<std::string_view, decltype(idle_)::iterator> byText_;
   std::vector<Cursor*> cursors_;
   int depth_ = 0;
+  bool doomed_ = false;  // a unit inside the open one was abandoned
   int generation_ = 0;
 };
 

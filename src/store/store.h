@@ -51,14 +51,15 @@ class Store {
   std::unique_ptr<State> state_;
 };
 
-// A unit of work: the writes of one action reach the disk together, under the store's write lock, taken at once. When a
-// statement inside is refused, what went before it stays (the screens expect that); when the machine dies inside,
-// nothing of it remains. A unit inside a unit joins it. Never open one across a question to the person.
+// A unit of work: the writes of one action reach the disk together, under the store's write lock, taken at once, or
+// nothing of them does. A unit that ends without finish(), by an error or an early return, takes all its writes back. A
+// unit inside a unit joins it: when the inner one ends without finish(), nothing more can be written in the outer one,
+// and its finish() raises StoreError. Never open one across a question to the person.
 class Unit {
  public:
   explicit Unit(Store& store, Connection which = Connection::Main);
-  ~Unit();        // writes what has been done, when finish() was not reached because a statement was refused
-  void finish();  // reaches the disk, or raises StoreError: then nothing of it remains
+  ~Unit();
+  void finish();  // reaches the disk, or raises StoreError: then nothing of it remains, or Fault::Unsure says so
   static bool openIn(const Store& store);
 
  private:

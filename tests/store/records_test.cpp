@@ -320,22 +320,27 @@ TEST_P(Records, LastOfAnOrderedSet) {
   }
 }
 
-TEST_P(Records, ARefusedStatementKeepsWhatWentBefore) {
-  try {
-    Unit unit(*store_);
-    RecordSet set(*store_, "select * from jfjl");
-    set.addNew();
-    set.set("lsh", "1");
-    set.update();
-    EXPECT_TRUE(Unit::openIn(*store_));
-    RecordSet(*store_, Sql("select * from jfjl where xm='") + std::string("o'c") + "'");
-    unit.finish();
-  } catch (const StoreError& error) {
-    EXPECT_EQ(error.fault, Fault::Statement);
-  }
+TEST_P(Records, AUnitThatIsLeftByAnErrorTakesItsWritesBack) {
+  addNumbered(2);
+  RecordSet walk(*store_, "select * from jfjl");
+  EXPECT_EQ(faultOf([&] {
+              Unit unit(*store_);
+              walk.set("lsh", "9");
+              walk.update();
+              walk.next();
+              walk.remove();
+              walk.addNew();
+              walk.set("lsh", "3");
+              walk.update();
+              EXPECT_TRUE(Unit::openIn(*store_));
+              RecordSet(*store_, Sql("select * from jfjl where xm='") + std::string("o'c") + "'");
+              unit.finish();
+            }),
+            Fault::Statement);
   EXPECT_FALSE(Unit::openIn(*store_));
+  EXPECT_EQ(faultOf([&] { walk.get("lsh"); }), Fault::RowGone) << "the new row has never been";
   step();
-  EXPECT_THAT(all(), ElementsAre("1"));
+  EXPECT_THAT(all(), ElementsAre("1", "2"));
 }
 
 TEST_P(Records, AUnitInsideAUnitJoinsIt) {
@@ -356,6 +361,19 @@ TEST_P(Records, AUnitInsideAUnitJoinsIt) {
   }
   EXPECT_FALSE(Unit::openIn(*store_));
   EXPECT_THAT(column("select * from jfjl", "xm"), ElementsAre("joined"));
+  const auto inside = [&](bool finished) {
+    Unit outer(*store_);
+    RecordSet set(*store_, "select * from jfjl");
+    set.set("xm", "left");
+    set.update();
+    { Unit left(*store_); }
+    if (!finished) set.set("xm", "more"), set.update();
+    outer.finish();
+  };
+  for (const bool finished : {true, false}) EXPECT_EQ(faultOf([&] { inside(finished); }), Fault::Other);
+  EXPECT_FALSE(Unit::openIn(*store_));
+  EXPECT_THAT(column("select * from jfjl", "xm"), ElementsAre("joined"))
+      << "an inner unit that was left takes all back";
 }
 
 }  // namespace
