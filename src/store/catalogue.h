@@ -22,6 +22,7 @@ struct Table {
   Connection connection;
   std::vector<Column> columns;            // in order; the hidden row_no comes before them
   std::vector<std::string_view> indexes;  // "xh", "sftj,skr": the columns of an index each
+  bool remade = false;                    // made anew at each use: nobody misses what it held
 
   const Column* find(std::string_view column) const;  // without regard to case; null when there is none
 };

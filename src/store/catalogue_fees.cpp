@@ -37,8 +37,8 @@ std::vector<Table> feeTables() {
        paymentColumns(),
        {"xh", "fpbh", "lsh", "skr,sftj", "sftj", "sfxm", "jfrq", "bjmc", "jffs", "xq"}},
       {"qfjl", Connection::Main, arrearsColumns(), {"lsh", "xh", "bjmc", "bjrq", "bsh"}},
-      {"qfjl_wjf", Connection::Main, unpaid, {}},
-      {"qfjl_je", Connection::Main, with(unpaid, {money("yjje"), money("sjje"), money("ce")}), {}},
+      {"qfjl_wjf", Connection::Main, unpaid, {}, true},
+      {"qfjl_je", Connection::Main, with(unpaid, {money("yjje"), money("sjje"), money("ce")}), {}, true},
   };
 }
 

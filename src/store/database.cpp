@@ -76,7 +76,8 @@ long long Database::write(const Table& table, const std::string& sql, const std:
   Engine& to = engine();
   Loan(*this, sql, values)->step();
   const long long changes = to.changes();
-  if (!inUnit()) to.committed();
+  written_ |= changes > 0 && !table.remade;
+  if (!inUnit()) reachedDisk();
   return changes;
 }
 
@@ -102,6 +103,11 @@ void Database::finishUnit() {
     throw;
   }
   depth_ = 0;
+  reachedDisk();
+}
+
+void Database::reachedDisk() {
+  if (std::exchange(written_, false)) ++saved_;
   engine_->committed();
 }
 
@@ -113,7 +119,7 @@ void Database::abandonUnit() noexcept {
 
 void Database::rollback() noexcept {
   depth_ = 0;
-  doomed_ = false;
+  doomed_ = written_ = false;
   settle();
   engine_->rollback();
   for (Cursor* cursor : cursors_) cursor->forget();

@@ -60,6 +60,7 @@ class Database {
   void finishUnit();            // the outermost one commits, or raises StoreError and nothing of it remains
   void abandonUnit() noexcept;  // the outermost one rolls back; an inner one leaves no other way to those around it
   bool inUnit() const { return depth_ > 0; }
+  long long saved() const { return saved_; }  // see Store::saved
 
   void enlist(Cursor& cursor) { cursors_.push_back(&cursor); }
   void dismiss(Cursor& cursor);
@@ -69,6 +70,7 @@ class Database {
   std::unique_ptr<Statement> take(const std::string& sql, Rows rows);
   void keep(std::string sql, std::unique_ptr<Statement> statement);
   void commit();
+  void reachedDisk();
   void rollback() noexcept;
   void failIfLost() const;
 
@@ -78,7 +80,9 @@ class Database {
   std::unordered_multimap<std::string_view, decltype(idle_)::iterator> byText_;
   std::vector<Cursor*> cursors_;
   int depth_ = 0;
-  bool doomed_ = false;  // a unit inside the open one was abandoned
+  bool doomed_ = false;   // a unit inside the open one was abandoned
+  bool written_ = false;  // something that counts as saved once the unit is
+  long long saved_ = 0;
   int generation_ = 0;
 };
 

@@ -51,7 +51,7 @@ std::string wordsFor(Fault fault, const std::string& server, const std::string& 
   switch (fault) {
     case Fault::Statement: return "语句不合规定，或者内容太长，不能执行！（" + code + "）";
     case Fault::Busy: return "数据库服务器" + server + "正被其他计算机占用，等待之后仍不能使用。请稍候再试！";
-    case Fault::DiskFull: return "数据库服务器" + server + "的磁盘空间已满，内容没有保存。请管理员清理磁盘后再试！";
+    case Fault::DiskFull: return "数据库服务器" + server + "的磁盘空间已满。请管理员清理磁盘后再试！";
     case Fault::ReadOnly: return "数据库服务器" + server + "不允许写入。请管理员检查用户的权限后再试！";
     case Fault::Damaged:
       return "数据库服务器" + server + "上的数据库已经损坏。请停止使用，并请管理员用最近的备份恢复！";

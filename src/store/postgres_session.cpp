@@ -65,11 +65,9 @@ void PostgresSession::createSchema() {
 Answers PostgresSession::exchange(const std::vector<Ask>& asks) {
   try {
     return link_.round(asks);
-  } catch (const StoreError& error) {
+  } catch (const StoreError&) {
     if (link_.connected()) throw;
-    const bool unit = inUnit();
     ended();
-    if (unit) throw withNothingSaved(error);
     throw;
   }
 }
@@ -113,9 +111,9 @@ void PostgresSession::begin() {
     ready();
     const Answers answers = link_.patientRound({{"begin"}, {limitIdling}, {takeLock}});
     unit_ = textOf(answers.back());
-  } catch (const StoreError& error) {
+  } catch (const StoreError&) {
     if (link_.connected()) exchange({{"rollback"}});
-    throw withNothingSaved(error);
+    throw;
   }
   opened(Transaction::Unit);
 }
@@ -132,8 +130,7 @@ void PostgresSession::commit() {
   switch (fateAfterBreak(unit)) {
     case Fate::Saved: return;
     case Fate::NotSaved:
-      throw withNothingSaved(
-          StoreError(Fault::Disconnected, "保存时与数据库服务器" + link_.name() + "的连接断开了，请再做一次！"));
+      throw StoreError(Fault::Disconnected, "保存时与数据库服务器" + link_.name() + "的连接断开了。请再做一次！");
     case Fate::Unknown:
       unsure_ = unit;
       throw StoreError(Fault::Unsure, "保存时与数据库服务器" + link_.name() +

@@ -35,7 +35,7 @@ Fault faultOf(int code, int systemError) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED: return Fault::Busy;
     case SQLITE_FULL: return Fault::DiskFull;
-    case SQLITE_IOERR: return full ? Fault::DiskFull : Fault::Other;
+    case SQLITE_IOERR: return full ? Fault::DiskFull : Fault::Unreadable;
     default: return Fault::Other;
   }
 }
@@ -47,10 +47,12 @@ std::string wordsFor(Fault fault, const std::string& file) {
       return "数据库“" + file + "”打不开：密码不对，或文件的开头已经损坏。请用备份恢复该文件后再试！";
     case Fault::Missing: return "找不到数据库文件“" + file + "”。请检查共享文件夹是否连通，或用备份恢复该文件！";
     case Fault::Damaged: return "数据库“" + file + "”已经损坏。请停止使用，并用最近的备份恢复该文件！";
+    case Fault::Unreadable:
+      return "数据库“" + file + "”现在不能读写：共享文件夹或磁盘没有回应。请检查网络和磁盘，稍候再试！";
     case Fault::ReadOnly: return "数据库“" + file + "”或它所在的文件夹不能写入。请检查写入权限后再试！";
     case Fault::Busy: return "数据库“" + file + "”正被其他计算机占用，等待之后仍不能使用。请稍候再试！";
-    case Fault::DiskFull: return "磁盘空间已满，内容没有保存。请清理磁盘“" + file + "”后再试！";
-    default: return "读写数据库“" + file + "”时出错。请检查网络和磁盘后再试！";
+    case Fault::DiskFull: return "数据库“" + file + "”所在的磁盘空间已满。请清理磁盘后再试！";
+    default: return "使用数据库“" + file + "”时出错。请重新启动本程序后再试！";
   }
 }
 
@@ -67,7 +69,8 @@ struct Link {
   [[noreturn]] void fail(int code) const {
     const Fault fault = faultOf(code, connection ? sqlite3_system_errno(connection) : 0);
     std::string message = wordsFor(fault, name);
-    if (fault == Fault::Statement || fault == Fault::Other) message += std::string("（") + sqlite3_errstr(code) + "）";
+    if (fault == Fault::Statement || fault == Fault::Other || fault == Fault::Unreadable)
+      message += std::string("（") + sqlite3_errstr(code) + "）";
     throw StoreError(fault, message);
   }
   // Ends the wait that the call may have had in it.

@@ -102,6 +102,12 @@ void Store::close() {
   }
 }
 
+long long Store::saved() const {
+  long long all = 0;
+  for (const State::Side& side : state_->sides) all += side.database->saved();
+  return all;
+}
+
 void Store::settle() {
   for (State::Side& side : state_->sides) side.database->settle();
 }

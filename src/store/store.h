@@ -40,6 +40,10 @@ class Store {
   // Called with true when a wait for another computer has lasted more than 0.2 s, with false when it is over.
   std::function<void(bool waiting)> onWait;
 
+  // How many times something has reached a disk since the store was made: a unit, or a single write outside of one. Of
+  // what is made anew at each use (print tables and the like) nothing counts.
+  long long saved() const;
+
   // Called by the shell when an event has been handled: reads still under way keep their place, but hold no lock.
   void settle();
 

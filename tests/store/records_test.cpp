@@ -376,5 +376,37 @@ TEST_P(Records, AUnitInsideAUnitJoinsIt) {
       << "an inner unit that was left takes all back";
 }
 
+TEST_P(Records, WhatHasReachedADiskIsCounted) {
+  RecordSet set(*store_, "select * from jfjl"), printed(*store_, "select * from dy_jfjl"),
+      settings(*store_, "select * from morvanedjpzb", Connection::Config);
+  const auto add = [](RecordSet& to) {
+    to.addNew();
+    to.update();
+  };
+  const auto unit = [&](bool finish, const std::function<void()>& write) {
+    Unit one(*store_);
+    write();
+    if (finish) one.finish();
+  };
+  const struct {
+    const char* what;
+    std::function<void()> action;
+    long long saved;
+  } cases[] = {{"a single write", [&] { add(set); }, 1},
+               {"a unit", [&] { unit(true, [&] { add(set), add(set); }); }, 1},
+               {"a unit inside a unit", [&] { unit(true, [&] { unit(true, [&] { add(set); }); }); }, 1},
+               {"the other database", [&] { add(settings); }, 1},
+               {"a unit that is left", [&] { unit(false, [&] { add(set); }); }, 0},
+               {"a unit of reads", [&] { unit(true, [&] { set.count(); }); }, 0},
+               {"nothing to delete", [&] { RecordSet(*store_, "select * from jfjl where xm='a'").removeAll(); }, 0},
+               {"a print table", [&] { add(printed); }, 0}};
+  for (const auto& each : cases) {
+    step();
+    const long long before = store_->saved();
+    each.action();
+    EXPECT_EQ(store_->saved() - before, each.saved) << each.what;
+  }
+}
+
 }  // namespace
 }  // namespace store
