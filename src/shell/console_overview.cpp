@@ -198,24 +198,24 @@ void Overview::clear() {
   statistics.close();
 }
 
-Filled fillStudents(Overview& overview, kit::Desk& desk) {
+Filled fillStudents(Overview& overview, kit::Desk& desk, kit::Notice& notice) {
   RecordSet students(desk.store, Sql("select * from xs ") + desk.session.student_where);
   Filled filled;
   overview.list.fill(students, [&](RecordSet& row) {
     if (row.get("xb").text() == "男") ++filled.men;
-    constexpr long long between = 500;  // rows between two looks at the notice
-    if (++filled.count % between == 0)
-      desk.progress.show("正在加载学生" + row.get("xm").trimmed() + "的信息 ...", filled.count);
+    if (notice.due(++filled.count)) notice.show("正在加载学生" + row.get("xm").trimmed() + "的信息 ...", filled.count);
   });
   overview.bar.set("在校生总人数：" + base::caption(filled.count) + " 人 ！");
   return filled;
 }
 
-Filled fillPayments(Overview& overview, kit::Desk& desk) {
+Filled fillPayments(Overview& overview, kit::Desk& desk, kit::Notice& notice) {
   RecordSet payments(desk.store, Sql("select * from jfjl ") + desk.session.payment_where);
   Filled filled;
-  overview.list.fill(payments, [&](RecordSet& row) { filled.paid += row.get("je").money(); });
-  filled.count = overview.list.count();
+  overview.list.fill(payments, [&](RecordSet& row) {
+    filled.paid += row.get("je").money();
+    notice.count(overview.plan.notice, ++filled.count);
+  });
   overview.bar.set("记录总数：" + base::caption(filled.count) + " 笔，总金额：" + filled.paid.fixed2() + " 元！");
   return filled;
 }
@@ -244,7 +244,7 @@ std::vector<kit::ListColumn> joined(std::vector<kit::ListColumn> columns, const 
 
 }  // namespace
 
-Filled fillArrears(Overview& overview, kit::Desk& desk) {
+Filled fillArrears(Overview& overview, kit::Desk& desk, kit::Notice& notice) {
   struct Holds {
     Sql rows;
     std::vector<kit::ListColumn> columns;
@@ -262,8 +262,8 @@ Filled fillArrears(Overview& overview, kit::Desk& desk) {
   Filled filled;
   overview.list.fill(rows, [&](RecordSet& row) {
     if (mode == 1) addArrears(filled, row);
+    notice.count(overview.plan.notice, ++filled.count);
   });
-  filled.count = overview.list.count();
   overview.bar.set("记录个数：" + base::caption(filled.count) + " 条");
   if (mode != 1) return filled;
   const Filled all = desk.session.arrears_where.empty() ? filled : arrearsOfAll(desk);
