@@ -56,8 +56,8 @@ foreach(name ${ROOMS})
   endif()
 endforeach()
 
-add_library(screens STATIC ${CMAKE_SOURCE_DIR}/src/app/screens.cpp ${CMAKE_SOURCE_DIR}/src/app/office.cpp)
-gui_target(screens SEES app qt ${ROOMS} LINK views qt ${ROOMS})
+add_library(office STATIC ${CMAKE_SOURCE_DIR}/src/app/office.cpp ${CMAKE_SOURCE_DIR}/src/app/views.cpp)
+gui_target(office SEES app qt ${ROOMS} LINK views qt screens)
 
 # gui_program(NAME sources... LINK libraries...): the program itself and the tools that open windows.
 function(gui_program name)
@@ -66,7 +66,7 @@ function(gui_program name)
   gui_target(${name} SEES app qt ${ROOMS} LINK ${PROGRAM_LINK})
 endfunction()
 
-gui_program(fee-office SOURCES src/app/main.cpp LINK screens)
-gui_program(tour SOURCES tools/tour.cpp tools/tour_day.cpp tools/tour_player.cpp LINK screens Qt6::Test)
+gui_program(fee-office SOURCES src/app/main.cpp LINK office)
+gui_program(tour SOURCES tools/tour.cpp tools/tour_day.cpp tools/tour_player.cpp LINK office Qt6::Test)
 gui_program(pictures SOURCES tools/pictures.cpp LINK Qt6::Gui)
 gui_program(report_pictures SOURCES tools/report_pictures.cpp LINK qt reports)

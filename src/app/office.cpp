@@ -2,7 +2,8 @@
 
 #include <QApplication>
 
-#include "app/screens.h"
+#include "app/views.h"
+#include "kit/fault.h"
 #include "shell/splash.h"
 #include "shell/start.h"
 
@@ -11,6 +12,11 @@ namespace app {
 Office::Office(const std::string& programFolder)
     : store_(programFolder), person_(shell::productTitle), navigator_(app::views()), desktop_(programFolder) {
   store_.onWait = [this](bool waiting) { progress_.waiting(waiting); };
+}
+
+void Office::tell(const std::exception_ptr& fault) {
+  progress_.hide();
+  person_.tell(kit::Box::Stop, kit::faultText(fault, kit::savedPerhaps), "错误提示");
 }
 
 int Office::run() {

@@ -1,6 +1,7 @@
 // The office: the Desk made of its real pieces, and the run of the program on it.
 #pragma once
 
+#include <exception>
 #include <string>
 
 #include "qt/computer.h"
@@ -15,7 +16,8 @@ namespace app {
 class Office {
  public:
   explicit Office(const std::string& programFolder);
-  int run();  // from the splash to the last window; a QApplication must exist
+  int run();                                   // from the splash to the last window; a QApplication must exist
+  void tell(const std::exception_ptr& fault);  // one that came past every screen
   qt::QtNavigator& windows() { return navigator_; }
 
  private:

@@ -34,7 +34,6 @@
 #include "shell/login.h"
 #include "shell/payment_summary.h"
 #include "shell/splash.h"
-#include "shell/view/shell_views.h"
 #include "students/class_transfer_window.h"
 #include "students/student_edit.h"
 #include "students/student_query.h"
@@ -116,11 +115,6 @@ const std::vector<Entry>& screens() {
       screen<students::Formxxfk1>("Formxxfk1"),
       screen<students::Formxxfk2>("Formxxfk2"),
   };
-  return all;
-}
-
-const qt::Views& views() {
-  static const qt::Views all{{"console", shell::buildConsole}, {"login", shell::buildLogin}};
   return all;
 }
 

@@ -1,4 +1,4 @@
-// The register of all screens: what the tests of the windows and the tour walk through.
+// The register of all screens: what the tests of all screens and the tour walk through. No Qt.
 #pragma once
 
 #include <functional>
@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "kit/screen.h"
-#include "qt/renderer.h"
 
 namespace app {
 
@@ -17,8 +16,5 @@ struct Entry {
 };
 
 const std::vector<Entry>& screens();
-
-// The hand-made parts of windows, by the names that layouts give them.
-const qt::Views& views();
 
 }  // namespace app

@@ -1,5 +1,6 @@
 #include "arrears/arrears_query.h"
 
+#include "kit/notice.h"
 #include "kit/rows.h"
 #include "kit/validation.h"
 
@@ -107,25 +108,14 @@ std::optional<PaymentQuestion> Formqfcl11::asked(QuestionFields& fields) {
   return question;
 }
 
-namespace {
-
-// The notice goes when the search is over, also by a fault.
-struct Notice {
-  kit::Progress& progress;
-  ~Notice() { progress.hide(); }
-};
-
-}  // namespace
-
 void Formqfcl11::showUnpaid() {
   const auto question = asked(unpaid);
   if (!question) return;
   long long found = 0;
   {
-    const Notice notice{desk.progress};
-    desk.progress.show("开始搜索 ...");
+    kit::Notice notice(desk.progress, "开始搜索 ...");
     found = listUnpaid(desk.store, *question, desk.clock.now(), [&](const std::string&, long long so_far) {
-      desk.progress.show("已搜索到" + std::to_string(so_far) + "条记录 ...");
+      notice.show("已搜索到" + std::to_string(so_far) + "条记录 ...");
     });
   }
   if (found == 0) return inform("相关记录不存在！    ", "信息提示");
@@ -141,12 +131,11 @@ void Formqfcl11::showCompared() {
   if (!question) return;
   long long found = 0;
   {
-    const Notice notice{desk.progress};
-    desk.progress.show("开始搜索相关记录，请稍等 ...");
-    found = listByPaid(
-        desk.store, *question, base::Money::leading(due.text()), static_cast<PaidAs>(wanted.chosen()), desk.clock.now(),
-        [&](const std::string& name, long long) { desk.progress.show("正在加载" + name + "的信息 ..."); });
-    desk.progress.show("正在筛选已加载的信息 ...");
+    kit::Notice notice(desk.progress, "开始搜索相关记录，请稍等 ...");
+    found = listByPaid(desk.store, *question, base::Money::leading(due.text()), static_cast<PaidAs>(wanted.chosen()),
+                       desk.clock.now(),
+                       [&](const std::string& name, long long) { notice.show("正在加载" + name + "的信息 ..."); });
+    notice.show("正在筛选已加载的信息 ...");
   }
   if (found == 0) return inform("不存在相匹配记录！ ", "信息提示");
   inform("信息搜索完毕！ ", "信息提示");

@@ -2,6 +2,7 @@
 
 #include "arrears/due_import.h"
 #include "base/text.h"
+#include "kit/notice.h"
 
 namespace arrears {
 
@@ -11,18 +12,11 @@ Formqfcl3::Formqfcl3(kit::Desk& all) : LoadingScreen(all, "Formqfcl3") {
 }
 
 std::optional<int> Formqfcl3::import() {
-  struct Leaving {  // also when a fault ends the import: the screen has no other way out
-    kit::Desk& desk;
-    kit::Screen& screen;
-    ~Leaving() {
-      desk.progress.hide();
-      screen.close();
-    }
-  } leaving{desk, *this};
+  kit::Notice progress(desk.progress);
   const auto count =
-      importDue(desk, desk.session.due_import, [this](const std::string& words, long long done, long long total) {
+      importDue(desk, desk.session.due_import, [&](const std::string& words, long long done, long long total) {
         text.set(words);
-        desk.progress.show(words, done, total);
+        progress.show(words, done, total);
       });
   if (count) text.set("共导入应交费记录" + base::caption(*count) + "条");
   return count;
@@ -35,6 +29,7 @@ void Formqfcl3::proceed() {
     return stop("请设置要导入的收费项目！ ", "错误提示");
   }
   const std::optional<int> count = import();
+  close();
   if (!count) return inform("不存在需要导入的学生信息，请建立完整的学生档案后再进行导入 ！  ", "导入提示");
   desk.session.due_import_ended = true;
   inform("共导入应交费记录" + base::caption(*count) + "条，导入完毕 ！   ", "导入提示");

@@ -1,4 +1,4 @@
-// Runs the import of amounts due once it has been painted. It cannot be left before the import has ended.
+// Runs the import of amounts due once it has been painted.
 #pragma once
 
 #include "kit/loading_screen.h"
@@ -9,7 +9,6 @@ class Formqfcl3 : public kit::LoadingScreen {  // 应交费导入进度
  public:
   explicit Formqfcl3(kit::Desk& desk);
   kit::Layout layout() override;
-  bool mayClose() override { return false; }
 
   kit::Field notice{*this, "notice", "", kit::Entry::Shown};
 

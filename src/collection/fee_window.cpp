@@ -60,7 +60,7 @@ void Formzctsf4::focusFirst() {
 
 void Formzctsf4::moveOnFrom(const kit::Member& member) {
   // With all lines ticked there is nothing left to type.
-  if (&member == &allLines && allLines.on() && confirm.enabled()) confirm.press();
+  if (&member == &allLines && allLines.on() && confirm.enabled()) confirm.invoke();
   else Screen::moveOnFrom(member);
 }
 

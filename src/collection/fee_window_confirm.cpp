@@ -6,6 +6,7 @@
 #include "collection/fee_window.h"
 #include "collection/receipt_notes.h"
 #include "collection/receipt_print.h"
+#include "kit/at_exit.h"
 #include "kit/settings.h"
 #include "kit/validation.h"
 
@@ -118,13 +119,10 @@ void Formzctsf4::save() {
   const std::string fpbh = saveReceipt(desk.store, receipt(), desk.clock.now());
   // The money is in the ledger now: the window closes whatever the printer says, so that nobody confirms twice. Arrears
   // mode lasts until the receipt is printed, which looks at it, and never survives a save.
-  const struct Leaving {
-    Formzctsf4& window;
-    ~Leaving() {
-      window.desk.session.fee_normal_mode = true;
-      window.close();
-    }
-  } leaving{*this};
+  const kit::AtExit leaving([this] {
+    desk.session.fee_normal_mode = true;
+    close();
+  });
   if (askInfo("收费操作成功！打印收据吗？      ", "操作提示")) print(fpbh);
 }
 

@@ -1,6 +1,7 @@
 #include "collection/receipt_print.h"
 
 #include "collection/receipt_form.h"
+#include "kit/at_exit.h"
 
 namespace collection {
 
@@ -9,15 +10,12 @@ Formzctsf5::Formzctsf5(kit::Desk& all) : LoadingScreen(all, "Formzctsf5") { text
 void Formzctsf5::proceed() {
   std::optional<platform::Drawing> drawing;
   {
-    // Whatever the store says: the next receipt starts without notes, and the notice goes before the preview stands.
-    const struct Leaving {
-      Formzctsf5& screen;
-      ~Leaving() {
-        screen.desk.session.receipt_remarks.fill("");
-        screen.desk.session.receipt_summaries.fill("");
-        screen.close();
-      }
-    } leaving{*this};
+    // Whatever the store says: the next receipt starts without notes, and the screen goes before the preview stands.
+    const kit::AtExit leaving([this] {
+      desk.session.receipt_remarks.fill("");
+      desk.session.receipt_summaries.fill("");
+      close();
+    });
     drawing = drawn();
   }
   if (drawing) desk.printer.show(*drawing);

@@ -34,7 +34,7 @@ Formszqt::Formszqt(kit::Desk& all) : Screen(all, "Formszqt", "收费前台设置
   storeItem.onPress([this] { storeText("qfjz", qfjz.trimmed()); });
   storeForm.onPress([this] { storeText("todamc1", todamc1.trimmed()); });
   for (const auto& [field, button] : {std::pair{&qfts, &storeDays}, {&qfjz, &storeItem}, {&todamc1, &storeForm}})
-    field->onEnter([button] { button->press(); });
+    field->onEnter([button] { button->invoke(); });
   back.onPress([this] { close(); });
 }
 

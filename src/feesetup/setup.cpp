@@ -93,7 +93,7 @@ void Formsz::wireStandards() {
     filter.clear();
     showStandards();
   });
-  for (kit::Grid* grid : {&sfbzb, &sfbzbrxxs}) grid->onDoubleClick([this] { modifyStandards.press(); });
+  for (kit::Grid* grid : {&sfbzb, &sfbzbrxxs}) grid->onDoubleClick([this] { modifyStandards.invoke(); });
 }
 
 void Formsz::load() {

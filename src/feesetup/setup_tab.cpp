@@ -8,7 +8,7 @@ SetupTab::SetupTab(kit::Screen& screen, store::Store& store, const std::string& 
       add(screen, table + "_add", "添加", "plus"),
       modify(screen, table + "_modify", "修改", "edit"),
       remove(screen, table + "_remove", "删除", "trash-2") {
-  grid.onDoubleClick([this] { modify.press(); });
+  grid.onDoubleClick([this] { modify.invoke(); });
 }
 
 kit::Node SetupTab::group(std::string title) {

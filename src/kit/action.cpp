@@ -20,7 +20,7 @@ void Action::press() {
 }
 
 void Action::invoke() {
-  if (enabled() && visible()) raise(press_);
+  if (reachable()) raise(press_);
 }
 
 Check::Check(Screen& screen, std::string own, std::string words, bool ticked)

@@ -69,6 +69,10 @@ struct Desk {
   platform::Sheets& sheets;
   platform::Desktop& desktop;
   Progress& progress;
+
+  // The events under way, each inside the one before, and what the store had saved when the first of them began.
+  int eventsOpen = 0;
+  long long savedBefore = 0;
 };
 
 template <class S, class... With> auto Navigator::open(Desk& desk, With&&... with) {

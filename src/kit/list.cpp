@@ -107,14 +107,17 @@ void List::showWindow(long long row) const {
   });
 }
 
+bool List::atHand(long long row) const {
+  const auto width = static_cast<long long>(columns_.size());
+  return (row + 1) * width <= static_cast<long long>(cells_.count()) ||
+         (windowFrom_ >= 0 && row >= windowFrom_ &&
+          (row - windowFrom_ + 1) * width <= static_cast<long long>(window_.count()));
+}
+
 std::string_view List::cell(long long row, std::size_t column) const {
   const auto place = static_cast<std::size_t>(row) * columns_.size() + column;
   if (place < cells_.count()) return cells_.at(place);
-  const auto inWindow = [&] {
-    return windowFrom_ >= 0 && row >= windowFrom_ &&
-           row < windowFrom_ + static_cast<long long>(window_.count() / columns_.size());
-  };
-  if (!inWindow()) showWindow(row);
+  if (!atHand(row)) showWindow(row);
   return window_.at(static_cast<std::size_t>(row - windowFrom_) * columns_.size() + column);
 }
 

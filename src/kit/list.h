@@ -53,6 +53,7 @@ class List : public Member {
   long long count() const;
   long long version() const { return version_; }                   // another one whenever the rows are others
   std::string_view cell(long long row, std::size_t column) const;  // until the next call
+  bool atHand(long long row) const;                                // its cells are shown without asking the store
 
   long long selected() const { return selected_; }  // -1: none
   void setSelected(long long row);                  // raises select

@@ -1,5 +1,5 @@
 // The small screen that stands while a large one loads: shows its text, and at its timer's first tick opens the next
-// screen and closes itself.
+// screen and closes itself. It cannot be left before.
 #pragma once
 
 #include "kit/screen.h"
@@ -11,6 +11,7 @@ class LoadingScreen : public Screen {
   LoadingScreen(Desk& desk, std::string name);
   void load() override { timer.start(); }
   Layout layout() override;
+  bool mayClose() override { return false; }
 
   Field text{*this, "text", "", Entry::Shown};
   Timer timer{*this, "timer", std::chrono::milliseconds(500)};

@@ -43,10 +43,12 @@ void Member::leave() { raise(leave_); }
 
 void Member::raise(const std::vector<Handler>& handlers) {
   if (screen_.closed() || handlers.empty()) return;
-  screen_.run([&] {
-    for (const Handler& handler : handlers) handler();
+  screen_.run([all = handlers] {  // a copy: a handler may add another one
+    for (const Handler& handler : all) handler();
   });
 }
+
+bool Member::reachable() const { return enabled_ && visible_ && !screen_.closed(); }
 
 void Member::mustBeReachable() const {
   const char* why = screen_.closed() ? "its screen is closed"

@@ -32,6 +32,7 @@ class Member {
 
   bool enabled() const { return enabled_; }
   bool visible() const { return visible_; }
+  bool reachable() const;  // a person can use it: shown and enabled on a screen that is open
   void enable(bool on);
   void show(bool on);
   const std::string& tip() const { return tip_; }

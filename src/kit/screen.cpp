@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "kit/at_exit.h"
+#include "kit/fault.h"
+
 namespace kit {
 namespace {
 
@@ -11,8 +14,8 @@ void collect(const Node& node, std::vector<Member*>& order) {
 }
 
 bool takesEntry(const Member& member) {
-  if (!member.enabled() || !member.visible()) return false;
-  return member.kind == MemberKind::Field && static_cast<const Field&>(member).entry != Entry::Shown;
+  return member.reachable() && member.kind == MemberKind::Field &&
+         static_cast<const Field&>(member).entry != Entry::Shown;
 }
 
 }  // namespace
@@ -40,21 +43,34 @@ void Screen::close() {
 
 void Screen::run(const Handler& event) {
   if (depth_ > 0) return event();
-  struct Depth {
-    int& depth;
-    explicit Depth(int& d) : depth(d) { ++depth; }
-    ~Depth() { --depth; }
-  } inside(depth_);
-  std::string fault;
+  ++depth_;
+  const AtExit leaving([this] { --depth_; });
+  attempt(event);
+  desk.progress.hide();
+}
+
+// What the step's fault is told as; empty: there was none.
+std::string Screen::faultOf(const Handler& step) {
   try {
-    event();
-  } catch (const store::StoreError& error) {
-    fault = error.what();
-  } catch (const platform::PlatformError& error) {
-    fault = error.what();
+    step();
+    desk.store.settle();
+    return "";
+  } catch (...) {
+    if (store::Unit::openIn(desk.store)) throw;  // nobody is told anything inside a unit: told by whoever opened it
+    const bool nothing = desk.store.saved() == desk.savedBefore;
+    return faultText(std::current_exception(), nothing ? nothingSaved : savedBefore);
   }
-  desk.store.settle();
-  if (!fault.empty()) desk.person.tell(Box::Stop, fault, "错误提示");
+}
+
+bool Screen::attempt(const Handler& step, bool tells) {
+  if (desk.eventsOpen++ == 0) desk.savedBefore = desk.store.saved();
+  const AtExit leaving([this] { --desk.eventsOpen; });
+  const std::string fault = faultOf(step);
+  if (fault.empty()) return true;
+  faultOf([] {});        // reads that the fault left under way
+  desk.progress.hide();  // the message would stand below it
+  if (tells) desk.person.tell(Box::Stop, fault, "错误提示");
+  return false;
 }
 
 void Screen::moveOnFrom(const Member& member) {
@@ -65,7 +81,7 @@ void Screen::moveOnFrom(const Member& member) {
   const auto next =
       here == order.end() ? here : std::find_if(here + 1, order.end(), [](Member* m) { return takesEntry(*m); });
   if (next != order.end()) (*next)->focus();
-  else if (plan.confirm && plan.confirm->enabled() && plan.confirm->visible()) plan.confirm->press();
+  else if (plan.confirm) plan.confirm->invoke();
 }
 
 }  // namespace kit

@@ -38,9 +38,11 @@ class Screen {
   void contains(RecordDesk& one) { recordDesks_.push_back(&one); }
   std::optional<Colour> backdrop;  // colour of the whole window; the panel colour when not given
 
-  // The edge where events enter: faults of the store and the platform inside the outermost one are shown to the person
-  // in words, and the event ends there.
+  // The edge where events enter. Whatever fault ends the outermost one is told to the person in words, once, with what
+  // was saved before it; no notice is left standing.
   void run(const Handler& event);
+  // One step of an event that goes on after it, whatever becomes of the step. False: a fault ended it, and was told.
+  bool attempt(const Handler& step, bool tells = true);
   void start() {
     run([this] { load(); });
   }
@@ -77,6 +79,7 @@ class Screen {
  private:
   friend class Member;
   friend class Field;
+  std::string faultOf(const Handler& step);
   std::string title_;
   bool closed_ = false;
   int depth_ = 0;

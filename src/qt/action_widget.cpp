@@ -20,9 +20,7 @@ QWidget* linkButton(kit::Action& action, Renderer& renderer) {
     made->setText(toQt(action.caption()));
     made->setToolTip(toQt(action.tip()));
   });
-  QObject::connect(made, &QPushButton::clicked, &renderer, [&action, &renderer] {
-    if (renderer.reachable(action)) action.press();
-  });
+  QObject::connect(made, &QPushButton::clicked, &renderer, [&action] { action.invoke(); });
   return made;
 }
 
@@ -39,9 +37,7 @@ QWidget* button(kit::Action& action, Renderer& renderer) {
     if (made->text() != toQt(action.caption())) made->setText(toQt(action.caption()));
     made->setMyToolTip(toQt(action.tip()));
   });
-  QObject::connect(made, &XPButton::Click, &renderer, [&action, &renderer] {
-    if (renderer.reachable(action)) action.press();
-  });
+  QObject::connect(made, &XPButton::Click, &renderer, [&action] { action.invoke(); });
   return made;
 }
 

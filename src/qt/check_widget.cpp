@@ -55,8 +55,8 @@ QWidget* checkWidget(kit::Check& check, Renderer& renderer) {
     box->tip = check.tip();
   };
   renderer.follow(check, show);
-  QObject::connect(box, &QCheckBox::clicked, &renderer, [box, &check, &renderer, show] {
-    if (renderer.reachable(check) && box->isChecked() != check.on()) check.toggle();
+  QObject::connect(box, &QCheckBox::clicked, &renderer, [box, &check, show] {
+    if (check.reachable() && box->isChecked() != check.on()) check.toggle();
     show();
   });
   return box;

@@ -41,8 +41,8 @@ QWidget* choiceWidget(kit::Choice& choice, Renderer& renderer) {
   };
   renderer.follow(choice, show);
   for (std::size_t i = 0; i < buttons.size(); ++i)
-    QObject::connect(buttons[i], &QRadioButton::clicked, &renderer, [&choice, &renderer, show, i] {
-      if (renderer.reachable(choice)) choice.choose(static_cast<int>(i));
+    QObject::connect(buttons[i], &QRadioButton::clicked, &renderer, [&choice, show, i] {
+      if (choice.reachable()) choice.choose(static_cast<int>(i));
       show();
     });
   return holder;

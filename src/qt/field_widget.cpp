@@ -101,8 +101,8 @@ void keepInStep(QLineEdit& edit, kit::Field& field, Renderer& renderer) {
     colour(edit, field);
   };
   renderer.follow(field, show);
-  QObject::connect(&edit, &QLineEdit::textEdited, &renderer, [&field, &renderer, show](const QString& text) {
-    if (renderer.reachable(field)) field.type(fromQt(text));
+  QObject::connect(&edit, &QLineEdit::textEdited, &renderer, [&field, show](const QString& text) {
+    if (field.reachable()) field.type(fromQt(text));
     show();
   });
 }
@@ -113,10 +113,10 @@ QStringList choicesOf(const kit::Field& field) {
   return choices;
 }
 
-void take(kit::Field& field, Renderer& renderer, const QString& choice) {
+void take(kit::Field& field, const QString& choice) {
   const std::string text = fromQt(choice);
   const auto& choices = field.choices();
-  if (renderer.reachable(field) && std::find(choices.begin(), choices.end(), text) != choices.end()) field.take(text);
+  if (field.reachable() && std::find(choices.begin(), choices.end(), text) != choices.end()) field.take(text);
 }
 
 // While something is typed, a list below narrows to the entries that are meant by it; the focus stays in the edit, and
@@ -129,24 +129,22 @@ void narrowWhileTyping(DropEdit& edit, kit::Field& field, Renderer& renderer) {
   completer->setMaxVisibleItems(12);
   completer->setWidget(&edit);
   QObject::connect(completer, qOverload<const QString&>(&QCompleter::activated), &renderer,
-                   [&field, &renderer](const QString& choice) { take(field, renderer, choice); });
-  QObject::connect(&edit, &QLineEdit::textEdited, &renderer,
-                   [&field, &renderer, &edit, model, completer](const QString& typed) {
-                     completer->popup()->hide();
-                     if (typed.trimmed().isEmpty() || !renderer.reachable(field)) return;
-                     if (field.choices().empty() || typed.size() == 1)
-                       field.drop();  // a new word: others may have written meanwhile
-                     if (!renderer.reachable(field)) return;
-                     QStringList meant;
-                     const std::string text = fromQt(typed);
-                     for (const std::string& choice : field.choices()) {
-                       if (meant.size() == mostOffered) break;
-                       if (base::meantBy(choice, text)) meant << toQt(choice);
-                     }
-                     if (meant.isEmpty() || (meant.size() == 1 && meant.front() == typed)) return;
-                     model->setStringList(meant);
-                     completer->complete();
-                   });
+                   [&field](const QString& choice) { take(field, choice); });
+  QObject::connect(&edit, &QLineEdit::textEdited, &renderer, [&field, &edit, model, completer](const QString& typed) {
+    completer->popup()->hide();
+    if (typed.trimmed().isEmpty() || !field.reachable()) return;
+    if (field.choices().empty() || typed.size() == 1) field.drop();  // a new word: others may have written meanwhile
+    if (!field.reachable()) return;
+    QStringList meant;
+    const std::string text = fromQt(typed);
+    for (const std::string& choice : field.choices()) {
+      if (meant.size() == mostOffered) break;
+      if (base::meantBy(choice, text)) meant << toQt(choice);
+    }
+    if (meant.isEmpty() || (meant.size() == 1 && meant.front() == typed)) return;
+    model->setStringList(meant);
+    completer->complete();
+  });
 }
 
 QWidget* dropField(kit::Field& field, Renderer& renderer) {
@@ -155,28 +153,28 @@ QWidget* dropField(kit::Field& field, Renderer& renderer) {
   edit->opensByDoubleClick = !field.handlesDoubleClick();
   keepInStep(*edit, field, renderer);
   if (field.entry == Entry::Pick) narrowWhileTyping(*edit, field, renderer);
-  const auto fill = [&field, &renderer] {
-    if (renderer.reachable(field)) field.drop();
-    return renderer.reachable(field) && !field.choices().empty();
+  const auto fill = [&field] {
+    if (field.reachable()) field.drop();
+    return field.reachable() && !field.choices().empty();
   };
-  QObject::connect(edit, &DropEdit::dropWanted, &renderer, [edit, &field, &renderer, fill] {
+  QObject::connect(edit, &DropEdit::dropWanted, &renderer, [edit, &field, fill] {
     if (!fill() || !edit->isVisible()) return;
-    dropChoices(*edit, choicesOf(field), [&](const QString& choice) { take(field, renderer, choice); });
+    dropChoices(*edit, choicesOf(field), [&](const QString& choice) { take(field, choice); });
   });
-  QObject::connect(edit, &DropEdit::stepped, &renderer, [edit, &field, &renderer, fill](int by) {
+  QObject::connect(edit, &DropEdit::stepped, &renderer, [edit, &field, fill](int by) {
     if (field.choices().empty() && !fill()) return;
     const QStringList choices = choicesOf(field);
     const auto at = choices.indexOf(edit->text()) + by;
-    if (at >= 0 && at < choices.size()) take(field, renderer, choices[at]);
+    if (at >= 0 && at < choices.size()) take(field, choices[at]);
   });
-  QObject::connect(edit, &DropEdit::searched, &renderer, [edit, &field, &renderer, fill](const QString& start) {
+  QObject::connect(edit, &DropEdit::searched, &renderer, [edit, &field, fill](const QString& start) {
     if (field.choices().empty() && !fill()) return;
     // From the entry behind the present one, round: the same key again finds the next.
     const QStringList choices = choicesOf(field);
     const auto from = choices.indexOf(edit->text()) + 1;
     for (qsizetype i = 0; i < choices.size(); ++i) {
       const QString& choice = choices[(from + i) % choices.size()];
-      if (choice.startsWith(start, Qt::CaseInsensitive)) return take(field, renderer, choice);
+      if (choice.startsWith(start, Qt::CaseInsensitive)) return take(field, choice);
     }
   });
   return edit;
@@ -186,10 +184,10 @@ QWidget* dateField(kit::Field& field, Renderer& renderer) {
   auto* edit = new DropEdit("calendar-days", nullptr);
   edit->opensByDoubleClick = !field.handlesDoubleClick();
   keepInStep(*edit, field, renderer);
-  QObject::connect(edit, &DropEdit::dropWanted, &renderer, [edit, &field, &renderer] {
-    if (!renderer.reachable(field)) return;
+  QObject::connect(edit, &DropEdit::dropWanted, &renderer, [edit, &field] {
+    if (!field.reachable()) return;
     dropCalendar(*edit, QDate::currentDate().addDays(field.calendarFrom), [&](const QString& date) {
-      if (renderer.reachable(field)) field.take(fromQt(date));
+      if (field.reachable()) field.take(fromQt(date));
     });
   });
   return edit;
@@ -213,10 +211,10 @@ QWidget* memoField(kit::Field& field, Renderer& renderer) {
     colour(*edit, field);
   };
   renderer.follow(field, show);
-  QObject::connect(edit, &QPlainTextEdit::textChanged, &renderer, [edit, &field, &renderer, show] {
+  QObject::connect(edit, &QPlainTextEdit::textChanged, &renderer, [edit, &field, show] {
     const std::string text = fromQt(edit->toPlainText());
     if (text == field.text()) return;
-    if (renderer.reachable(field)) field.type(text);
+    if (field.reachable()) field.type(text);
     show();
   });
   edit->setMinimumHeight(edit->fontMetrics().lineSpacing() * memoLines + 16);

@@ -1,5 +1,6 @@
 #include "qt/list_model.h"
 
+#include <QElapsedTimer>
 #include <algorithm>
 #include <numeric>
 #include <vector>
@@ -11,7 +12,11 @@
 namespace qt {
 namespace {
 
-constexpr std::size_t searched = 3;  // columns: number, name and the one behind
+constexpr std::size_t searched = 3;      // columns: number, name and the one behind
+constexpr long long farthest = 20000;    // rows that typing looks through from where it stands
+constexpr qint64 longestSearch = 1000;   // milliseconds
+constexpr std::size_t mostWanted = 200;  // rows: more than a window shows
+constexpr qsizetype mostRead = 2000;     // rows that are kept
 }  // namespace
 
 bool isAmount(const kit::ListColumn& column) {
@@ -23,6 +28,8 @@ void ListModel::refresh() {
   if (version_ != list_.version()) {
     version_ = list_.version();
     order_.clear();  // other rows first appear in their own order
+    read_.clear();
+    wanted_.clear();
   }
   if (rows == rows_ && columns == columns_) {
     if (rows > 0) emit dataChanged(index(0, 0), index(rows - 1, columns - 1));
@@ -90,20 +97,23 @@ QString ListModel::text(const QModelIndexList& rows) const {
   for (const QModelIndex& index : rows) {
     QStringList cells;
     for (int column = 0; column < columns_; ++column)
-      cells << data(this->index(index.row(), column), Qt::DisplayRole).toString();
+      cells << toQt(list_.cell(listRow(index.row()), static_cast<std::size_t>(column))).trimmed();
     all += cells.join('\t') + '\n';
   }
   return all;
 }
 
-long long ListModel::find(const QString& start, long long from) const {
+ListModel::Found ListModel::find(const QString& start, long long from) const {
   const std::size_t columns = std::min(searched, list_.columns().size());
   const std::string prefix = fromQt(start);
   const long long count = list_.count();
   const long long reach = std::min(count, farthest);
   // Each row is read once, whatever the column that it is found by; a hit in an earlier column goes first.
   std::vector<long long> hits(columns, -1);
-  for (long long i = 0; i < reach; ++i) {
+  Found found;
+  QElapsedTimer time;
+  time.start();
+  for (long long i = 0; i < reach && time.elapsed() < longestSearch; ++i, ++found.looked) {
     const long long row = (from + i) % count;
     for (std::size_t column = 0; column < columns; ++column) {
       if (hits[column] >= 0) continue;
@@ -114,13 +124,36 @@ long long ListModel::find(const QString& start, long long from) const {
     if (columns > 0 && hits[0] >= 0) break;
   }
   const auto hit = std::find_if(hits.begin(), hits.end(), [](long long row) { return row >= 0; });
-  return hit == hits.end() ? -1 : *hit;
+  if (hit != hits.end()) found.row = *hit;
+  return found;
+}
+
+QString ListModel::shown(long long row, std::size_t column) const {
+  if (list_.atHand(row)) return toQt(list_.cell(row, column)).trimmed();
+  const auto known = read_.constFind(row);
+  if (known != read_.constEnd()) return known->at(static_cast<qsizetype>(column));
+  if (wanted_.size() >= mostWanted) wanted_.clear();  // scrolled past meanwhile
+  wanted_.insert(row);
+  if (rowsWanted) rowsWanted();
+  return {};
+}
+
+void ListModel::readWanted() {
+  if (version_ != list_.version()) return wanted_.clear();  // other rows by now
+  if (read_.size() > mostRead) read_.clear();
+  for (const long long row : wanted_) {
+    QStringList cells;
+    for (std::size_t column = 0; column < list_.columns().size(); ++column)
+      cells << toQt(list_.cell(row, column)).trimmed();
+    read_.insert(row, cells);
+  }
+  wanted_.clear();
 }
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {
   if (index.row() >= list_.count() || index.column() >= static_cast<int>(list_.columns().size())) return {};
   const auto column = static_cast<std::size_t>(index.column());
-  if (role == Qt::DisplayRole) return toQt(list_.cell(listRow(index.row()), column)).trimmed();
+  if (role == Qt::DisplayRole) return shown(listRow(index.row()), column);
   if (role == Qt::TextAlignmentRole)
     return QVariant::fromValue(Qt::AlignVCenter | (isAmount(list_.columns()[column]) ? Qt::AlignRight : Qt::AlignLeft));
   return {};

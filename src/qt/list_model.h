@@ -1,7 +1,11 @@
-// A list's rows for a table view, read out of the list as they are shown: nothing is copied.
+// A list's rows for a table view, read out of the list as they are shown. What the list would have to ask the store for
+// stays blank until it was read between two events: painting never reads the store.
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QHash>
+#include <functional>
+#include <set>
 #include <vector>
 
 #include "kit/list.h"
@@ -14,9 +18,9 @@ class ListModel : public QAbstractTableModel {
  public:
   explicit ListModel(const kit::List& list, QObject* parent = nullptr) : QAbstractTableModel(parent), list_(list) {}
 
-  void refresh();  // after a change of the list
-  // Rows that typing looks through from where it stands: a key must answer at once in a list of a million rows, too.
-  static constexpr long long farthest = 20000;
+  void refresh();                    // after a change of the list
+  std::function<void()> rowsWanted;  // blank rows are in sight: to be followed by readWanted(), later
+  void readWanted();
   // Sorting reads every row once; a longer list is narrowed by a query first.
   static constexpr long long mostSorted = 200000;
   bool isSorted() const { return !order_.empty(); }
@@ -25,8 +29,13 @@ class ListModel : public QAbstractTableModel {
   long long listRow(int row) const { return order_.empty() ? row : order_[static_cast<std::size_t>(row)]; }
   int shownRow(long long listRow) const;
   QString text(const QModelIndexList& rows) const;  // as a spreadsheet takes it: cells behind tabs, a row a line
-  long long find(const QString& start,
-                 long long from) const;  // shown row with a cell of the first columns that starts so; -1
+  // A shown row with a cell of the first columns that starts so. A key must answer at once in a list of a million rows,
+  // too: the search ends after a while.
+  struct Found {
+    long long row = -1;    // none
+    long long looked = 0;  // rows that it looked through
+  };
+  Found find(const QString& start, long long from) const;
 
   int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
   int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : columns_; }
@@ -34,10 +43,13 @@ class ListModel : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
  private:
+  QString shown(long long listRow, std::size_t column) const;
   const kit::List& list_;
   int rows_ = 0, columns_ = 0;
   long long version_ = -1;
-  std::vector<int> order_;  // the list's row at each place; empty: as they stand in the list
+  std::vector<int> order_;              // the list's row at each place; empty: as they stand in the list
+  QHash<long long, QStringList> read_;  // by the list's row
+  mutable std::set<long long> wanted_;
 };
 
 }  // namespace qt

@@ -5,10 +5,12 @@
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <QSettings>
+#include <QTimer>
 #include <QToolTip>
 #include <algorithm>
 #include <memory>
 
+#include "kit/at_exit.h"
 #include "qt/list_model.h"
 #include "qt/list_view.h"
 #include "qt/member_widgets.h"
@@ -19,12 +21,13 @@ namespace qt {
 namespace {
 
 constexpr int cellMargins = 18;
+constexpr int betweenTries = 5000;  // milliseconds before a store that did not answer is asked again
 
 // Between one list and its view.
 class ListLink : public QObject {
  public:
   ListLink(kit::List& list, ListView& view, Renderer& renderer)
-      : QObject(&view), list_(list), view_(view), renderer_(renderer), model_(list, this) {
+      : QObject(&view), list_(list), view_(view), renderer_(renderer), screen_(renderer.screen()), model_(list, this) {
     view.setModel(&model_);
     view.installEventFilter(this);
     QHeaderView* header = view.horizontalHeader();
@@ -34,16 +37,21 @@ class ListLink : public QObject {
     connect(&view, &ListView::copyWanted, this, [this] {
       auto rows = view_.selectionModel()->selectedRows();
       std::sort(rows.begin(), rows.end());
-      QGuiApplication::clipboard()->setText(model_.text(rows));
+      screen_.run([&] { QGuiApplication::clipboard()->setText(model_.text(rows)); });
     });
     connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& now) { personChose(now.row()); });
     connect(&view, &ListView::opened, this, [this](int row) {
-      if (renderer_.reachable(list_) && row < list_.count()) list_.doubleClick(model_.listRow(row));
+      if (list_.reachable() && row < list_.count()) list_.doubleClick(model_.listRow(row));
     });
     connect(&view, &ListView::searched, this, [this](const QString& start, bool further) { search(start, further); });
     view.setContextMenuPolicy(Qt::CustomContextMenu);
     connect(&view, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) { popUpMenu(at); });
+    reading_.setSingleShot(true);
+    connect(&reading_, &QTimer::timeout, this, [this] { readRows(); });
+    model_.rowsWanted = [this] {
+      if (!reading_.isActive()) reading_.start(silent_ ? betweenTries : 0);
+    };
   }
 
   bool eventFilter(QObject* object, QEvent* event) override {
@@ -94,19 +102,26 @@ class ListLink : public QObject {
                                 QString("记录超过 %1 行，请先用“打开”缩小范围再排序。").arg(ListModel::mostSorted),
                                 &view_);
     const QScopedValueRollback quiet(showing_, true);
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const bool sorts = !sortedByIt || sortOrder_ == Qt::AscendingOrder;
-    if (sorts) {
+    const Qt::SortOrder order = sortedByIt ? Qt::DescendingOrder : Qt::AscendingOrder;
+    screen_.run([&] {
+      QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+      const kit::AtExit pointer([] { QGuiApplication::restoreOverrideCursor(); });
+      if (!sorts) return model_.unsort();
+      model_.sortBy(column, order);
       sortedColumn_ = column;
-      sortOrder_ = sortedByIt ? Qt::DescendingOrder : Qt::AscendingOrder;
-      model_.sortBy(column, sortOrder_);
-      header->setSortIndicator(column, sortOrder_);  // which turns by itself when it is clicked
-    } else {
-      model_.unsort();
-    }
-    header->setSortIndicatorShown(sorts);
-    QGuiApplication::restoreOverrideCursor();
+      sortOrder_ = order;
+    });
+    header->setSortIndicator(sortedColumn_, sortOrder_);  // which turns by itself when it is clicked
+    header->setSortIndicatorShown(model_.isSorted());
     changed();
+  }
+
+  // The rows in sight, between two events. A store that does not answer is told once; the rows come when it does.
+  void readRows() {
+    const bool read = screen_.attempt([this] { model_.readWanted(); }, !silent_);
+    silent_ = !read;
+    view_.viewport()->update();
   }
 
   // The widths that a person has given the columns, kept on this computer for the next time.
@@ -148,21 +163,25 @@ class ListLink : public QObject {
   void personChose(int row) {
     if (showing_) return;
     const long long chosen = row < 0 ? row : model_.listRow(row);
-    if (chosen >= 0 && chosen < list_.count() && renderer_.reachable(list_)) list_.select(chosen);
+    if (chosen >= 0 && chosen < list_.count() && list_.reachable()) list_.select(chosen);
     if (list_.selected() != chosen) changed();
   }
 
   void search(const QString& start, bool further) {
     const long long here = qMax(0, view_.currentIndex().row());
-    const long long row = list_.count() > 0 ? model_.find(start, further ? here : here + 1) : -1;
-    if (row >= 0) view_.setCurrentIndex(model_.index(static_cast<int>(row), qMax(0, view_.currentIndex().column())));
-    else if (list_.count() > ListModel::farthest)
+    ListModel::Found found;
+    screen_.run([&] {
+      if (list_.count() > 0) found = model_.find(start, further ? here : here + 1);
+    });
+    if (found.row >= 0)
+      view_.setCurrentIndex(model_.index(static_cast<int>(found.row), qMax(0, view_.currentIndex().column())));
+    else if (list_.count() > found.looked)
       QToolTip::showText(view_.mapToGlobal(QPoint(8, 8)),
-                         QString("往下 %1 行内没有找到，请用“打开”按条件查询。").arg(ListModel::farthest), &view_);
+                         QString("往下 %1 行内没有找到，请用“打开”按条件查询。").arg(found.looked), &view_);
   }
 
   void popUpMenu(const QPoint& at) {
-    if (list_.menu.empty() || !renderer_.reachable(list_)) return;
+    if (list_.menu.empty() || !list_.reachable()) return;
     auto* menu = new QMenu(&view_);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     renderer_.fillMenu(*menu, list_.menu);
@@ -172,7 +191,10 @@ class ListLink : public QObject {
   kit::List& list_;
   ListView& view_;
   Renderer& renderer_;
+  kit::Screen& screen_;
   ListModel model_;
+  QTimer reading_;
+  bool silent_ = false;  // the store did not answer, and that was told
   QStringList headings_;
   bool waiting_ = false, showing_ = false;
   int sortedColumn_ = -1;

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QPointer>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 
@@ -50,8 +51,7 @@ void QtNavigator::keep(std::unique_ptr<kit::Screen> screen) {
 }
 
 void QtNavigator::sweepSoon() {
-  QMetaObject::invokeMethod(
-      this, [this] { sweep(); }, Qt::QueuedConnection);
+  QTimer::singleShot(1, this, [this] { sweep(); });  // a timer: a notice that repaints lets it wait
 }
 
 // A closed screen stays until no event of it is under way any more: its handlers may still be on the stack below a

@@ -26,7 +26,7 @@ QImage read(const std::string& bytes) {
 
 class PictureView : public QWidget {
  public:
-  PictureView(kit::Picture& picture, Renderer& renderer) : picture_(picture), renderer_(renderer) {
+  explicit PictureView(kit::Picture& picture) : picture_(picture) {
     setMinimumSize(photo / 2);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
   }
@@ -54,24 +54,22 @@ class PictureView : public QWidget {
     painter.drawImage(place, image_);
   }
   void mouseReleaseEvent(QMouseEvent* event) override {
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()) &&
-        renderer_.reachable(picture_))
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()) && picture_.reachable())
       picture_.click();
   }
   void mouseDoubleClickEvent(QMouseEvent* event) override {
-    if (event->button() == Qt::LeftButton && renderer_.reachable(picture_)) picture_.doubleClick();
+    if (event->button() == Qt::LeftButton && picture_.reachable()) picture_.doubleClick();
   }
 
  private:
   kit::Picture& picture_;
-  Renderer& renderer_;
   QImage image_;
 };
 
 }  // namespace
 
 QWidget* pictureWidget(kit::Picture& picture, Renderer& renderer) {
-  auto* view = new PictureView(picture, renderer);
+  auto* view = new PictureView(picture);
   renderer.bind(picture, view);
   renderer.listen(picture, view);
   renderer.follow(picture, [view, &picture] { view->show(picture.bytes()); });

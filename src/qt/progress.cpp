@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QProgressBar>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -69,13 +70,20 @@ void QtProgress::paint(const QString& text, long long done, long long total) {
   }
   notice_->tell(text, done, total);
   painted_.start();
+  repaint();
+}
+
+// Only painting is done: the engine may be in the middle of a call, and a unit of work may be open. What the person
+// does is taken out of the queue, and timers wait for their next turn.
+void QtProgress::repaint() {
+  const QScopedValueRollback repainting(repainting_, true);
   QApplication::processEvents();
 }
 
 // What was clicked and typed during the run is taken out of the queue before the notice goes.
 void QtProgress::take() {
   if (!notice_) return;
-  QApplication::processEvents();
+  repaint();
   qApp->removeEventFilter(this);
   notice_.reset();
   painted_.invalidate();
@@ -108,7 +116,9 @@ bool QtProgress::eventFilter(QObject*, QEvent* event) {
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
+    case QEvent::Enter:
     case QEvent::Close: return true;
+    case QEvent::Timer: return repainting_;
     default: return false;
   }
 }

@@ -24,12 +24,13 @@ class QtProgress : public QObject, public kit::Progress {
 
  private:
   void paint(const QString& text, long long done, long long total);
+  void repaint();
   void take();
   std::unique_ptr<ProgressNotice> notice_;
   QElapsedTimer since_, painted_;
   QString text_;
   long long done_ = 0, total_ = 0;
-  bool working_ = false;
+  bool working_ = false, repainting_ = false;
 };
 
 }  // namespace qt

@@ -96,9 +96,7 @@ QAction* Renderer::action(kit::Action& action) {
     made->setVisible(action.visible());
     made->setToolTip(toQt(action.tip().empty() ? action.caption() : action.tip()));
   });
-  connect(made, &QAction::triggered, this, [this, &action] {
-    if (reachable(action)) action.press();
-  });
+  connect(made, &QAction::triggered, this, [&action] { action.invoke(); });
   return made;
 }
 
@@ -107,10 +105,6 @@ void Renderer::fillMenu(QMenu& menu, const std::vector<kit::Action*>& entries) {
     if (entry) menu.addAction(action(*entry));
     else menu.addSeparator();
   }
-}
-
-bool Renderer::reachable(const kit::Member& member) const {
-  return !screen_.closed() && member.enabled() && member.visible();
 }
 
 void Renderer::listen(kit::Member& member, QWidget* widget) {
@@ -141,7 +135,7 @@ void Renderer::setDefault(const kit::Action* confirm) {
 
 bool Renderer::focus(const kit::Member& member) {
   const auto found = listening_.find(&member);
-  if (found == listening_.end() || !reachable(member)) return false;
+  if (found == listening_.end() || !member.reachable()) return false;
   for (QWidget* widget : found->second) {
     if (widget->focusPolicy() == Qt::NoFocus) continue;
     for (QWidget* page = widget; page->parentWidget(); page = page->parentWidget())
@@ -172,7 +166,7 @@ void Renderer::focusFirst(const kit::Layout& layout) {
 }
 
 void Renderer::came(kit::Member& member) {
-  if (here_ == &member || !reachable(member)) return;
+  if (here_ == &member || !member.reachable()) return;
   if (here_) went(*here_);
   here_ = &member;
   member.focusIn();
@@ -185,7 +179,7 @@ void Renderer::went(kit::Member& member) {
 }
 
 void Renderer::enter(kit::Field& field) {
-  if (!reachable(field)) return;
+  if (!field.reachable()) return;
   if (!field.handlesEnter()) here_ = nullptr;  // a field without a handler of its own tells by itself that it is left
   field.enter();
   const auto& widgets = listening_[&field];
@@ -193,7 +187,7 @@ void Renderer::enter(kit::Field& field) {
 }
 
 void Renderer::moveOn(const kit::Member& member) {
-  if (reachable(member)) screen_.run([&] { screen_.moveOnFrom(member); });
+  if (member.reachable()) screen_.run([&] { screen_.moveOnFrom(member); });
 }
 
 bool Renderer::moveLine(const kit::Member& member, int by) {
@@ -250,7 +244,7 @@ bool Renderer::eventFilter(QObject* object, QEvent* event) {
     case QEvent::MouseButtonDblClick: {
       if (member.kind != MemberKind::Field || static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) break;
       auto& field = static_cast<kit::Field&>(member);
-      if (!reachable(field)) break;
+      if (!field.reachable()) break;
       if (event->type() == QEvent::MouseButtonDblClick) field.doubleClick();
       else field.click();
       break;

@@ -43,7 +43,7 @@ class Renderer : public QObject {
   // Focus, keys and clicks of this widget are the member's.
   void listen(kit::Member& member, QWidget* widget);
 
-  bool reachable(const kit::Member& member) const;
+  kit::Screen& screen() { return screen_; }
   void setTabOrder(const kit::Layout& layout);
   void setDefault(const kit::Action* confirm);
   bool focus(const kit::Member& member);  // false: its widget cannot take the focus

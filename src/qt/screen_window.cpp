@@ -126,7 +126,7 @@ void ScreenWindow::present() {
 
 void ScreenWindow::escape() {
   if (!layout_.cancel) return leave();
-  if (renderer_->reachable(*layout_.cancel)) layout_.cancel->press();
+  layout_.cancel->invoke();
 }
 
 void ScreenWindow::leave() {

@@ -42,8 +42,7 @@ QTreeWidgetItem* findItem(QTreeWidgetItem& parent, const QString& key) {
 
 class TreeLink : public QObject {
  public:
-  TreeLink(kit::Tree& tree, QTreeWidget& view, Renderer& renderer)
-      : QObject(&view), tree_(tree), view_(view), renderer_(renderer) {
+  TreeLink(kit::Tree& tree, QTreeWidget& view) : QObject(&view), tree_(tree), view_(view) {
     connect(&view, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) { click(item); });
     connect(&view, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
       if (!QApplication::mouseButtons()) click(item);
@@ -67,12 +66,11 @@ class TreeLink : public QObject {
 
  private:
   void click(QTreeWidgetItem* item) {
-    if (!showing_ && item && renderer_.reachable(tree_)) tree_.click(fromQt(item->data(0, keyRole).toString()));
+    if (!showing_ && item && tree_.reachable()) tree_.click(fromQt(item->data(0, keyRole).toString()));
   }
 
   kit::Tree& tree_;
   QTreeWidget& view_;
-  Renderer& renderer_;
   bool showing_ = false;
 };
 
@@ -83,7 +81,7 @@ QWidget* treeWidget(kit::Tree& tree, Renderer& renderer) {
   view->setHeaderHidden(true);
   renderer.bind(tree, view);
   renderer.listen(tree, view);
-  auto* link = new TreeLink(tree, *view, renderer);
+  auto* link = new TreeLink(tree, *view);
   renderer.follow(tree, [link] { link->show(); });
   return view;
 }

@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "base/text.h"
+#include "kit/notice.h"
 #include "kit/rows.h"
-#include "reports/notice.h"
 
 namespace reports {
 namespace {
@@ -55,7 +55,7 @@ std::filesystem::path write(kit::Desk& desk, const platform::SheetPlan& plan, Re
                             const std::set<std::size_t>& dates) {
   const std::vector<std::string> fields = rows.fields();
   const std::string text = "正在导出" + plan.title + " ...";
-  Notice notice(desk);
+  kit::Notice notice(desk.progress);
   const auto sheet = desk.sheets.create(plan);
   std::vector<SheetCell> cells(fields.size());
   long long done = 0;

@@ -1,6 +1,8 @@
 #include "reports/income_statement.h"
 
 #include "base/text.h"
+#include "kit/at_exit.h"
+#include "kit/notice.h"
 #include "reports/income.h"
 #include "reports/print.h"
 
@@ -28,18 +30,10 @@ void Formkh1::load() {
 }
 
 void Formkh1::work() {
-  struct Leaving {  // also when a fault ends the work: the notice has no other way out
-    Formkh1& screen;
-    ~Leaving() {
-      screen.desk.progress.hide();
-      screen.close();
-    }
-  };
   const kit::Mode order = desk.session.EditMode;
   {
-    Leaving leaving{*this};
+    const kit::AtExit leaving([this] { close(); });  // also by a fault: it has no other way out
     compute();
-    desk.progress.hide();
     if (order == printStatement) print();
   }
   if (order == openStatement) open<Formkh>();
@@ -47,9 +41,10 @@ void Formkh1::work() {
 
 void Formkh1::compute() {
   const int year = desk.session.statement_year, month = desk.session.statement_month;
-  desk.session.income = {year, month, computeIncome(desk.store, {year, month}, [this](const std::string& item) {
+  kit::Notice progress(desk.progress);
+  desk.session.income = {year, month, computeIncome(desk.store, {year, month}, [&](const std::string& item) {
                            notice.set("正在统计" + item + "信息 ...");
-                           desk.progress.show(notice.text());
+                           progress.show(notice.text());
                          })};
 }
 

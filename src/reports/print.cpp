@@ -1,7 +1,7 @@
 #include "reports/print.h"
 
+#include "kit/notice.h"
 #include "reports/drawing.h"
-#include "reports/notice.h"
 
 namespace reports {
 namespace {
@@ -13,7 +13,7 @@ using store::Sql;
 
 long long refill(kit::Desk& desk, const char* table, const Sql& source, const std::vector<std::string_view>& columns,
                  const Also& also) {
-  Notice notice(desk);
+  kit::Notice notice(desk.progress);
   store::Unit unit(desk.store);
   RecordSet target(desk.store, Sql::table(table));
   target.removeAll();

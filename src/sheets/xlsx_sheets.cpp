@@ -89,7 +89,8 @@ XlsxSheet::XlsxSheet(const platform::SheetPlan& plan)
     open();
     writeHeadings();
   } catch (...) {
-    fs::remove(unfinished_);
+    std::error_code ignored;
+    fs::remove(unfinished_, ignored);
     throw;
   }
 }
@@ -203,7 +204,8 @@ std::filesystem::path XlsxSheet::finish() {
 
 fs::path XlsxSheet::freeName() const {
   fs::path path = plan_.folder / (name_ + ".xlsx");
-  for (int number = 2; fs::exists(path); ++number)
+  std::error_code ignored;  // what cannot be looked at cannot be written either, which is told then
+  for (int number = 2; fs::exists(path, ignored); ++number)
     path = plan_.folder / (name_ + " (" + std::to_string(number) + ").xlsx");
   return path;
 }

@@ -48,16 +48,16 @@ void Formzct::load() {
                              {cd92, {WaiveArrears}},
                              {class_strip, {Collect}}});
   for (Overview* overview : {&students_overview, &payments_overview, &arrears_overview}) overview->enableByRights(desk);
-  loadAllSettings();
   ready.set("就绪");
   user.set("当前用户：" + desk.session.SessionUser + " 级别：" + desk.session.SessionLevel);
   third.set("今天是 " + desk.clock.today().chinese());
   setTitle(desk.session.SchoolName + "综合管理系统 收费前台");
-  clearCard();
-  classes.fillTree();
-  sharing.refresh();
   timer2.start();
   card.xh.focus();
+  clearCard();
+  loadAllSettings();  // from here on the store is read: whatever it says, the console stands
+  classes.fillTree();
+  sharing.refresh();
 }
 
 void Formzct::wireMenu() {
@@ -158,24 +158,28 @@ void Formzct::leaveProgram() {
   if (mayClose()) close();
 }
 
+// Once the person has said yes the program ends: what fails on the way out is told and passed over.
 bool Formzct::mayClose() {
-  bool leaving = false;
-  run([&] { leaving = sayGoodbye(); });
-  return leaving;
-}
-
-bool Formzct::sayGoodbye() {
   if (!ask("您确认是要退出本系统吗？   \n选择“是”将关闭本窗口\n或者选择“否”撤消此操作！                     ",
            "确认退出"))
     return false;
+  attempt([this] { closeLogRow(); });
+  attempt([this] { restoreDisplay(); });
+  attempt([this] { offerBackup(); });
+  return true;
+}
+
+void Formzct::closeLogRow() {
   RecordSet session = rows(Sql("select * from czjl where kjsj='") + base::trim(desk.session.SessionStart) +
                            "' and jsjmc='" + base::trim(desk.session.ComputerName) + "'");
-  if (!session.empty()) {
-    session.set("gjsj", desk.clock.now().plain());
-    session.update();
-  }
-  const auto folder = desk.desktop.programFolder();
-  const int width = static_cast<int>(base::leadingNumber(platform::readFile(folder / "Screen.txt")));
+  if (session.empty()) return;
+  session.set("gjsj", desk.clock.now().plain());
+  session.update();
+}
+
+void Formzct::restoreDisplay() {
+  const auto file = desk.desktop.programFolder() / "Screen.txt";
+  const int width = static_cast<int>(base::leadingNumber(platform::readFile(file)));
   desk.session.ScreenWidth = width;
   struct Mode {
     int wide, high;
@@ -187,9 +191,12 @@ bool Formzct::sayGoodbye() {
   for (const Mode& known : modes)
     if (known.wide == width) mode = known;
   if (width != 1024) desk.desktop.SetDisplayMode(mode.wide, mode.high, 32, 75);
-  if (ask("退出之前是否备份数据库？        ", "备份提示") && !desk.desktop.startProgram(folder / "备份数据库.exe"))
+}
+
+void Formzct::offerBackup() {
+  const auto program = desk.desktop.programFolder() / "备份数据库.exe";
+  if (ask("退出之前是否备份数据库？        ", "备份提示") && !desk.desktop.startProgram(program))
     warn("备份程序未能启动，请联系管理员检查备份程序是否已安装。", "备份提示");
-  return true;
 }
 
 }  // namespace shell

@@ -42,7 +42,9 @@ class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
   void wireFront();
   void loadAllSettings();
   void leaveProgram();
-  bool sayGoodbye();
+  void closeLogRow();
+  void restoreDisplay();
+  void offerBackup();
 
   // console_student.cpp: the student in hand.
   void findByNumber();

@@ -47,8 +47,10 @@ void Formzct::clearPanel(kit::Panel panel) {
     inform(clearing.done, "信息提示");
     if (panel == kit::Panel::Students) desk.session.current_xh.clear();
     refreshCard();
-    fill(*inFront());
-    closeStatistics(*inFront());
+    if (Overview* open = inFront()) {
+      fill(*open);
+      closeStatistics(*open);
+    }
   }
 }
 

@@ -203,24 +203,24 @@ void Overview::clear() {
   statistics.close();
 }
 
-Filled fillStudents(Overview& overview, kit::Desk& desk) {
+Filled fillStudents(Overview& overview, kit::Desk& desk, kit::Notice& notice) {
   RecordSet students(desk.store, Sql("select * from xs ") + overview.filter.where);
   Filled filled;
   overview.list.fill(students, [&](RecordSet& row) {
     if (row.get("xb").text() == "男") ++filled.men;
-    constexpr long long between = 500;  // rows between two looks at the notice
-    if (++filled.count % between == 0)
-      desk.progress.show("正在加载学生" + row.get("xm").trimmed() + "的信息 ...", filled.count);
+    if (notice.due(++filled.count)) notice.show("正在加载学生" + row.get("xm").trimmed() + "的信息 ...", filled.count);
   });
   overview.bar.set("在校生总人数：" + base::caption(filled.count) + " 人 ！");
   return filled;
 }
 
-Filled fillPayments(Overview& overview, kit::Desk& desk) {
+Filled fillPayments(Overview& overview, kit::Desk& desk, kit::Notice& notice) {
   RecordSet payments(desk.store, Sql("select * from jfjl ") + overview.filter.where);
   Filled filled;
-  overview.list.fill(payments, [&](RecordSet& row) { filled.paid += row.get("je").money(); });
-  filled.count = overview.list.count();
+  overview.list.fill(payments, [&](RecordSet& row) {
+    filled.paid += row.get("je").money();
+    notice.count(overview.plan.notice, ++filled.count);
+  });
   overview.bar.set("记录总数：" + base::caption(filled.count) + " 笔，总金额：" + filled.paid.fixed2() + " 元！");
   return filled;
 }
@@ -249,7 +249,7 @@ std::vector<kit::ListColumn> joined(std::vector<kit::ListColumn> columns, const 
 
 }  // namespace
 
-Filled fillArrears(Overview& overview, kit::Desk& desk) {
+Filled fillArrears(Overview& overview, kit::Desk& desk, kit::Notice& notice) {
   struct Holds {
     Sql rows;
     std::vector<kit::ListColumn> columns;
@@ -269,8 +269,8 @@ Filled fillArrears(Overview& overview, kit::Desk& desk) {
   Filled filled;
   overview.list.fill(rows, [&](RecordSet& row) {
     if (arrears) addArrears(filled, row);
+    notice.count(overview.plan.notice, ++filled.count);
   });
-  filled.count = overview.list.count();
   overview.bar.set("记录个数：" + base::caption(filled.count) + " 条");
   if (!arrears) return filled;
   const Filled all = overview.filter.where.empty() ? filled : arrearsOfAll(desk);

@@ -4,6 +4,7 @@
 #include <deque>
 
 #include "kit/filter.h"
+#include "kit/notice.h"
 #include "kit/screen.h"
 #include "reports/export.h"
 #include "shell/statistics.h"
@@ -87,8 +88,9 @@ struct Filled {
 };
 
 // Fills the overview's list from "select * from <table> " + where, and its bar.
-Filled fillStudents(Overview& overview, kit::Desk& desk);
-Filled fillPayments(Overview& overview, kit::Desk& desk);  // paid: the sum
-Filled fillArrears(Overview& overview, kit::Desk& desk);   // by what the overview holds: arrears, not paid, less paid
+Filled fillStudents(Overview& overview, kit::Desk& desk, kit::Notice& notice);
+Filled fillPayments(Overview& overview, kit::Desk& desk, kit::Notice& notice);  // paid: the sum
+// By what the overview holds: arrears, not paid, less paid.
+Filled fillArrears(Overview& overview, kit::Desk& desk, kit::Notice& notice);
 
 }  // namespace shell

@@ -9,6 +9,7 @@
 #include "collection/fee_window.h"
 #include "collection/payment_edit.h"
 #include "collection/payment_query.h"
+#include "kit/notice.h"
 #include "kit/rows.h"
 #include "shell/console.h"
 #include "shell/rights.h"
@@ -67,7 +68,6 @@ void Formzct::openOverview(Overview& overview) {
   if (overview.frame.visible()) return;
   classes.frame.show(false);
   desk.session.ConsolePanel = overview.plan.panel;
-  desk.progress.show("正在启动 ...");
   timer1.start();
 }
 
@@ -84,18 +84,23 @@ void Formzct::openPanel() {
       overview->frame.show(false);
       continue;
     }
-    desk.progress.show(overview->plan.notice);
     overview->clear();
-    if (desk.session.auto_load_lists) fill(*overview);
+    try {
+      if (desk.session.auto_load_lists) fill(*overview);
+    } catch (...) {  // the panel did not open: its button opens it again
+      desk.session.ConsolePanel = kit::Panel::None;
+      throw;
+    }
     overview->frame.show(true);
   }
-  desk.progress.hide();
 }
 
 Filled Formzct::fill(Overview& overview) {
-  if (&overview == &students_overview) return fillStudents(overview, desk);
-  if (&overview == &payments_overview) return fillPayments(overview, desk);
-  return fillArrears(overview, desk);
+  kit::Notice notice(desk.progress, "正在启动 ...");
+  notice.show(overview.plan.notice);
+  if (&overview == &students_overview) return fillStudents(overview, desk, notice);
+  if (&overview == &payments_overview) return fillPayments(overview, desk, notice);
+  return fillArrears(overview, desk, notice);
 }
 
 void Formzct::refillLater(Overview& overview, std::optional<kit::Filter> answer) {
@@ -129,7 +134,6 @@ void Formzct::refillAfterQuery() {
   fill(*overview);
   if (overview == &students_overview) ready.set(overview->filter.heading.empty() ? "就绪" : overview->filter.heading);
   if (overview == &payments_overview && !overview->filter.heading.empty()) overview->bar.set(overview->filter.heading);
-  desk.progress.hide();
 }
 
 void Formzct::closeOverviews() {

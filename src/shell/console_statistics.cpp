@@ -11,10 +11,10 @@ void Formzct::wireStatistics() {
   timer3.onTick([this] {
     timer3.stop();
     if (Overview* overview = inFront()) {
+      const kit::Notice notice(desk.progress, overview->plan.statistics.notice);
       overview->statistics.fill(desk);
       overview->zoom.setTip("点击还原统计信息栏");
     }
-    desk.progress.hide();
   });
   for (Overview* overview : {&students_overview, &payments_overview, &arrears_overview}) {
     overview->zoom.setTip("点击放大统计信息栏");
@@ -46,7 +46,6 @@ void Formzct::wireStatistics() {
 
 void Formzct::zoom(Overview& overview) {
   if (overview.statistics.frame.visible()) return closeStatistics(overview);
-  desk.progress.show(overview.plan.statistics.notice);
   timer3.start();
 }
 
@@ -59,7 +58,6 @@ void Formzct::showStudentsOfClass() {
   const std::string name = students_overview.statistics.first.key();
   students_overview.filter = {Sql(" where bjmc='") + name + "' order by xh"};
   const Filled filled = fill(students_overview);
-  desk.progress.hide();
   students_overview.bar.set("在校生人数：" + base::caption(filled.count) + " 人，其中男生：" +
                             base::caption(filled.men) + " 人，女生：" + base::caption(filled.count - filled.men) +
                             " 人！");

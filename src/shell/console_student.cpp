@@ -54,8 +54,8 @@ void Formzct::wireFront() {
   });
   classes.students.onDoubleClick([this] { pickFromClass(); });
   classes.opensFeeWindow.onChange([this] {
-    desk.session.open_fee_window = classes.opensFeeWindow.on();
-    kit::storeSetting(desk, "sfctsz", classes.opensFeeWindow.on() ? 1 : 0);
+    const bool on = classes.opensFeeWindow.on();
+    if (std::exchange(desk.session.open_fee_window, on) != on) kit::storeSetting(desk, "sfctsz", on ? 1 : 0);
   });
 }
 

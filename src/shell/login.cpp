@@ -1,5 +1,6 @@
 #include "shell/login.h"
 
+#include <algorithm>
 #include <filesystem>
 
 #include "base/text.h"
@@ -23,15 +24,20 @@ Formcsh5::Formcsh5(kit::Desk& all) : Screen(all, "Formcsh5", "") {
   yhxm.onPick([this] { chooseUser(); });
   yhxm.onEnter([this] { chooseUser(); });
   yhmm.onEnter([this] {
-    if (!yhmm.blank()) logIn();
+    if (!yhmm.blank()) login.invoke();
   });
   login.onPress([this] { logIn(); });
+  wait.show(false);
+  second.onTick([this] {
+    --secondsToWait_;
+    waitOn();
+  });
   cancel.onPress([this] { close(); });
   background.onDoubleClick([this] { nextPicture(); });
 }
 
 void Formcsh5::load() {
-  noteScreenWidth(desk);
+  attempt([this] { noteScreenWidth(desk); });
   desk.session.ComputerName = base::left(desk.desktop.computerName(), 255);
   connect(desk, {"\\mv_Database\\morvanegxgl.mdb", store::mainPassword},
           {"\\配置文件\\morvanedjpz.mdb", store::configPassword});
@@ -41,15 +47,16 @@ void Formcsh5::load() {
     open<upkeep::Formyhxx4>();
     desk.session.first_user_added = false;  // the login behind it goes on
   }
+  yhxm.focus();
   RecordSet settings(desk.store, "select * from morvanedjpzb where fn='kqd'", Connection::Config);
   if (!settings.empty()) showPicture(static_cast<int>(settings.get("tupan").number()));
-  yhxm.focus();
 }
 
 void Formcsh5::showPicture(int number) {
   if (number < 1 || number > 9) return;
   const auto file = desk.desktop.programFolder() / "背景图" / ("morvane" + std::to_string(number) + ".jpg");
-  background.set(std::filesystem::exists(file) ? platform::readFile(file) : "");
+  std::error_code ignored;  // a folder that does not answer holds no picture
+  background.set(std::filesystem::exists(file, ignored) ? platform::readFile(file) : "");
 }
 
 void Formcsh5::nextPicture() {
@@ -82,22 +89,41 @@ void Formcsh5::logIn() {
     stop("用户不合法，系统将关闭 ！       ", "");
     return close();
   }
-  if (!upkeep::passwordFits(storedPassword_, yhmm.text())) {
-    stop(" 密码不对，请重新输入 ！       ", "错误提示");
-    yhmm.clear();
-    return yhmm.focus();
-  }
-  desk.session.SessionUser = yhxm.trimmed();
+  const std::string name = yhxm.trimmed();
+  if (!upkeep::passwordFits(storedPassword_, yhmm.text())) return refuse(name);
+  // The session begins when its row is written: a fault before leaves the login as it was.
+  const auto rights = upkeep::rightsOf(desk.store, name, level_);
+  desk.session.SessionStart = writeLog(name);
+  desk.session.Rights = rights;
+  desk.session.SessionUser = name;
   desk.session.SessionLevel = level_;
+  wrongTries_.erase(name);
   panel.show(false);
-  desk.session.Rights = upkeep::rightsOf(desk.store, desk.session.SessionUser, level_);
-  writeLog();
   desk.navigator.stand<Formcsh1>(desk);
   storedPassword_.clear();
   level_.clear();
 }
 
-void Formcsh5::writeLog() {
+// Each further wrong password of a name costs twice the time, so that nobody tries them all.
+void Formcsh5::refuse(const std::string& name) {
+  constexpr int longest = 30, doublings = 5;
+  secondsToWait_ = std::min(longest, 1 << std::min(wrongTries_[name]++, doublings));
+  waitOn();
+  second.start();
+  stop(" 密码不对，请重新输入 ！       ", "错误提示");
+  yhmm.clear();
+  yhmm.focus();
+}
+
+void Formcsh5::waitOn() {
+  const bool over = secondsToWait_ <= 0;
+  if (over) second.stop();
+  wait.set("密码输入有误，请等待 " + std::to_string(secondsToWait_) + " 秒后再登录");
+  wait.show(!over);
+  login.enable(over);
+}
+
+std::string Formcsh5::writeLog(const std::string& name) {
   const std::string computer = base::trim(desk.session.ComputerName);
   const base::DateTime now = desk.clock.now();
   store::Unit unit(desk.store);
@@ -109,14 +135,15 @@ void Formcsh5::writeLog() {
     row.update();
   });
   log.addNew();
-  log.set("yhxm", desk.session.SessionUser);
+  log.set("yhxm", name);
   log.set("jsjmc", computer);
   log.set("kjsj", now);
   log.set("gjsj", "");
   log.set("bsh", now.plain());
   log.update();
-  desk.session.SessionStart = log.get("kjsj").text();
+  const std::string began = log.get("kjsj").text();
   unit.finish();
+  return began;
 }
 
 }  // namespace shell

@@ -19,13 +19,13 @@ Form1::Form1(kit::Desk& all) : Screen(all, "Form1", "") {
 }
 
 void Form1::load() {
-  noteScreenWidth(desk);
+  attempt([this] { noteScreenWidth(desk); });
   connect(desk, {"\\mvdata\\morvanegxgl.mdb", store::mainPassword}, {"\\mvdata\\morvanedjpz.mdb", store::mainPassword});
-  if (rows("select * from yhxx").empty()) {
-    desk.navigator.stand<upkeep::Formyhxx4>(desk);
-    return close();
-  }
-  timer.start();
+  bool noUser = false;
+  if (!attempt([&] { noUser = rows("select * from yhxx").empty(); })) return close();  // told: nothing leads on
+  if (!noUser) return timer.start();
+  desk.navigator.stand<upkeep::Formyhxx4>(desk);
+  close();
 }
 
 }  // namespace shell

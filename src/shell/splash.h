@@ -10,6 +10,7 @@ class Form1 : public kit::Screen {  // splash, without a caption
   explicit Form1(kit::Desk& desk);
   void load() override;
   kit::Layout layout() override;
+  bool mayClose() override { return false; }  // the login comes by itself
 
   kit::Field product{*this, "product", "", kit::Entry::Shown};
   kit::Timer timer{*this, "timer", std::chrono::milliseconds(500)};

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "kit/at_exit.h"
+#include "kit/notice.h"
 #include "kit/rows.h"
 #include "students/class_transfer.h"
 #include "students/student_records.h"
@@ -20,7 +22,6 @@ Formtb::Formtb(kit::Desk& all) : Screen(all, "Formtb", "学生调班转班事务
   toClass.onPick([this] { chooseTo(); });
   tickAll.onPress([this] { toggleAll(); });
   confirm.onPress([this] {
-    desk.progress.show("正在加载相关设置，请稍等...");
     confirm.enable(false);
     timer.start();
   });
@@ -97,24 +98,19 @@ void Formtb::moveOnFrom(const kit::Member& member) {
 
 void Formtb::transfer() {
   timer.stop();
-  // Whatever the store says: the notice goes, and the screen can be used again.
-  const struct Done {
-    Formtb& screen;
-    ~Done() {
-      screen.desk.progress.hide();
-      screen.confirm.enable(true);
-    }
-  } done{*this};
+  const kit::AtExit done([this] { confirm.enable(true); });
   std::vector<std::string> names;
   for (const kit::Check& box : boxes)
     if (box.on()) names.push_back(box.caption());
-  long long moved = 0;
-  transferStudents(desk.store, fromClass.text(), toClass.text(), names, [&](const std::string& name) {
-    desk.progress.show("正在处理学生" + name + "的相关信息,请稍等 ...", ++moved, static_cast<long long>(names.size()));
-  });
-  showStudents();
-  showTarget();
-  desk.progress.hide();
+  {
+    kit::Notice notice(desk.progress, "正在加载相关设置，请稍等...");
+    long long moved = 0;
+    transferStudents(desk.store, fromClass.text(), toClass.text(), names, [&](const std::string& name) {
+      notice.show("正在处理学生" + name + "的相关信息,请稍等 ...", ++moved, static_cast<long long>(names.size()));
+    });
+    showStudents();
+    showTarget();
+  }
   inform("调班操作成功           ", "信息提示");
 }
 

@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "kit/notice.h"
 #include "kit/rows.h"
 
 namespace upkeep {
@@ -62,23 +63,18 @@ Formcsh4::Formcsh4(kit::Desk& all) : LoadingScreen(all, "Formcsh4") { text.set("
 
 // No unit around the whole: a fault on the way must not bring back what has been emptied.
 void Formcsh4::emptyTables() {
-  struct Leaving {  // also when a fault ends the clearing: the screen has no other way out
-    Formcsh4& screen;
-    ~Leaving() {
-      screen.desk.progress.hide();
-      screen.close();
-    }
-  } leaving{*this};
+  kit::Notice notice(desk.progress);
   long long done = 0;
   for (const Step& step : steps) {
     if (step.text) text.set(step.text);
-    desk.progress.show(text.text(), done++, std::ssize(steps));
+    notice.show(text.text(), done++, std::ssize(steps));
     kit::removeEach(desk.store, store::Sql::table(step.table));
   }
 }
 
 void Formcsh4::proceed() {
   emptyTables();
+  close();
   inform("数据库已清空 ！        ", "信息提示");
 }
 

@@ -18,7 +18,6 @@ class Formcsh3 : public kit::Screen {  // 系统初始化
 class Formcsh4 : public kit::LoadingScreen {  // 系统初始化的清空过程
  public:
   explicit Formcsh4(kit::Desk& desk);
-  bool mayClose() override { return false; }
 
  private:
   void proceed() override;

@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "app/screens.h"
+#include "app/views.h"
 #include "collection/batch_window.h"
 #include "qt_test.h"
 #include "students/class_transfer_window.h"

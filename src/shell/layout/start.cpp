@@ -15,7 +15,7 @@ Layout Form1::layout() {
 
 // The panel stands at the lower right over the background picture; login_view places it.
 Layout Formcsh5::layout() {
-  return {.root = custom("login", {background, group(panel, {school, form({wide(yhxm, 12), wide(yhmm, 12)}),
+  return {.root = custom("login", {background, group(panel, {school, form({wide(yhxm, 12), wide(yhmm, 12)}), wait,
                                                              buttons({login, cancel})})}),
           .confirm = &login,
           .cancel = &cancel,

@@ -46,7 +46,7 @@ QWidget* buildStrip(kit::Action& action, qt::Renderer& renderer) {
   renderer.bind(action, strip.release());
   renderer.listen(action, made);
   renderer.follow(action, [made, &action] { made->setText(QString::fromStdString(action.caption())); });
-  QObject::connect(made, &QAbstractButton::clicked, made, [&action] { action.press(); });
+  QObject::connect(made, &QAbstractButton::clicked, made, [&action] { action.invoke(); });
   return made;
 }
 
@@ -75,8 +75,7 @@ class ConsoleArea : public QWidget {
   bool eventFilter(QObject* object, QEvent* event) override {
     const bool enters = event->type() == QEvent::Enter;
     const bool open = console_.classes.frame.visible();
-    if (enters && console_.class_strip.enabled() && ((object == strip_ && !open) || (object == front_ && open)))
-      console_.class_strip.press();
+    if (enters && ((object == strip_ && !open) || (object == front_ && open))) console_.class_strip.invoke();
     // A shown overview stands alone: what it covers must neither shine through nor take the focus.
     if ((event->type() == QEvent::Show || event->type() == QEvent::Hide) && object != strip_ && object != front_)
       front_->setVisible(std::none_of(covers_.begin(), covers_.end(),

@@ -39,7 +39,9 @@ class LoginArea : public QWidget {
         rect(), cover,
         QRect(QPoint((cover.width() - int(width() * devicePixelRatioF())) / 2, 0), size() * devicePixelRatioF()));
   }
-  void mouseDoubleClickEvent(QMouseEvent*) override { login_.background.doubleClick(); }
+  void mouseDoubleClickEvent(QMouseEvent*) override {
+    if (login_.background.reachable()) login_.background.doubleClick();
+  }
 
  private:
   Formcsh5& login_;
