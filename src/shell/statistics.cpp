@@ -84,7 +84,7 @@ struct Owed {
   std::unordered_set<std::string> students;
   void operator+=(const Owed& other) {
     balance += other.balance;
-    students.insert(other.students.begin(), other.students.end());
+    for (const std::string& xh : other.students) students.insert(base::upper(xh));  // once a number, not once a row
   }
 };
 
@@ -170,7 +170,7 @@ Statistics arrearsStatistics(store::Store& store, base::Date today) {
   RecordSet open(store, "select bjmc,xh,bjje,sbjje from qfjl where sbjje<bjje and clfs<>'减免'");
   store::forEach(open, [&](RecordSet& row) {
     Owed& one = owed[row.get("bjmc").text()];
-    one.students.insert(base::upper(row.get("xh").text()));
+    one.students.insert(row.get("xh").text());
     one.balance += row.get("bjje").money() - row.get("sbjje").money();
   });
   for (const auto& [key, one] : owed.joined())
