@@ -72,10 +72,10 @@ class Operator : kit::Navigator {
   kit::Session session_;
   WillingPerson person_;
   support::StillClock clock_;
-  support::RecordingPrinter printer_;
   support::FakeDesktop desktop_;
-  support::RecordingSheets sheets_;
-  support::RecordingProgress progress_;
+  support::RecordingPrinter printer_{desktop_.faults};
+  support::RecordingSheets sheets_{desktop_.faults};
+  support::RecordingProgress progress_{desktop_.faults};
   kit::Desk desk_{session_, store_, person_, *this, clock_, printer_, sheets_, desktop_, progress_};
   std::unique_ptr<shell::Formzct> console_;
 };

@@ -1,5 +1,8 @@
 #include "kit/screen.h"
 
+#include "kit/fault.h"
+#include "kit/loading_screen.h"
+#include "kit/notice.h"
 #include "kit/rows.h"
 #include "kit/validation.h"
 #include "support/test_desk.h"
@@ -40,10 +43,108 @@ class Sample : public Screen {
 TEST(Screen, AFaultEndsTheEventAndIsToldOnceInWords) {
   TestDesk test;
   auto s = opened<Sample>(test);
-  test.person.expect(Box::Stop, "数据表“zymcb”中没有“nosuch”这一栏！", "错误提示");
+  test.person.expect(Box::Stop, "数据表“zymcb”中没有“nosuch”这一栏！\n本次操作的内容全部没有保存！", "错误提示");
   s->broken.press();
   EXPECT_EQ(s->first.text(), "已改");     // what went before stays
   EXPECT_EQ(s->second.text(), "随已改");  // a value set by code raises the same change as typing
+}
+
+// Whatever ends an event, the person reads it once with what was saved before, and the notice does not stand over it.
+TEST(Screen, EveryKindOfFaultHasItsWords) {
+  const struct {
+    std::function<void()> raise;
+    const char* words;
+  } cases[] = {
+      {[] { throw store::StoreError(store::Fault::Busy, "正被占用！"); }, "正被占用！\n*"},
+      {[] { throw store::StoreError(store::Fault::Unsure, "不知是否保存！"); }, "不知是否保存！"},
+      {[] { throw platform::PlatformError("打印机没有响应！"); }, "打印机没有响应！\n*"},
+      {[] { (void)std::filesystem::file_size("/no/such/file"); },
+       "读写“/no/such/file”时出错。请检查该文件夹是否存在、是否有权限，磁盘和网络是否正常！\n*"},
+      {[] { throw std::bad_alloc(); }, "计算机的内存不足，操作已经停止。请关闭其它程序后再试！\n*"},
+      {[] { throw std::out_of_range("place 7"); },
+       "程序内部出错，操作已经停止。请重试一次；如果再次出错，请退出程序后重新进入，并把以下内容告诉管理员：\nplace "
+       "7\n*"}};
+  for (const auto& c : cases)
+    for (const bool saves : {false, true}) {
+      TestDesk test;
+      auto s = opened<Sample>(test);
+      s->first.onChange([&] {
+        if (saves) test.add("zymcb", {{"zybh", "11"}});
+        const Notice notice(test.progress, "正在处理 ...");
+        EXPECT_TRUE(test.progress.shown);
+        c.raise();
+      });
+      std::string words = c.words;
+      if (words.ends_with("*")) words.replace(words.size() - 1, 1, saves ? savedBefore : nothingSaved);
+      test.person.expect(Box::Stop, words, "错误提示");
+      s->first.type("x");
+      EXPECT_FALSE(test.progress.shown);
+      EXPECT_FALSE(s->busy());
+    }
+}
+
+// A receipt is in the ledger and its printing fails in a screen of its own: nobody may read that nothing was saved.
+TEST(Screen, WhatTheEventAroundHasSavedIsTold) {
+  TestDesk test;
+  auto s = opened<Sample>(test);
+  s->confirm.onPress([&] {
+    test.add("zymcb", {{"zybh", "11"}});
+    test.desk.navigator.open<Sample>(test.desk);
+  });
+  test.navigator.expect<Sample>([](Sample& inner) { inner.broken.press(); });
+  test.person.expect(Box::Stop, "数据表“zymcb”中没有“nosuch”这一栏！\n" + std::string(savedBefore), "错误提示");
+  s->confirm.press();
+}
+
+TEST(Screen, NobodyIsToldInsideAUnitOfWork) {
+  TestDesk test;
+  auto s = opened<Sample>(test), inner = opened<Sample>(test);
+  s->confirm.onPress([&] {
+    store::Unit unit(test.store);
+    inner->broken.press();
+  });
+  test.person.expect(Box::Stop, "数据表“zymcb”中没有“nosuch”这一栏！\n" + std::string(nothingSaved), "错误提示");
+  s->confirm.press();
+}
+
+TEST(Screen, AHandlerMayAddAnother) {
+  TestDesk test;
+  auto s = opened<Sample>(test);
+  int heard = 0;
+  s->confirm.onPress([&] {
+    for (int i = 0; i < 100; ++i) s->confirm.onPress([&] { ++heard; });
+  });
+  s->confirm.press();
+  EXPECT_EQ(heard, 0);
+  s->confirm.enable(false);
+  s->confirm.invoke();  // code presses what cannot be pressed: nothing happens
+  EXPECT_EQ(heard, 0);
+  s->confirm.enable(true);
+  s->confirm.invoke();
+  EXPECT_EQ(heard, 100);
+}
+
+struct Broken : LoadingScreen {
+  explicit Broken(Desk& all) : LoadingScreen(all, "Broken") {}
+  void proceed() override { rows("select * from zymcb where nosuch='1'"); }
+};
+
+TEST(LoadingScreen, CannotBeLeftAndGoesByAFault) {
+  TestDesk test;
+  auto s = opened<Broken>(test);
+  EXPECT_FALSE(s->mayClose());
+  test.person.expect(Box::Stop, "数据表“zymcb”中没有“nosuch”这一栏！\n" + std::string(nothingSaved), "错误提示");
+  s->timer.tick();
+  EXPECT_TRUE(s->closed());
+}
+
+TEST(Files, WhatCannotBeReadIsAFaultOfTheComputer) {
+  support::FakeDesktop desktop;
+  EXPECT_THROW(platform::readFile(desktop.programFolder()), platform::PlatformError)
+      << "a folder opens, but is no file";
+  EXPECT_THROW(platform::readFile(desktop.programFolder() / "none"), platform::PlatformError);
+  platform::writeFile(desktop.programFolder() / "empty", "");
+  EXPECT_EQ(platform::readFile(desktop.programFolder() / "empty"), "");
 }
 
 TEST(Screen, EnterMovesOverWhatIsHiddenAndConfirmsInTheEnd) {

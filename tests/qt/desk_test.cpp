@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include "kit/fault.h"
+#include "qt/application.h"
 #include "qt/computer.h"
 #include "qt/navigator.h"
 #include "qt/person.h"
@@ -164,6 +166,14 @@ TEST(Progress, standsAfterAMomentAndLetsNoClickThrough) {
   support::keepPicture(*notice(), "progress");
   QTest::mouseClick(&below, Qt::LeftButton);
   EXPECT_EQ(clicks, 0);
+  int ticks = 0;
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, [&] { ++ticks; });
+  timer.start(1);
+  QTest::qSleep(60);
+  progress.show("正在导出……", 50, 100);
+  EXPECT_EQ(ticks, 0) << "a tick in the middle of the work";
+  timer.stop();
   progress.waiting(true);
   EXPECT_EQ(notice()->findChild<QLabel*>()->text(), "数据库正被其他计算机使用，正在等待……");
   progress.waiting(false);
@@ -172,6 +182,22 @@ TEST(Progress, standsAfterAMomentAndLetsNoClickThrough) {
   EXPECT_EQ(notice(), nullptr);
   QTest::mouseClick(&below, Qt::LeftButton);
   EXPECT_EQ(clicks, 1);
+}
+
+TEST(Application, tellsOnceWhatCameFromAnEventAndGoesOn) {
+  auto& application = *static_cast<qt::Application*>(QCoreApplication::instance());
+  std::vector<std::string> told;
+  application.onFault = [&](const std::exception_ptr& fault) {
+    told.push_back(kit::faultText(fault, kit::savedPerhaps));
+  };
+  struct Painted : QWidget {
+    void paintEvent(QPaintEvent*) override { throw platform::PlatformError("画不出来！"); }
+  } widget;
+  widget.show();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !told.empty(); }));
+  EXPECT_EQ(told, std::vector<std::string>{"画不出来！\n" + std::string(kit::savedPerhaps)});
+  widget.hide();
+  application.onFault = {};
 }
 
 TEST(Computer, knowsItsWorkAreaAndKeepsItsDisplayMode) {

@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <QWidget>
 
+#include "qt/application.h"
 #include "qt/snapshot.h"
 #include "qt/theme.h"
 
@@ -38,7 +39,7 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());  // what windows remember goes with it
   testing::InitGoogleMock(&argc, argv);
-  QApplication application(argc, argv);
+  qt::Application application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   qt::applyTheme(application);
   return RUN_ALL_TESTS();

@@ -19,6 +19,7 @@
 #include "demo_screen.h"
 #include "qt/xp_button.h"
 #include "qt_test.h"
+#include "support/failing_engine.h"
 #include "window_checks.h"
 
 namespace {
@@ -306,6 +307,49 @@ TEST_F(RendererTest, aMillionRowsAreQuicklyShown) {
   view->viewport()->grab();
   EXPECT_EQ(screen.rows_shown.selected(), 999'999);
   EXPECT_LT(time.elapsed(), 3000);
+}
+
+// Rows beyond the kept ones come from the store: painting leaves them blank until it was asked between two events, and
+// a store that does not answer is told once, however many cells are blank.
+TEST(LongList, staysBlankUntilTheStoreAnswers) {
+  struct Students : kit::Screen {
+    explicit Students(kit::Desk& all) : Screen(all, "Students", "") {}
+    void load() override {
+      store::RecordSet set(desk.store, "select * from xs");
+      list.fill(set);
+    }
+    kit::Layout layout() override { return {.root = kit::column({list})}; }
+    kit::List list{*this, "list", {{"学号", "xh"}, {"姓名", "xm"}}};
+  };
+  support::WindowDesk desk;
+  {
+    store::Unit unit(desk.parts.store);
+    for (int i = 0; i < 2500; ++i) desk.parts.add("xs", {{"xh", std::to_string(10000 + i)}, {"xm", "王小明"}});
+    unit.finish();
+  }
+  support::Failures failures(desk.parts.store);
+  Students screen(desk.desk);
+  screen.start();
+  qt::ScreenWindow window(screen, {});
+  window.present();
+  support::settle();
+  auto* view = window.findChild<QAbstractItemView*>("list");
+  const auto shown = [&](int row) { return view->model()->index(row, 0).data().toString(); };
+
+  failures.at(1, store::Fault::Busy, true);
+  view->scrollToBottom();
+  view->viewport()->grab();
+  EXPECT_EQ(failures.calls(), 0) << "the store was read while a list was painted";
+  for (int i = 0; i < 5; ++i) QTest::qWait(10), view->viewport()->grab();
+  EXPECT_EQ(desk.person.told.size(), 1U);
+  EXPECT_EQ(shown(2499), "");
+  QTest::keyClicks(view, "99999");  // looks through rows that cannot be read
+  EXPECT_EQ(desk.person.told.size(), 1U + 5U) << "a key that could not search says so";
+
+  failures.off();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shown(2499) == "12499"; }, 7000)) << "they come when the store answers";
+  EXPECT_EQ(shown(2000), "") << "not in sight, not asked for yet";
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shown(2000) == "12000"; }));
 }
 
 }  // namespace

@@ -1,9 +1,13 @@
 #include "shell/start.h"
 
+#include <gmock/gmock.h>
+
+#include "kit/fault.h"
 #include "shell/console.h"
 #include "shell/loading.h"
 #include "shell/login.h"
 #include "shell/splash.h"
+#include "support/failing_engine.h"
 #include "support/test_desk.h"
 #include "upkeep/first_run.h"
 #include "upkeep/users.h"
@@ -63,6 +67,7 @@ TEST(Login, ChecksInOrder) {
   s->login.press();
   EXPECT_EQ(s->yhmm.text(), "");
   s->yhmm.enter();  // blank: nothing is pressed
+  s->second.tick();
 
   s->yhxm.type("李刚");  // another name after the choice: the chosen user's password no longer counts
   s->yhmm.type("abc");
@@ -70,6 +75,65 @@ TEST(Login, ChecksInOrder) {
   s->login.press();
   EXPECT_TRUE(s->closed());
   EXPECT_EQ(test.count("select * from czjl"), 0);
+}
+
+TEST(Login, AWrongPasswordCostsAGrowingPause) {
+  TestDesk test;
+  addClerk(test);
+  addClerk(test, "王芳");
+  auto s = opened<Formcsh5>(test);
+  const auto pauseAfter = [&](const char* name) {
+    test.person.expect(Box::Stop, " 密码不对，请重新输入 ！       ", "错误提示");
+    logIn(*s, name, "wrong");
+    logIn(*s, name);  // Enter does not get round the button
+    int seconds = 0;
+    for (; !s->login.enabled(); ++seconds) s->second.tick();
+    EXPECT_FALSE(s->second.running());
+    EXPECT_FALSE(s->wait.visible());
+    return seconds;
+  };
+  std::vector<int> pauses;
+  for (int i = 0; i < 7; ++i) pauses.push_back(pauseAfter("李强"));
+  EXPECT_THAT(pauses, testing::ElementsAre(1, 2, 4, 8, 16, 30, 30));
+  EXPECT_EQ(pauseAfter("王芳"), 1) << "each name for itself";
+  EXPECT_EQ(test.count("select * from czjl"), 0);
+}
+
+TEST(Login, AFaultInItsRowLeavesTheLoginUsable) {
+  TestDesk test;
+  addClerk(test);
+  support::Failures failures(test.store);
+  auto s = opened<Formcsh5>(test);
+  s->yhxm.pick("李强");
+  s->yhmm.type("abc");
+  for (const long long call : {1, 4}) {
+    failures.at(call, store::Fault::Busy);
+    test.person.expect(Box::Stop, support::Failures::words(store::Fault::Busy) + "\n" + std::string(kit::nothingSaved),
+                       "错误提示");
+    s->login.press();
+    failures.off();
+    EXPECT_TRUE(s->panel.visible());
+    EXPECT_EQ(test.session.SessionUser + test.session.SessionStart, "");
+    EXPECT_FALSE(test.navigator.find<Formcsh1>());
+  }
+  s->login.press();
+  EXPECT_EQ(test.session.SessionUser, "李强");
+  EXPECT_TRUE(test.navigator.find<Formcsh1>());
+}
+
+TEST(Start, AProgramFolderThatCannotBeWrittenIsToldAndPassedOver) {
+  TestDesk test;
+  addClerk(test);
+  const auto file = test.desktop.programFolder() / "Screen.txt";
+  std::filesystem::create_directories(file);  // nobody can write a file there
+  const std::string words =
+      "无法写入文件：" + file.string() + "，请检查磁盘空间和写入权限。\n" + kit::nothingSaved.data();
+  test.person.expect(Box::Stop, words, "错误提示");
+  test.desk.navigator.stand<Form1>(test.desk);
+  test.person.expect(Box::Stop, words, "错误提示");
+  for (int i = 0; i < 3; ++i) test.navigator.find<Form1>()->timer.tick();
+  logIn(*test.navigator.find<Formcsh5>());
+  EXPECT_EQ(test.value("select * from czjl", "jsjmc"), "收费一号机");
 }
 
 TEST(Login, SetsTheSessionUpAndMarksWhatThisComputerLeftOpen) {

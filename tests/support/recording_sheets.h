@@ -4,6 +4,7 @@
 #include <deque>
 
 #include "platform/sheets.h"
+#include "support/platform_faults.h"
 
 namespace support {
 
@@ -15,24 +16,32 @@ struct RecordedSheet {
 
 class RecordingSheets : public platform::Sheets {
  public:
+  explicit RecordingSheets(PlatformFaults& faults) : faults_(faults) {}
   std::deque<RecordedSheet> kept;
   std::unique_ptr<platform::Sheet> create(const platform::SheetPlan& plan) override {
-    return std::make_unique<Recording>(kept.emplace_back(RecordedSheet{plan, {}}));
+    faults_.pass();
+    return std::make_unique<Recording>(kept.emplace_back(RecordedSheet{plan, {}}), faults_);
   }
 
  private:
   class Recording : public platform::Sheet {
    public:
-    explicit Recording(RecordedSheet& sheet) : sheet_(sheet) {}
-    void add(const std::vector<platform::SheetCell>& row) override { sheet_.rows.push_back(row); }
+    Recording(RecordedSheet& sheet, PlatformFaults& faults) : sheet_(sheet), faults_(faults) {}
+    void add(const std::vector<platform::SheetCell>& row) override {
+      faults_.pass();
+      sheet_.rows.push_back(row);
+    }
     std::filesystem::path finish() override {
+      faults_.pass();
       sheet_.finished = true;
       return sheet_.plan.folder / (sheet_.plan.fileName + ".xlsx");
     }
 
    private:
     RecordedSheet& sheet_;
+    PlatformFaults& faults_;
   };
+  PlatformFaults& faults_;
 };
 
 }  // namespace support

@@ -13,6 +13,7 @@
 
 #include "kit/desk.h"
 #include "kit/screen.h"
+#include "support/platform_faults.h"
 #include "support/recording_sheets.h"
 #include "support/test_server.h"
 
@@ -80,8 +81,13 @@ struct StillClock : platform::Clock {
 };
 
 struct RecordingPrinter : platform::Printer {
+  explicit RecordingPrinter(PlatformFaults& all) : faults(all) {}
+  PlatformFaults& faults;
   std::vector<platform::Drawing> shown;
-  void show(const platform::Drawing& drawing) override { shown.push_back(drawing); }
+  void show(const platform::Drawing& drawing) override {
+    faults.pass();
+    shown.push_back(drawing);
+  }
 };
 
 // A computer named 收费一号机 with a program folder of its own, removed at the end; the folder leads to the server when
@@ -93,17 +99,23 @@ class FakeDesktop : public platform::Desktop {
   platform::WorkArea workArea() override { return area; }
   std::string computerName() override { return computer; }
   std::filesystem::path programFolder() override { return folder_; }
-  void SetDisplayMode(int width, int height, int, int) override { modes.push_back({width, height}); }
+  void SetDisplayMode(int width, int height, int, int) override {
+    faults.pass();
+    modes.push_back({width, height});
+  }
   bool startProgram(const std::filesystem::path& program) override {
+    faults.pass();
     started.push_back(program);
     return true;
   }
   std::filesystem::path exportFolder() override { return folder_ / "导出"; }
   bool openDocument(const std::filesystem::path& file) override {
+    faults.pass();
     documents.push_back(file);
     return opensDocuments;
   }
 
+  PlatformFaults faults;  // of all that stands around the desk
   platform::WorkArea area{0, 0, 1366, 728};
   std::string computer = "收费一号机";
   std::vector<std::pair<int, int>> modes;
@@ -116,9 +128,12 @@ class FakeDesktop : public platform::Desktop {
 };
 
 struct RecordingProgress : kit::Progress {
+  explicit RecordingProgress(PlatformFaults& all) : faults(all) {}
+  PlatformFaults& faults;
   std::vector<std::string> texts;
   bool shown = false;
   void show(const std::string& text, long long, long long) override {
+    faults.pass();
     texts.push_back(text);
     shown = true;
   }
@@ -132,9 +147,9 @@ struct TestDesk {
   ScriptedPerson person{store};
   ScriptedNavigator navigator;
   StillClock clock;
-  RecordingPrinter printer;
-  RecordingSheets sheets;
-  RecordingProgress progress;
+  RecordingPrinter printer{desktop.faults};
+  RecordingSheets sheets{desktop.faults};
+  RecordingProgress progress{desktop.faults};
   kit::Desk desk{session, store, person, navigator, clock, printer, sheets, desktop, progress};
 
   // Writes a row: {{"xh", "1001"}, {"xm", "王小明"}}.

@@ -1,0 +1,60 @@
+// A small school with a row in every table that screens read, a person who says yes to everything, and a navigator that
+// lets each screen load and leaves it.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "app/screens.h"
+#include "support/failing_engine.h"
+#include "support/test_desk.h"
+
+namespace sweep {
+
+struct WillingPerson : kit::Person {
+  explicit WillingPerson(store::Store& all) : store(all) {}
+  store::Store& store;
+  std::vector<std::string> told, faults;  // what a fault is told as, apart
+  void tell(kit::Box, const std::string& text, const std::string&) override { hear(text); }
+  bool ask(kit::Box, const std::string& text, const std::string&) override { return hear(text), true; }
+  std::optional<std::string> chooseFile(const std::string&, const std::string&) override { return std::nullopt; }
+
+ private:
+  void hear(const std::string& text);
+};
+
+struct PassingNavigator : kit::Navigator {
+  int opened = 0;
+  std::vector<std::unique_ptr<kit::Screen>> kept;
+  std::vector<kit::Screen*> standing() override;
+
+ protected:
+  void run(kit::Screen& screen) override;
+  void keep(std::unique_ptr<kit::Screen> screen) override;
+};
+
+struct World {
+  World();
+  // As it is before the person does something: what earlier screens left is gone, but for what they wrote.
+  void begin(kit::Mode mode);
+
+  support::TestDesk parts;
+  support::Failures store{parts.store};
+  support::PlatformFaults& computer = parts.desktop.faults;
+  WillingPerson person{parts.store};
+  PassingNavigator navigator;
+  kit::Desk desk{parts.session, parts.store,  person,        navigator,     parts.clock,
+                 parts.printer, parts.sheets, parts.desktop, parts.progress};
+};
+
+// One thing that a person, or a timer, can do to a screen. Screens are made anew for each try: a deed knows its member
+// by its place.
+struct Deed {
+  std::string name;
+  std::function<bool(kit::Screen&)> possible;
+  std::function<void(kit::Screen&)> play;
+};
+std::vector<Deed> deedsOf(const kit::Screen& screen);
+// Selects the first row of each list and fills what is empty, so that actions go beyond their first check.
+void prepare(kit::Screen& screen);
+
+}  // namespace sweep
