@@ -116,11 +116,13 @@ void Database::finishUnit() {
     engine_->commit();
   } catch (...) {
     rollback();
+    if (engine_->spoiled()) close();
     throw;
   }
   depth_ = 0;
   if (std::exchange(written_, false)) ++saved_;
   engine_->committed();
+  if (engine_->spoiled()) close();
 }
 
 void Database::abandonUnit() noexcept {

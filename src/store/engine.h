@@ -67,6 +67,7 @@ class Engine {
   virtual void begin() = 0;   // with the write lock, at once
   virtual void commit() = 0;  // with the answer lost it asks what became of the unit: see Fault::Unsure
   virtual void rollback() noexcept = 0;
+  virtual bool spoiled() const { return false; }  // by a fault: opened again, it lets go of what it may still lock
   virtual bool inTransaction() const = 0;
   virtual void committed() = 0;  // called behind each write that has reached the disk: others who wait go first
   virtual void install() = 0;    // what the engine needs in the database itself; when the schema is made or raised

@@ -16,7 +16,7 @@ using Clock = std::chrono::steady_clock;
 constexpr auto noticeAfter = 200ms, slice = 100ms;
 constexpr auto betweenTries = 50ms;
 constexpr auto toConnect = 10s;
-constexpr auto longerThanServer = 5s;  // the desk waits so much longer than the server works on one statement
+constexpr auto longerThanServer = 2s;  // the desk waits so much longer than the server works on one statement
 
 // What the dialect counts on, whatever the server's own settings say. A desk that dies without a word must not hold the
 // others up: the server looks after it by itself.

@@ -49,7 +49,7 @@ std::string wordsFor(Fault fault, const std::string& file) {
     case Fault::Damaged: return "数据库“" + file + "”已经损坏。请停止使用，并用最近的备份恢复该文件！";
     case Fault::Unreadable:
       return "数据库“" + file + "”现在不能读写：共享文件夹或磁盘没有回应。请检查网络和磁盘，稍候再试！";
-    case Fault::ReadOnly: return "数据库“" + file + "”或它所在的文件夹不能写入。请检查写入权限后再试！";
+    case Fault::ReadOnly: return "没有读写数据库“" + file + "”或它所在文件夹的权限。请检查权限后再试！";
     case Fault::Unsure:
       return "保存时数据库“" + file +
              "”没有回应，还不知道内容是否已经保存。请检查网络和磁盘，然后核对记录；核对之前请不要重做！";
@@ -233,12 +233,14 @@ class SqliteEngine final : public Engine {
       execute("commit");
     } catch (const StoreError&) {
       rollback();
+      spoiled_ = !link_.file.path.empty();
       if (!written || !savedAfterAll()) throw;
     }
   }
   void rollback() noexcept override {
     if (inTransaction()) sqlite3_exec(link_.connection.get(), "rollback", nullptr, nullptr, nullptr);
   }
+  bool spoiled() const override { return spoiled_; }
   bool inTransaction() const override { return sqlite3_get_autocommit(link_.connection.get()) == 0; }
   void committed() override { link_.sign.giveWay(); }
   void install() override {  // the functions belong to the connection
@@ -304,6 +306,7 @@ class SqliteEngine final : public Engine {
 
   Link link_;
   long long changesBefore_ = 0;
+  bool spoiled_ = false;
   const std::string desk_ = newDesk();
   std::int64_t units_ = 0;
   std::optional<SqliteStatement> token_;
