@@ -72,26 +72,34 @@ void Database::settle() {
 long long Database::write(const Table& table, const std::string& sql, const std::vector<Cell>& values,
                           std::int64_t rowNo) {
   failIfLost();
-  // Outside a unit no read may stay under way: two computers that read while they write would wait for each other.
   for (Cursor* cursor : cursors_) {
-    if (&cursor->table() == &table) {
-      cursor->pin();
-      rowNo == manyRows ? cursor->forget() : cursor->forget(rowNo);
-    } else if (!inUnit()) {
-      cursor->release();
-    }
+    if (&cursor->table() != &table) continue;
+    cursor->pin();
+    rowNo == manyRows ? cursor->forget() : cursor->forget(rowNo);
   }
-  Engine& to = engine();
+  if (inUnit()) return run(table, sql, values);
+  beginUnit();
+  long long changes = 0;
+  try {
+    changes = run(table, sql, values);
+  } catch (...) {
+    rollback();
+    throw;
+  }
+  finishUnit();
+  return changes;
+}
+
+long long Database::run(const Table& table, const std::string& sql, const std::vector<Cell>& values) {
   Loan(*this, sql, values)->step();
-  const long long changes = to.changes();
+  const long long changes = engine_->changes();
   written_ |= changes > 0 && !table.remade;
-  if (!inUnit()) reachedDisk();
   return changes;
 }
 
 void Database::beginUnit() {
   if (depth_ == 0) {
-    settle();
+    settle();  // two computers that read while they write would wait for each other
     engine().begin();
   }
   ++depth_;
@@ -108,15 +116,13 @@ void Database::finishUnit() {
     engine_->commit();
   } catch (...) {
     rollback();
+    if (engine_->spoiled()) close();
     throw;
   }
   depth_ = 0;
-  reachedDisk();
-}
-
-void Database::reachedDisk() {
   if (std::exchange(written_, false)) ++saved_;
   engine_->committed();
+  if (engine_->spoiled()) close();
 }
 
 void Database::abandonUnit() noexcept {

@@ -73,7 +73,7 @@ class Database {
   void forgetStatements();
   void keep(std::string sql, std::unique_ptr<Statement> statement);
   void commit();
-  void reachedDisk();
+  long long run(const Table& table, const std::string& sql, const std::vector<Cell>& values);
   void rollback() noexcept;
   void failIfLost() const;
 

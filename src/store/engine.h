@@ -55,18 +55,22 @@ class Phrases {
   virtual std::string numberOf(const std::string& text) const = 0;
 };
 
+// A name for a connection, under which it leaves tokens of its units.
+std::string newDesk();
+
 class Engine {
  public:
   virtual ~Engine() = default;
   virtual const Phrases& phrases() const = 0;
   virtual std::unique_ptr<Statement> prepare(const std::string& sql, Rows rows = Rows::Few) = 0;
   virtual void execute(const std::string& sql) = 0;
-  virtual void begin() = 0;  // with the write lock, at once
-  virtual void commit() = 0;
+  virtual void begin() = 0;   // with the write lock, at once
+  virtual void commit() = 0;  // with the answer lost it asks what became of the unit: see Fault::Unsure
   virtual void rollback() noexcept = 0;
+  virtual bool spoiled() const { return false; }  // by a fault: opened again, it lets go of what it may still lock
   virtual bool inTransaction() const = 0;
   virtual void committed() = 0;  // called behind each write that has reached the disk: others who wait go first
-  virtual void install() = 0;    // what the phrases need in the database itself; when the schema is made
+  virtual void install() = 0;    // what the engine needs in the database itself; when the schema is made or raised
   virtual long long changes() const = 0;
   virtual long long lastRowNo() const = 0;
   virtual int version() = 0;

@@ -23,6 +23,7 @@ class PostgresEngine final : public Engine {
   void committed() override {}  // the server serves who waits in turn
   void install() override {
     for (const std::string& function : postgresFunctions()) execute(function);
+    execute("create table if not exists unit_tokens (desk text primary key, token bigint, day date)");
   }
   long long changes() const override { return written_.rows; }
   long long lastRowNo() const override { return written_.lastRowNo; }

@@ -13,13 +13,16 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-constexpr auto noticeAfter = 200ms;
+constexpr auto noticeAfter = 200ms, slice = 100ms;
 constexpr auto betweenTries = 50ms;
+constexpr auto toConnect = 10s;
+constexpr auto longerThanServer = 2s;  // the desk waits so much longer than the server works on one statement
 
 // What the dialect counts on, whatever the server's own settings say. A desk that dies without a word must not hold the
 // others up: the server looks after it by itself.
 constexpr const char* settings[] = {
     "set client_min_messages = warning",
+    "set synchronous_commit = on",
     "set default_transaction_isolation = 'read committed'",
     "set standard_conforming_strings = on",
     "set extra_float_digits = 1",
@@ -33,7 +36,7 @@ struct State {
   std::string_view prefix;  // of the server's code of an error
   Fault fault;
 };
-constexpr State states[] = {{"55P03", Fault::Busy},      {"57014", Fault::Busy},         {"40", Fault::Busy},
+constexpr State states[] = {{"55P03", Fault::Busy},      {"57014", Fault::Unreadable},   {"40", Fault::Busy},
                             {"53100", Fault::DiskFull},  {"25006", Fault::ReadOnly},     {"42501", Fault::ReadOnly},
                             {"XX001", Fault::Damaged},   {"XX002", Fault::Damaged},      {"57P", Fault::Disconnected},
                             {"08", Fault::Disconnected}, {"25P03", Fault::Disconnected}, {"21", Fault::Statement},
@@ -51,6 +54,7 @@ std::string wordsFor(Fault fault, const std::string& server, const std::string& 
   switch (fault) {
     case Fault::Statement: return "语句不合规定，或者内容太长，不能执行！（" + code + "）";
     case Fault::Busy: return "数据库服务器" + server + "正被其他计算机占用，等待之后仍不能使用。请稍候再试！";
+    case Fault::Unreadable: return "数据库服务器" + server + "太忙，没有在规定的时间内完成。请稍候再试！";
     case Fault::DiskFull: return "数据库服务器" + server + "的磁盘空间已满。请管理员清理磁盘后再试！";
     case Fault::ReadOnly: return "数据库服务器" + server + "不允许写入。请管理员检查用户的权限后再试！";
     case Fault::Damaged:
@@ -83,8 +87,8 @@ void PostgresLink::connect() {
   const std::pair<const char*, const char*> options[] = {
       {"host", server.host.c_str()},      {"port", server.port.c_str()},  {"dbname", server.database.c_str()},
       {"user", server.user.c_str()},      {"password", password.c_str()}, {"client_encoding", "UTF8"},
-      {"application_name", "fee-office"}, {"connect_timeout", "10"},      {"keepalives_idle", "5"},
-      {"keepalives_interval", "3"},       {"keepalives_count", "3"},      {"tcp_user_timeout", "15000"}};
+      {"application_name", "fee-office"}, {"keepalives_idle", "5"},       {"keepalives_interval", "3"},
+      {"keepalives_count", "3"},          {"tcp_user_timeout", "15000"}};
   std::vector<const char*> names, values;
   for (const auto& [name, value] : options) {
     names.push_back(name);
@@ -92,7 +96,7 @@ void PostgresLink::connect() {
   }
   names.push_back(nullptr);
   values.push_back(nullptr);
-  connection_.reset(PQconnectdbParams(names.data(), values.data(), 0));
+  join(names.data(), values.data());
   ++number_;
   unanswered_ = 0;
   if (PQstatus(connection_.get()) != CONNECTION_OK) {
@@ -110,14 +114,27 @@ void PostgresLink::connect() {
   }
   PQsetNoticeProcessor(
       connection_.get(), [](void*, const char*) {}, nullptr);
+  PQsetnonblocking(connection_.get(), 1);
   PQenterPipelineMode(connection_.get());
   setUp();
 }
 
+void PostgresLink::join(const char* const* names, const char* const* values) {
+  connection_.reset(PQconnectStartParams(names, values, 0));
+  const Waiting waiting(*this);
+  const auto end = Clock::now() + toConnect;
+  for (auto wanted = PGRES_POLLING_WRITING; wanted != PGRES_POLLING_OK && wanted != PGRES_POLLING_FAILED;) {
+    if (PQstatus(connection_.get()) == CONNECTION_BAD || Clock::now() >= end) return;
+    if (await(wanted == PGRES_POLLING_READING ? POLLIN : POLLOUT)) wanted = PQconnectPoll(connection_.get());
+  }
+}
+
 void PostgresLink::setUp() {
-  const Parameters path{{place_.schema}}, patience{{std::to_string(place_.patience.count())}};
+  const Parameters path{{place_.schema}}, patience{{std::to_string(place_.patience.count())}},
+      limit{{std::to_string(place_.server.timeout) + "s"}};
   std::vector<Ask> asks{{"select set_config('search_path', $1, false)", "", &path},
-                        {"select set_config('lock_timeout', $1, false)", "", &patience}};
+                        {"select set_config('lock_timeout', $1, false)", "", &patience},
+                        {"select set_config('statement_timeout', $1, false)", "", &limit}};
   for (const char* setting : settings) asks.push_back({setting});
   round(asks);
 }
@@ -147,6 +164,7 @@ void PostgresLink::send(const Ask& ask) {
 
 Answers PostgresLink::round(const std::vector<Ask>& asks) {
   if (!connected()) lost();
+  const Waiting waiting(*this);
   while (unanswered_ > 0) {
     receive();
     finishRound();
@@ -165,23 +183,12 @@ Answers PostgresLink::round(const std::vector<Ask>& asks) {
   return answers;
 }
 
-Answers PostgresLink::patientRound(const std::vector<Ask>& asks) {
-  struct Patience {
-    explicit Patience(PostgresLink& of) : link(of) { link.patient_ = true; }
-    ~Patience() {
-      link.patient_ = false;
-      link.waitOver();
-    }
-    PostgresLink& link;
-  } patience(*this);
-  return round(asks);
-}
-
 void PostgresLink::post(const Ask& ask) noexcept {
   try {
     if (!connected()) return;
     send(ask);
     if (PQpipelineSync(connection_.get())) ++unanswered_;
+    PQflush(connection_.get());
   } catch (const StoreError&) {  // the next round tells of the break
   }
 }
@@ -206,26 +213,39 @@ void PostgresLink::finishRound() {
   if (!end || PQresultStatus(end.get()) != PGRES_PIPELINE_SYNC) lost();
 }
 
+// The link may be quiet without being broken: who waits on it longer than the server itself works gives it up.
 void PostgresLink::awaitInput() {
-  const auto start = Clock::now();
+  const auto end = Clock::now() + std::chrono::seconds(place_.server.timeout) + longerThanServer;
   while (PQisBusy(connection_.get())) {
-    pollfd input{PQsocket(connection_.get()), POLLIN, 0};
-    const int timeout = patient_ && !told_ ? static_cast<int>(noticeAfter.count()) : -1;
-    if (::poll(&input, 1, timeout) < 0 && errno != EINTR) lost();
-    if (patient_ && Clock::now() - start >= noticeAfter) tellOfWait(true);
-    if ((input.revents & ~0) && !PQconsumeInput(connection_.get())) lost();
+    const int unsent = PQflush(connection_.get());
+    if (unsent < 0 || Clock::now() >= end) lost();
+    if (await(static_cast<short>(unsent ? POLLIN | POLLOUT : POLLIN)) && !PQconsumeInput(connection_.get())) lost();
   }
 }
 
-void PostgresLink::pause(Clock::time_point since) {
-  if (Clock::now() - since >= noticeAfter) tellOfWait(true);
-  std::this_thread::sleep_for(betweenTries);
+// Waits for a slice of time at most, and tells of it when the wait has lasted.
+bool PostgresLink::await(short events) {
+  pollfd input{PQsocket(connection_.get()), events, 0};
+  const int ready = ::poll(&input, 1, static_cast<int>(slice / 1ms));
+  if (ready < 0 && errno != EINTR) lost();
+  if (Clock::now() - start_ >= noticeAfter) tellOfWait(true);
+  return ready > 0;
 }
 
-void PostgresLink::waitOver() { tellOfWait(false); }
+void PostgresLink::pause() {
+  std::this_thread::sleep_for(betweenTries);
+  if (Clock::now() - start_ >= noticeAfter) tellOfWait(true);
+}
+
+PostgresLink::Waiting::Waiting(PostgresLink& link) : link_(link) {
+  if (link_.waits_++ == 0) link_.start_ = Clock::now();
+}
+
+PostgresLink::Waiting::~Waiting() {
+  if (--link_.waits_ == 0 && link_.told_) link_.tellOfWait(false);
+}
 
 void PostgresLink::tellOfWait(bool waiting) noexcept {
-  if (told_ == waiting) return;
   told_ = waiting;
   try {
     if (onWait_) onWait_(waiting);

@@ -45,11 +45,21 @@ class PostgresLink {
   // Sends the statements together and returns their answers: one way to the server and back. A refusal raises
   // StoreError when all is in, and those behind the refused one were not run. A break raises Fault::Disconnected.
   Answers round(const std::vector<Ask>& asks);
-  Answers patientRound(const std::vector<Ask>& asks);  // may wait for another computer, and says so
-  void post(const Ask& ask) noexcept;                  // without waiting for the answer, which is never looked at
+  void post(const Ask& ask) noexcept;  // without waiting for the answer, which is never looked at
 
-  void pause(std::chrono::steady_clock::time_point since);  // a moment of a longer wait
-  void waitOver();
+  void pause();  // a moment between two tries of a longer wait
+  // As long as one stands, what is waited for is one wait: the notice shows until the last one goes.
+  class Waiting {
+   public:
+    explicit Waiting(PostgresLink& link);
+    ~Waiting();
+    Waiting(const Waiting&) = delete;
+    Waiting& operator=(const Waiting&) = delete;
+
+   private:
+    PostgresLink& link_;
+  };
+
   std::string name() const;  // of the server, for messages
   const PostgresSchema& place() const { return place_; }
 
@@ -62,7 +72,9 @@ class PostgresLink {
   void send(const Ask& ask);
   Answer receive();
   void finishRound();
+  void join(const char* const* names, const char* const* values);
   void awaitInput();
+  bool await(short events);
   void tellOfWait(bool waiting) noexcept;
   [[noreturn]] void lost();
   [[noreturn]] void refuse(const PGresult* answer);
@@ -72,7 +84,9 @@ class PostgresLink {
   std::unique_ptr<PGconn, Close> connection_;
   int number_ = 0;
   int unanswered_ = 0;  // posts whose answers are still under way
-  bool patient_ = false, told_ = false;
+  int waits_ = 0;       // that are under way, one inside the other
+  std::chrono::steady_clock::time_point start_;
+  bool told_ = false;
 };
 
 }  // namespace store

@@ -12,7 +12,11 @@ using Clock = std::chrono::steady_clock;
 
 // A desk that hangs inside a unit does not hold the others up for ever.
 constexpr const char* limitIdling = "set local idle_in_transaction_session_timeout = '60s'";
-constexpr const char* takeLock = "select txid_current() from catalogue_version for update";
+constexpr const char* takeLock = "select 1 from catalogue_version for update";
+constexpr const char* leaveToken =
+    "insert into unit_tokens values ($1, $2, current_date) on conflict (desk) do update set token = $2, day = "
+    "current_date";
+constexpr const char* forgetOldTokens = "delete from unit_tokens where day < current_date - 90";
 constexpr const char* savepoint = "savepoint before_statement";
 constexpr const char* release = "release savepoint before_statement";
 constexpr const char* goBack = "rollback to savepoint before_statement";
@@ -34,8 +38,8 @@ void PostgresSession::ready() {
   if (link_.connected() || transaction_ != Transaction::None) return;
   link_.connect();
   if (!schemaStands()) createSchema();
-  if (unsure_.empty()) return;
-  const Fate fate = fateOf(std::exchange(unsure_, ""));
+  if (!unsure_) return;
+  const Fate fate = fateOf(*std::exchange(unsure_, std::nullopt));
   const std::string news = fate == Fate::Saved ? "断开之前那次操作的内容已经全部保存，请不要重做。"
                            : fate == Fate::NotSaved ? "断开之前那次操作的内容全部没有保存，请重做。"
                                                     : "断开之前那次操作是否已经保存仍不能确定，请核对记录。";
@@ -93,12 +97,10 @@ Answers PostgresSession::run(const std::vector<Ask>& asks) {
 }
 
 Answers PostgresSession::write(const std::vector<Ask>& asks) {
-  if (inUnit()) return guarded(asks);
-  begin();
+  const bool first = !std::exchange(written_, true);
+  if (!inUnit() || !first) return run(asks);
   try {
-    Answers answers = exchange(asks);
-    commit();
-    return answers;
+    return exchange(asks);  // no other write is there that a savepoint could keep
   } catch (const StoreError&) {
     rollback();
     throw;
@@ -109,21 +111,27 @@ void PostgresSession::begin() {
   endReading();
   try {
     ready();
-    const Answers answers = link_.patientRound({{"begin"}, {limitIdling}, {takeLock}});
-    unit_ = textOf(answers.back());
+    link_.round({{"begin"}, {limitIdling}, {takeLock}});
   } catch (const StoreError&) {
     if (link_.connected()) exchange({{"rollback"}});
     throw;
   }
   opened(Transaction::Unit);
+  written_ = false;
 }
 
 void PostgresSession::commit() {
-  const std::string unit = unit_;
-  try {
+  if (!written_) {
     exchange({{"commit"}});
-    ended();
-    return;
+    return ended();
+  }
+  const std::int64_t unit = ++units_;
+  const Parameters token{{desk_}, {std::to_string(unit)}};
+  try {
+    std::vector<Ask> asks{{leaveToken, "", &token}, {"commit"}};
+    if (unit == 1) asks.insert(asks.begin(), {forgetOldTokens});
+    exchange(asks);
+    return ended();
   } catch (const StoreError&) {
     if (link_.connected()) throw;
   }
@@ -204,7 +212,8 @@ void PostgresSession::forgetPrepared(const std::string& name, int connection) no
 }
 
 // A backend that has not noticed the break yet may still be at work: it is given the time of a wait.
-PostgresSession::Fate PostgresSession::fateAfterBreak(const std::string& unit) {
+PostgresSession::Fate PostgresSession::fateAfterBreak(std::int64_t unit) {
+  const PostgresLink::Waiting waiting(link_);
   const auto start = Clock::now();
   Fate fate = Fate::Unknown;
   while (fate == Fate::Unknown && Clock::now() - start < link_.place().patience) {
@@ -213,22 +222,21 @@ PostgresSession::Fate PostgresSession::fateAfterBreak(const std::string& unit) {
       fate = fateOf(unit);
     } catch (const StoreError&) {  // the server is not back yet
     }
-    if (fate == Fate::Unknown) link_.pause(start);
+    if (fate == Fate::Unknown) link_.pause();
   }
-  link_.waitOver();
   return fate;
 }
 
-PostgresSession::Fate PostgresSession::fateOf(const std::string& unit) {
-  const Parameters number{{unit}};
+// The lock is free when the unit has come to its end, and then its token is there or never will be.
+PostgresSession::Fate PostgresSession::fateOf(std::int64_t unit) {
+  const Parameters desk{{desk_}};
   try {
-    const std::string status = textOf(link_.round({{"select txid_status($1::bigint)", "", &number}})[0]);
-    if (status == "committed") return Fate::Saved;
-    return status == "aborted" ? Fate::NotSaved : Fate::Unknown;
-  } catch (const StoreError& error) {
-    // A number that the server has not given yet: it lost the whole unit when it broke down.
-    if (error.fault == Fault::Statement) return Fate::NotSaved;
-    throw;
+    const Answers answers =
+        link_.round({{"begin"}, {takeLock}, {"select token from unit_tokens where desk = $1", "", &desk}, {"commit"}});
+    return textOf(answers[2]) == std::to_string(unit) ? Fate::Saved : Fate::NotSaved;
+  } catch (const StoreError&) {
+    if (link_.connected()) link_.round({{"rollback"}});
+    return Fate::Unknown;
   }
 }
 

@@ -2,7 +2,9 @@
 // connection breaks.
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,11 +21,12 @@ class PostgresSession {
 
   // In the open transaction, which a refused round leaves as it was before, or outside of any.
   Answers run(const std::vector<Ask>& asks);
-  // The same for statements that write: outside of a unit they get one of their own.
+  // The same for statements that write. When the first one of a unit is refused, the unit is over.
   Answers write(const std::vector<Ask>& asks);
 
   // A unit holds the schema's write lock from its beginning. It is over, and nothing of it remains, when the connection
-  // breaks; a break in the middle of commit() asks the server what became of it.
+  // breaks. With the unit goes a token of this desk, in the same transaction: after a break in the middle of commit()
+  // the server is asked for it. (Its own numbers of transactions will not do: after a crash it gives them out again.)
   void begin();
   void commit();
   void rollback() noexcept;
@@ -51,16 +54,18 @@ class PostgresSession {
   void opened(Transaction transaction);
   void ended() noexcept;
   void endReading();
-  Fate fateOf(const std::string& unit);
-  Fate fateAfterBreak(const std::string& unit);
+  Fate fateOf(std::int64_t unit);
+  Fate fateAfterBreak(std::int64_t unit);
 
   PostgresLink link_;
   Transaction transaction_ = Transaction::None;
   int transactionNumber_ = 0;
   int names_ = 0;
-  int cursors_ = 0;     // open in this transaction
-  std::string unit_;    // the server's number of the open unit
-  std::string unsure_;  // of a unit of which nobody knows yet whether it was saved
+  int cursors_ = 0;  // open in this transaction
+  const std::string desk_ = newDesk();
+  std::int64_t units_ = 0;              // that wrote something: the last one's token
+  bool written_ = false;                // something, in the open unit
+  std::optional<std::int64_t> unsure_;  // the token of a unit of which nobody knows yet whether it was saved
 };
 
 }  // namespace store

@@ -14,7 +14,7 @@ namespace {
 // What a version asks for beyond the tables, columns and indexes that the catalogue names: those are created anyway.
 struct Step {
   int version;
-  void (*run)(Engine& engine, Connection connection);
+  void (*run)(Engine& engine, Connection connection);  // none: what Engine::install() makes
 };
 
 // The settings that a new office starts with.
@@ -46,7 +46,7 @@ void addSettings(Engine& engine, Connection connection) {
   insert->step();
 }
 
-constexpr std::array<Step, 1> steps{{{1, addSettings}}};
+constexpr std::array<Step, 2> steps{{{1, addSettings}, {2, nullptr}}};  // the second: the engine's tokens
 static_assert(steps.back().version == catalogueVersion, "each version of the catalogue has its step");
 
 std::string definition(const Column& column, const Phrases& phrases) {
@@ -112,7 +112,7 @@ void bringUp(Engine& engine, Connection connection) {
         if (table.connection == connection) complete(engine, table);
       }
       for (const Step& step : steps) {
-        if (step.version > from) step.run(engine, connection);
+        if (step.version > from && step.run) step.run(engine, connection);
       }
       engine.setVersion(catalogueVersion);
     }

@@ -1,5 +1,6 @@
 #include "store/server.h"
 
+#include <algorithm>
 #include <fstream>
 
 #include "base/text.h"
@@ -15,11 +16,18 @@ std::filesystem::path serverFile(const std::filesystem::path& programFolder) {
 
 std::optional<Server> serverOf(const std::filesystem::path& programFolder) {
   const std::filesystem::path file = serverFile(programFolder);
-  if (std::error_code none; !std::filesystem::exists(file, none)) return std::nullopt;
+  std::error_code error;
+  if (!std::filesystem::exists(file, error)) {
+    if (!error) return std::nullopt;
+    throw StoreError(Fault::Unreadable, "现在看不到文件“" + file.string() + "”。请检查共享文件夹和权限，稍候再试！");
+  }
   const auto value = [&](std::string_view key) { return GetFromINI("server", key, file); };
   Server server{value("host"), value("port"), value("database"), value("user"), {}};
   if (server.host.empty() || server.database.empty()) {
     throw StoreError(Fault::Missing, "文件“" + file.string() + "”中没有写明 host 和 database，请补上后再试！");
+  }
+  if (const double seconds = base::leadingNumber(value("timeout")); seconds >= 1) {
+    server.timeout = static_cast<int>(std::min(seconds, 3600.0));
   }
   if (const std::string name = value("passwordfile"); !name.empty()) server.passwordFile = file.parent_path() / name;
   return server;

@@ -38,7 +38,8 @@ class Store {
   Database& database(Connection which);  // opens it when it is not open yet
   void close();
 
-  // Called with true when a wait for another computer has lasted more than 0.2 s, with false when it is over.
+  // Called with true when a wait for another computer or for the server has lasted more than 0.2 s, and again some
+  // times a second, so that a notice can be painted; with false when it is over. It must let no event of a person in.
   std::function<void(bool waiting)> onWait;
 
   // Puts something between the store and what opens its engines: how tests make it fail. Not inside a unit. An engine

@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto noticeAfter = 200ms;
+constexpr auto noticeAfter = 200ms, betweenNotices = 100ms;
 constexpr int shortestPause = 1, longestPause = 25;  // milliseconds
 constexpr auto wayGiven = 40ms;                      // longer than a waiting one's pause
 
@@ -75,9 +75,10 @@ bool Wait::again(int round) {
   }
   const auto waited = now - start_;
   if (waited >= patience_) return false;
-  if (!told_ && waited >= noticeAfter) {
+  if (told_ ? now - toldAt_ >= betweenNotices : waited >= noticeAfter) {
     told_ = true;
-    if (onWait_) onWait_(true);
+    toldAt_ = now;
+    tell(true);
   }
   const int longest = std::min(longestPause, shortestPause + 2 * (round + 1));
   std::this_thread::sleep_for(
@@ -89,7 +90,14 @@ void Wait::over() {
   if (!waiting_) return;
   waiting_ = false;
   sign_.lower();
-  if (std::exchange(told_, false) && onWait_) onWait_(false);
+  if (std::exchange(told_, false)) tell(false);
+}
+
+void Wait::tell(bool waiting) noexcept {
+  try {
+    if (onWait_) onWait_(waiting);
+  } catch (...) {  // a notice that cannot be shown is no reason to stop waiting
+  }
 }
 
 }  // namespace store

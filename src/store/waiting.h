@@ -30,7 +30,7 @@ class WaitingSign {
   bool tried_ = false, raised_ = false;
 };
 
-// One wait: short random pauses that grow, a notice when it lasts, an end to the patience.
+// One wait: short random pauses that grow, a notice when it lasts (told again while it lasts), an end to the patience.
 class Wait {
  public:
   Wait(std::chrono::milliseconds patience, std::function<void(bool)> onWait, WaitingSign& sign);
@@ -42,7 +42,8 @@ class Wait {
   std::chrono::milliseconds patience_;
   std::function<void(bool)> onWait_;
   WaitingSign& sign_;
-  std::chrono::steady_clock::time_point start_;
+  void tell(bool waiting) noexcept;
+  std::chrono::steady_clock::time_point start_, toldAt_;
   std::minstd_rand random_;
   bool waiting_ = false, told_ = false;
 };

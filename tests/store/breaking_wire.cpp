@@ -75,7 +75,7 @@ void BreakingWire::accept() {
 
 void BreakingWire::carry(int client) {
   const int server = socketAt(std::filesystem::path(server_) / socketName, ::connect);
-  bool broken = false, answer = false;
+  bool broken = false, answer = false, quiet = false;
   while (!over_ && !broken) {
     if (readable(client)) {
       const std::string data = take(client);
@@ -84,8 +84,10 @@ void BreakingWire::carry(int client) {
       if (here) gone_ = !comesBack_;
       broken = data.empty() || (here && where_ == Break::BeforeItArrives) || !give(server, data);
       answer = here && where_ == Break::BehindItsAnswer;
+      quiet |= here && where_ == Break::QuietFromHere;
       if (here) where_ = Break::Never;
     }
+    while (quiet && !over_ && !readable(client)) continue;
     while (!broken && (answer || readable(server))) {  // the answer that nobody gets is waited for
       const std::string data = take(server);
       broken = data.empty() || answer || !give(client, data);

@@ -12,7 +12,7 @@ namespace store {
 
 class BreakingWire {
  public:
-  enum class Break { Never, BeforeItArrives, BehindItsAnswer };
+  enum class Break { Never, BeforeItArrives, BehindItsAnswer, QuietFromHere };
 
   // Listens on a socket in the folder, as the server itself does, and leads to the server's folder.
   BreakingWire(const std::filesystem::path& folder, const std::string& server);
@@ -20,7 +20,8 @@ class BreakingWire {
   BreakingWire(const BreakingWire&) = delete;
   BreakingWire& operator=(const BreakingWire&) = delete;
 
-  // The next message with this text in it; and whether the wire is whole again at once.
+  // The next message with this text in it; and whether the wire is whole again at once. A quiet one is not broken, but
+  // no answer comes through it any more.
   void breakAt(const std::string& text, Break where, bool comesBack = true);
   void comeBack() { gone_ = false; }
 

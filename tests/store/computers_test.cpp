@@ -11,36 +11,13 @@
 #include <thread>
 
 #include "store/configurations.h"
-#include "store/sqlite_engine.h"
+#include "store/receipts.h"
 #include "support/test_server.h"
 
 namespace store {
 namespace {
 
 using namespace std::chrono_literals;
-
-struct Receipt {  // what a writer reports once it is saved
-  long long number;
-  int lines;
-};
-
-// Saves receipts as the fee window does: the number comes from the last row, inside the unit.
-Receipt save(Store& store, int lines) {
-  Unit unit(store);
-  RecordSet last(store, "select * from jfjl order by lsh");
-  last.last();
-  const long long number = last.atEnd() ? 1000000001 : static_cast<long long>(last.get("lsh").number()) + 1;
-  RecordSet set(store, "select * from jfjl");
-  for (int line = 0; line < lines; ++line) {
-    set.addNew();
-    set.set("lsh", std::to_string(number));
-    set.set("fpbh", std::to_string(number));
-    set.set("bz", lines);
-    set.update();
-  }
-  unit.finish();
-  return {number, lines};
-}
 
 // A computer of its own: writes until it is killed or its time is over, and reports each receipt through a pipe.
 class Computer {
@@ -93,26 +70,6 @@ class Computer {
   int reports_ = 0;
 };
 
-// Every receipt is wholly there; the answer is number to lines.
-std::map<long long, int> receipts(const std::filesystem::path& folder) {
-  Store store(folder);
-  std::map<long long, int> found, wanted;
-  RecordSet set(store, "select * from jfjl");
-  forEach(set, [&](RecordSet& at) {
-    const auto number = static_cast<long long>(at.get("lsh").number());
-    ++found[number];
-    wanted[number] = static_cast<int>(at.get("bz").number());
-  });
-  EXPECT_EQ(found, wanted);
-  return found;
-}
-
-std::string integrity(const Folder& folder) {
-  const auto engine = openSqlite({folder.file(Connection::Main), std::string(mainPassword)});
-  const auto check = engine->prepare("pragma integrity_check");
-  return check->step() ? std::string(check->text(0)) : "";
-}
-
 class Computers : public testing::TestWithParam<bool> {
  protected:
   void SetUp() override {
@@ -136,13 +93,14 @@ INSTANTIATE_TEST_SUITE_P(Store, Computers, testing::Bool(),
 TEST_P(Computers, WhatWasReportedSurvivesAnyDeath) {
   std::minstd_rand random(11);
   std::map<long long, int> reported;
-  for (unsigned round = 0; round < 120; ++round) {
+  const unsigned rounds = howMany("STORE_KILLS", 120);
+  for (unsigned round = 0; round < rounds; ++round) {
     Computer computer(folder.path(), 10s, round);
     if (round % 10) computer.awaitReport();  // the others may die while they open the store
     std::this_thread::sleep_for(std::chrono::microseconds(random() % 30000));
     computer.die();
     for (const Receipt& receipt : computer.reports()) reported[receipt.number] = receipt.lines;
-    if (round % 20 == 19) {
+    if (round % 20 == 19 || round + 1 == rounds) {
       const auto found = receipts(folder.path());
       for (const auto& [number, lines] : reported) {
         const auto receipt = found.find(number);
@@ -151,7 +109,7 @@ TEST_P(Computers, WhatWasReportedSurvivesAnyDeath) {
       EXPECT_EQ(onServer ? "ok" : integrity(folder), "ok");
     }
   }
-  EXPECT_GT(reported.size(), 100u) << "the deaths should come in the middle of writing";
+  EXPECT_GT(reported.size(), rounds) << "the deaths should come in the middle of writing";
 }
 
 TEST_P(Computers, TwoGreedyWritersBothGetOn) {

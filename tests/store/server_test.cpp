@@ -1,6 +1,8 @@
 // What can happen between a desk and the server, and what the operator is told.
 #include <gmock/gmock.h>
+#include <signal.h>
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <fstream>
@@ -147,6 +149,35 @@ TEST_F(ServerStore, AWalkThatBreaksIsNotTakenForAWholeOne) {
   EXPECT_EQ(walk.get("lsh").text(), "1");
 }
 
+// After a crash the server gives the numbers of transactions that it lost to others.
+TEST_F(ServerStore, AUnitThatACrashTookIsNotTakenForAnotherDesks) {
+  Store store(folder.path()), other(folder.path());
+  RecordSet set(store, "select * from jfjl"), others(other, "select * from jfjl");
+  addRow(others, "0");
+  for (int round = 1; round <= 3; ++round) {
+    const long long saved = store.saved();
+    EXPECT_EQ(faultOf([&] {
+                Unit unit(store);
+                addRow(set, "lost");
+                const std::string victim = database->ask(
+                    "select pid from pg_stat_activity where datname = current_database() and state = 'idle' limit 1");
+                ASSERT_EQ(::kill(std::stoi(victim), SIGKILL), 0);
+                for (bool again = true; again;) {
+                  try {
+                    addRow(others, std::to_string(round));
+                    again = false;
+                  } catch (const StoreError&) {
+                    std::this_thread::sleep_for(50ms);
+                  }
+                }
+                unit.finish();
+              }),
+              Fault::Disconnected);
+    EXPECT_EQ(store.saved(), saved);
+  }
+  EXPECT_EQ(database->ask("select string_agg(lsh, ',' order by row_no) from office.jfjl"), "0,1,2,3");
+}
+
 class ServerWire : public ServerStore {
  protected:
   void SetUp() override {
@@ -155,6 +186,7 @@ class ServerWire : public ServerStore {
     Server through = database->server();
     wire.emplace(folder.path(), through.host);
     through.host = folder.path().string();
+    through.timeout = 1;
     std::ofstream(serverFile(folder.path())) << support::serverFileText(through);
   }
   std::optional<BreakingWire> wire;
@@ -182,13 +214,32 @@ TEST_F(ServerWire, TheServerIsAskedWhatBecameOfASave) {
   EXPECT_EQ(countOnServer(), "2");
 }
 
+TEST_F(ServerWire, AServerThatIsQuietIsGivenUp) {
+  Store store(folder.path());
+  std::vector<bool> told;
+  store.onWait = [&](bool waiting) { told.push_back(waiting); };
+  RecordSet set(store, "select * from jfjl");
+  EXPECT_EQ(set.count(), 0);
+  const auto start = std::chrono::steady_clock::now();
+  wire->breakAt("count", BreakingWire::Break::QuietFromHere);
+  EXPECT_EQ(faultOf([&] { rows(store, "select * from jfjl where xm='a'"); }), Fault::Disconnected);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, 5s);
+  ASSERT_GT(told.size(), 10u) << "the notice is painted while it lasts";
+  EXPECT_EQ(std::ranges::count(told, false), 1);
+  EXPECT_FALSE(told.back());
+  wire->breakAt("insert into unit_tokens", BreakingWire::Break::QuietFromHere);
+  addRow(set, "1");
+  EXPECT_EQ(store.saved(), 1) << "the commit had arrived, only its answer had not";
+  EXPECT_EQ(countOnServer(), "1");
+}
+
 TEST_F(ServerWire, WhatIsNotKnownYetIsToldWithTheNextConnection) {
   for (const auto where : {BreakingWire::Break::BeforeItArrives, BreakingWire::Break::BehindItsAnswer}) {
     const bool saved = where == BreakingWire::Break::BehindItsAnswer;
     const auto engine =
         openPostgres({{folder.path().string(), "", database->server().database, "tests", {}}, "office", 300ms});
     engine->begin();
-    engine->execute("insert into jfjl (lsh) values ('1')");
+    engine->prepare("insert into jfjl (lsh) values ('1')")->step();
     wire->breakAt("commit", where, false);
     EXPECT_EQ(faultOf([&] { engine->commit(); }), Fault::Unsure);
     EXPECT_EQ(faultOf([&] { engine->begin(); }), Fault::Disconnected);
@@ -206,11 +257,14 @@ TEST_F(ServerStore, AnotherComputerWrites) {
   const auto other = bare();
   other->begin();
   std::vector<bool> told;
-  const auto impatient = bare(300ms, [&](bool waiting) { told.push_back(waiting); });
+  const auto changes = [&](bool waiting) {
+    if (told.empty() || told.back() != waiting) told.push_back(waiting);
+  };
+  const auto impatient = bare(300ms, changes);
   EXPECT_EQ(faultOf([&] { impatient->begin(); }), Fault::Busy);
   EXPECT_THAT(told, ElementsAre(true, false));
   told.clear();
-  store.onWait = [&](bool waiting) { told.push_back(waiting); };
+  store.onWait = changes;
   RecordSet set(store, "select * from jfjl");
   EXPECT_EQ(set.count(), 1) << "readers do not wait for a writer";
   EXPECT_THAT(told, ElementsAre());

@@ -50,6 +50,7 @@ class FailingEngine final : public store::Engine {
     behind_->commit();
   }
   void rollback() noexcept override { behind_->rollback(); }
+  bool spoiled() const override { return behind_->spoiled(); }
   bool inTransaction() const override { return behind_->inTransaction(); }
   void committed() override { behind_->committed(); }
   void install() override { behind_->install(); }

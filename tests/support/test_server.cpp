@@ -34,6 +34,10 @@ class Administrator {
     if (PQstatus(connection_.get()) != CONNECTION_OK) throw std::runtime_error(PQerrorMessage(connection_.get()));
   }
   std::string ask(const std::string& sql) {
+    for (int tries = 0; tries < 100 && gone(); ++tries) {  // a test may have made the server crash
+      usleep(50000);
+      PQreset(connection_.get());
+    }
     const std::unique_ptr<PGresult, void (*)(PGresult*)> answer(PQexec(connection_.get(), sql.c_str()), PQclear);
     const auto status = PQresultStatus(answer.get());
     if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) {
@@ -43,6 +47,11 @@ class Administrator {
   }
 
  private:
+  bool gone() {
+    const std::unique_ptr<PGresult, void (*)(PGresult*)> answer(PQexec(connection_.get(), "select 1"), PQclear);
+    return PQstatus(connection_.get()) != CONNECTION_OK;
+  }
+
   std::unique_ptr<PGconn, void (*)(PGconn*)> connection_;
 };
 
@@ -104,7 +113,8 @@ std::string ServerDatabase::ask(const std::string& sql) const { return Administr
 
 std::string serverFileText(const store::Server& server) {
   return "[server]\nhost=" + server.host + "\nport=" + server.port + "\ndatabase=" + server.database +
-         "\nuser=" + server.user + "\npasswordfile=" + server.passwordFile.string() + "\n";
+         "\nuser=" + server.user + "\npasswordfile=" + server.passwordFile.string() +
+         "\ntimeout=" + std::to_string(server.timeout) + "\n";
 }
 
 }  // namespace support
