@@ -2,26 +2,23 @@
 
 #include "base/text.h"
 #include "feesetup/class_name.h"
-#include "kit/rows.h"
 
 namespace feesetup {
 
+using kit::Box;
+using kit::Mode;
 using store::Sql;
 
-Formszbjzl::Formszbjzl(kit::Desk& all) : EditScreen(all, "Formszbjzl", "班级资料编辑") {
+Formszbjzl::Formszbjzl(kit::Desk& all, const kit::Editing& editing)
+    : RecordEdit(all, "Formszbjzl", "班级资料编辑", "bjzl", editing) {
+  zymc.offers("select * from zymcb", "zymc");
   zymc.onPick([this] { proposeClass(); });
+  jsxm.offers("select * from js order by gh", "jsxm");
 }
 
-void Formszbjzl::load() {
-  zymc.setChoices(kit::columnTexts(desk.store, "select * from zymcb", "zymc"));
-  jsxm.setChoices(kit::columnTexts(desk.store, "select * from js order by gh", "jsxm"));
-  EditScreen::load();
-}
-
-void Formszbjzl::remember() {
+void Formszbjzl::shown(store::RecordSet& row) {
   zymc.enable(false);
-  zybh_ = row().get("zybh").trimmed();
-  oldName_ = bjmc.trimmed();
+  zybh_ = row.get("zybh").trimmed();
 }
 
 // The next free code of the major and the name that follows from it.
@@ -50,53 +47,43 @@ std::vector<kit::Rule> Formszbjzl::rules() {
           {&jsxm, kit::longerThan(jsxm, 20), "教师姓名不能大于20个字符 ！　　", "错误提示"},
           {empty, [this] { return zymc.blank() || bjdh.blank() || bjmc.blank(); },
            "专业名称、班级代号及班级名称三项不能为空 ！　　", "错误提示"},
-          {&bjdh, kit::notNumeric(bjdh), "班级代号应该是数字 ！     ", "错误提示"}};
+          {&bjdh, kit::notNumeric(bjdh), "班级代号应该是数字 ！     ", "错误提示"},
+          noQuote(bjmc)};
 }
 
-void Formszbjzl::write(store::RecordSet& target, const std::string& moment) {
-  target.set("zybh", zybh_);
-  target.set("zymc", zymc.trimmed());
-  target.set("bjdh", bjdh.trimmed());
-  target.set("bjmc", bjmc.trimmed());
-  target.set("jsxm", jsxm.trimmed());
-  target.set("bsh", moment);
-  target.update();
+std::vector<kit::Rule> Formszbjzl::guards() {
+  if (EditMode != Mode::Add) return {};
+  const auto stands = [this] {
+    return !rows(Sql("select * from bjzl where bjmc='") + bjmc.trimmed() + "'").empty();
+  };
+  return {{&bjmc, stands, "系统中已存在相同的班级名称 ！     ", "信息提示", Box::Information}};
 }
 
-void Formszbjzl::add() {
-  auto same = rows(Sql("select * from bjzl where bjmc='") + bjmc.trimmed() + "'");
-  if (!same.empty()) {
-    inform("系统中已存在相同的班级名称 ！     ", "信息提示");
-    return bjmc.focus();
-  }
+kit::RecordEdit::Words Formszbjzl::words() {
+  Words words{
+      .modify = {{"您确认要修改记录吗？  "}},
+      .remove = {{"您确认要删除选定的班级记录吗？   ", "警告", Box::AskStop},
+                 {"删除班级将同时删除与该班级有关的所有记录，包括学籍资料、交费记录等，您确认继续吗？    ", "再次警告",
+                  Box::AskStop}},
+      .modified = "选定记录已修改 ！     ",
+      .removed = "选定记录已删除 ！     "};
+  if (changed(bjmc))
+    words.modify.push_back(
+        {"班级名称被修改，这将修改系统中所有该班级的信息，您确认继续吗？   ", "警告", Box::AskStop});
+  return words;
+}
+
+void Formszbjzl::adding(store::RecordSet& row) {
   const base::DateTime moment = desk.clock.now();
-  same.addNew();
-  write(same, moment.date.plain() + " " + moment.timeText());
-  close();
+  row.set("zybh", zybh_);
+  row.set("bsh", moment.date.plain() + " " + moment.timeText());
 }
 
-void Formszbjzl::modify() {
-  const bool renamed = bjmc.trimmed() != oldName_;
-  if (!ask("您确认要修改记录吗？  ", "修改提示")) return;
-  if (renamed && !askStop("班级名称被修改，这将修改系统中所有该班级的信息，您确认继续吗？   ", "警告")) return;
-  store::Unit unit(desk.store);
-  write(row(), now());
-  if (renamed) renameClass(desk.store, oldName_, bjmc.trimmed());
-  unit.finish();
-  inform("选定记录已修改 ！     ", "信息提示");
-  close();
+void Formszbjzl::modifying(store::RecordSet& row) {
+  row.set("bsh", now());
+  if (changed(bjmc)) renameClass(desk.store, former(bjmc), bjmc.trimmed());
 }
 
-void Formszbjzl::remove() {
-  if (!askStop("您确认要删除选定的班级记录吗？   ", "警告")) return;
-  if (!askStop("删除班级将同时删除与该班级有关的所有记录，包括学籍资料、交费记录等，您确认继续吗？    ", "再次警告"))
-    return;
-  store::Unit unit(desk.store);
-  row().remove();
-  deleteClassRows(desk.store, oldName_);
-  unit.finish();
-  inform("选定记录已删除 ！     ", "信息提示");
-  close();
-}
+void Formszbjzl::removing() { deleteClassRows(desk.store, former(bjmc)); }
 
 }  // namespace feesetup

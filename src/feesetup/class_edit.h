@@ -1,35 +1,31 @@
 // Classes are added, changed, renamed and deleted here, with all that carries their name.
 #pragma once
 
-#include "feesetup/edit_screen.h"
+#include "kit/record_edit.h"
 
 namespace feesetup {
 
-class Formszbjzl : public EditScreen {  // 班级资料编辑
+class Formszbjzl : public kit::RecordEdit {  // 班级资料编辑
  public:
-  explicit Formszbjzl(kit::Desk& desk);
-  void load() override;
+  explicit Formszbjzl(kit::Desk& desk, const kit::Editing& editing = {});
 
   kit::Field zymc{*this, "zymc", "专业名称", kit::Entry::Choose};
   kit::Field bjdh{*this, "bjdh", "班级代号"};
   kit::Field bjmc{*this, "bjmc", "班级名称"};
   kit::Field jsxm{*this, "jsxm", "教师姓名", kit::Entry::Pick};
 
- protected:
-  std::vector<Entry> entries() override {
-    return {{zymc, "zymc", 18}, {bjdh, "bjdh", 10}, {bjmc, "bjmc", 24}, {jsxm, "jsxm", 12}};
-  }
-  std::vector<kit::Rule> rules() override;
-  void remember() override;
-  void add() override;
-  void modify() override;
-  void remove() override;
-
  private:
+  std::vector<Bound> bound() override { return {{zymc, 18}, {bjdh, 10}, {bjmc, 24}, {jsxm, 12}}; }
+  std::vector<kit::Rule> rules() override;
+  std::vector<kit::Rule> guards() override;
+  Words words() override;
+  void shown(store::RecordSet& row) override;
+  void adding(store::RecordSet& row) override;
+  void modifying(store::RecordSet& row) override;
+  void removing() override;
+
   void proposeClass();
-  void write(store::RecordSet& target, const std::string& moment);
   std::string zybh_;  // the code of the major shown
-  std::string oldName_;
 };
 
 }  // namespace feesetup

@@ -1,14 +1,14 @@
 // The amount of a class's standard is changed here, or that of the item everywhere, or the term of the rows shown.
 #pragma once
 
-#include "feesetup/edited_row.h"
 #include "kit/screen.h"
 
 namespace feesetup {
 
 class Formszsfbz2 : public kit::Screen {  // 收费标准信息修改
  public:
-  explicit Formszsfbz2(kit::Desk& desk);
+  // shown: the statement of the rows that the grid shows.
+  explicit Formszsfbz2(kit::Desk& desk, std::int64_t row = 0, store::Sql shown = {});
   void load() override;
   kit::Layout layout() override;
 
@@ -22,7 +22,6 @@ class Formszsfbz2 : public kit::Screen {  // 收费标准信息修改
 
  private:
   bool changesTerm() const { return what.chosen() == 1; }
-  store::RecordSet& row() { return editedRow(desk); }
   void show();
   void save();
   void saveTerm();
@@ -30,7 +29,9 @@ class Formszsfbz2 : public kit::Screen {  // 收费标准信息修改
   void saveAmounts();
   void done(const std::string& text);
 
-  std::string term_, item_, amount_;  // of the row that the grid stood on
+  const std::int64_t row_;
+  const store::Sql shown_;
+  std::string term_, item_, amount_;  // of the row
 };
 
 }  // namespace feesetup

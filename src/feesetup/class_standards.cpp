@@ -32,8 +32,11 @@ enum { allClasses = 0, oneMajor = 1 };
 
 }  // namespace
 
-Formszsfbz::Formszsfbz(kit::Desk& all) : Screen(all, "Formszsfbz", "收费标准设置") {
+Formszsfbz::Formszsfbz(kit::Desk& all, kit::Handler written)
+    : Screen(all, "Formszsfbz", "收费标准设置"), written_(std::move(written)) {
   je.rightAligned = true;
+  xq.offers("select xq from sfbzb group by xq order by xq", "xq");
+  sfxmmc.offers("select * from sfxmb order by sfxmbh", "sfxmmc");
   sfxmmc.onPick([this] { pickItem(); });
   scope.onChange([this] { showScope(); });
   confirm.onPress([this] { save(); });
@@ -41,9 +44,7 @@ Formszsfbz::Formszsfbz(kit::Desk& all) : Screen(all, "Formszsfbz", "收费标准
 }
 
 void Formszsfbz::load() {
-  xq.setChoices(kit::columnTexts(desk.store, "select xq from sfbzb group by xq order by xq", "xq"));
   xq.set(base::defaultTerm(desk.clock.today()));
-  sfxmmc.setChoices(kit::columnTexts(desk.store, "select * from sfxmb order by sfxmbh", "sfxmmc"));
   showScope();
   sfxmmc.focus();
 }
@@ -88,9 +89,12 @@ void Formszsfbz::save() {
     replaced = replaced + now.replaced + selection.trimmed();
     classes = classes + selection.trimmed() + (scope.chosen() == oneMajor ? Sql("' order by bjdh") : Sql("'"));
   }
-  auto old = rows(replaced + "'");
-  if (!old.empty() && !ask("存在相同的收费信息！此操作将覆盖原信息，您确认继续吗？  ", "信息提示")) return;
-  if (write(old, classes) > 0) {
+  replaced += "'";
+  const bool stands = !rows(replaced).empty();
+  if (stands && !ask("存在相同的收费信息！此操作将覆盖原信息，您确认继续吗？  ", "信息提示")) return;
+  const long long written = write(replaced, stands, classes);
+  if (written_) written_();
+  if (written > 0) {
     inform("设置完成 ！       ", "信息提示");
     sfxmmc.focus();
   } else if (!now.nobody.empty()) {
@@ -100,22 +104,22 @@ void Formszsfbz::save() {
 }
 
 // The number of classes that got the standard. What stood there before goes even when no class is found.
-long long Formszsfbz::write(store::RecordSet& replaced, const Sql& classes) {
+long long Formszsfbz::write(const Sql& replaced, bool mayReplace, const Sql& classes) {
   store::Unit unit(desk.store);
-  store::forEach(replaced, [](store::RecordSet& row) { row.remove(); });
+  if (!mayReplace && !rows(replaced).empty())
+    throw store::StoreError(store::Fault::RowGone, "其他计算机刚设置了相同的收费信息，请再次点“确认”！");
+  kit::removeEach(desk.store, replaced);
   auto standards = rows("select * from sfbzb");
   auto chosen = rows(classes);
   long long count = 0;
   store::forEach(chosen, [&](store::RecordSet& one) {
-    standards.addNew();
-    standards.set("xq", xq.trimmed());
-    standards.set("zymc", one.get("zymc").trimmed());
-    standards.set("bjmc", one.get("bjmc").trimmed());
-    standards.set("sfxmbh", sfxmbh.trimmed());
-    standards.set("sfxmmc", sfxmmc.trimmed());
-    standards.set("je", base::Money::leading(je.text()));
-    standards.set("bsh", desk.clock.now().plain());
-    standards.update();
+    kit::addRow(standards, {{"xq", xq.trimmed()},
+                            {"zymc", one.get("zymc").trimmed()},
+                            {"bjmc", one.get("bjmc").trimmed()},
+                            {"sfxmbh", sfxmbh.trimmed()},
+                            {"sfxmmc", sfxmmc.trimmed()},
+                            {"je", je.money()},
+                            {"bsh", desk.clock.now().plain()}});
     ++count;
   });
   unit.finish();

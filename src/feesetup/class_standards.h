@@ -1,15 +1,14 @@
 // A fee item's standard is set here for all classes, for those of one major or for one class.
 #pragma once
 
-#include <optional>
-
 #include "kit/screen.h"
 
 namespace feesetup {
 
 class Formszsfbz : public kit::Screen {  // 收费标准设置
  public:
-  explicit Formszsfbz(kit::Desk& desk);
+  // written: what is done after each item, while the screen stays open for the next one.
+  explicit Formszsfbz(kit::Desk& desk, kit::Handler written = {});
   void load() override;
   kit::Layout layout() override;
 
@@ -27,7 +26,8 @@ class Formszsfbz : public kit::Screen {  // 收费标准设置
   void showScope();
   bool valid();
   void save();
-  long long write(store::RecordSet& replaced, const store::Sql& classes);
+  long long write(const store::Sql& replaced, bool mayReplace, const store::Sql& classes);
+  const kit::Handler written_;
 };
 
 }  // namespace feesetup

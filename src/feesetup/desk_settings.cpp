@@ -26,7 +26,7 @@ Formszqt::Formszqt(kit::Desk& all) : Screen(all, "Formszqt", "收费前台设置
     kit::storeSetting(desk, "fpys", wanted);
     fpys.set(kept - 1);
   });
-  qfjz.onDrop([this] { qfjz.setChoices(kit::columnTexts(desk.store, "select * from sfxmb", "sfxmmc")); });
+  qfjz.offers("select * from sfxmb", "sfxmmc");
   todamc1.setChoices({"江西省学校收费专用收据"});
   storeDays.onPress([this] {
     if (!qfts.blank()) storeText("qfts", base::leadingNumber(qfts.trimmed()));

@@ -19,7 +19,9 @@ class Formszqt : public kit::Screen {  // 收费前台设置总控界面
   kit::Field todamc1{*this, "todamc1", "套打样式", kit::Entry::Choose};
   kit::Action storeForm{*this, "storeForm", "默认"};
   kit::Check sfctsz{*this, "sfctsz", "收费前台,加载学生信息后同时调用收费窗口"};
-  kit::Check sfxmmcsz{*this, "sfxmmcsz", "前台收费设置："};
+  kit::Check sfxmmcsz{*this, "sfxmmcsz",
+                      "被选中时，若后台按班级设置收费标准，则收费窗口仅加载学生所在班全部收费项目；"
+                      "若后台按入学形式设置收费标准，收费窗口仅加载该入学形式全部收费项目"};
   kit::Check qfmr{*this, "qfmr", "收费前台,收费窗口加载欠费信息时到期记录默认选中"};
   kit::Check jfjljz{*this, "jfjljz", "打开后台 [ 交费记录总控界面 ] 时,加载全部数据"};
   kit::Check qfcejz{*this, "qfcejz", "当收费窗口此项目应收与实收不符时，自动调用欠费录入窗口"};

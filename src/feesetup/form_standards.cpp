@@ -21,7 +21,10 @@ void StandardLine::clear() {
   je.clear();
 }
 
-Formszsfbz3::Formszsfbz3(kit::Desk& all) : Screen(all, "Formszsfbz3", "收费标准设置") {
+Formszsfbz3::Formszsfbz3(kit::Desk& all, const kit::Editing& editing, kit::Handler written)
+    : Screen(all, "Formszsfbz3", "收费标准设置"),
+      modifies_(editing.EditMode == kit::Mode::Modify),
+      written_(std::move(written)) {
   for (StandardLine& line : lines) {
     line.sfxmmc.onChange([&line] {
       if (line.sfxmmc.blank()) line.je.clear();
@@ -30,16 +33,15 @@ Formszsfbz3::Formszsfbz3(kit::Desk& all) : Screen(all, "Formszsfbz3", "收费标
     // Enter on an empty line: the lines are done.
     line.sfxmmc.onEnter([this, &line] { line.sfxmmc.blank() ? confirm.focus() : line.je.focus(); });
   }
+  xq.offers("select xq from sfbzbrxxs group by xq order by xq", "xq");
+  rxxs.offers("select * from rxxs", "rxxs");
   rxxs.onPick([this] { loadForm(); });
   confirm.onPress([this] { save(); });
   cancel.onPress([this] { close(); });
 }
 
 void Formszsfbz3::load() {
-  modifies_ = desk.session.EditMode == kit::Mode::Modify;
-  xq.setChoices(kit::columnTexts(desk.store, "select xq from sfbzbrxxs group by xq order by xq", "xq"));
   xq.set(base::defaultTerm(desk.clock.today()));
-  rxxs.setChoices(kit::columnTexts(desk.store, "select * from rxxs", "rxxs"));
   const auto items = kit::columnTexts(desk.store, "select * from sfxmb order by sfxmbh", "sfxmmc");
   for (StandardLine& line : lines) line.sfxmmc.setChoices(items);
   rxxs.focus();
@@ -54,12 +56,22 @@ void Formszsfbz3::loadForm() {
     inform("不存在需要修改的记录 ！　　", "信息提示");
     return rxxs.clear();
   }
+  shown_ = standing();
   for (StandardLine& line : lines) {
     if (standards.atEnd()) break;
     line.sfxmmc.set(standards.get("sfxmmc").trimmed());
     line.je.set(standards.get("je").money().fixed2());
     standards.next();
   }
+}
+
+std::string Formszsfbz3::standing() {
+  std::string all;
+  auto standards = rows(Sql("select * from sfbzbrxxs where rxxs='") + rxxs.trimmed() + "'");
+  store::forEach(standards, [&](store::RecordSet& row) {
+    for (const char* column : {"xq", "sfxmmc", "je"}) all += row.get(column).trimmed() + "\n";
+  });
+  return all;
 }
 
 std::vector<kit::Rule> Formszsfbz3::rules() {
@@ -81,6 +93,7 @@ void Formszsfbz3::save() {
   if (!kit::holds(desk.person, rules())) return;
   if (modifies_ && !ask("此操作将覆盖原有的记录,您确认继续吗？    ", "操作提示")) return;
   write();
+  if (written_) written_();
   inform(modifies_ ? "收费标准修改成功 ！      " : "收费标准设置成功！      ", "信息提示");
   rxxs.focus();
 }
@@ -88,19 +101,19 @@ void Formszsfbz3::save() {
 // Rows come back in the order in which they are stored, so the lines are the order of the fee window.
 void Formszsfbz3::write() {
   store::Unit unit(desk.store);
+  if (modifies_ && standing() != shown_) throw kit::changedMeanwhile(rxxs.trimmed() + "的收费标准");
   kit::removeEach(desk.store, Sql("select * from sfbzbrxxs where rxxs='") + rxxs.trimmed() + "'");
   auto standards = rows("select * from sfbzbrxxs");
   for (const StandardLine& line : lines) {
     if (line.je.blank()) continue;
-    standards.addNew();
-    standards.set("xq", xq.trimmed());
-    standards.set("rxxs", rxxs.trimmed());
-    standards.set("sfxmbh", "");
-    standards.set("sfxmmc", line.sfxmmc.trimmed());
-    standards.set("je", base::Money::leading(line.je.text()));
-    standards.set("bsh", desk.clock.now().plain());
-    standards.update();
+    kit::addRow(standards, {{"xq", xq.trimmed()},
+                            {"rxxs", rxxs.trimmed()},
+                            {"sfxmbh", ""},
+                            {"sfxmmc", line.sfxmmc.trimmed()},
+                            {"je", line.je.money()},
+                            {"bsh", desk.clock.now().plain()}});
   }
+  shown_ = standing();
   unit.finish();
 }
 

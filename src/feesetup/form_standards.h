@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "kit/editing.h"
 #include "kit/screen.h"
 #include "kit/validation.h"
 
@@ -21,7 +22,7 @@ struct StandardLine {
 
 class Formszsfbz3 : public kit::Screen {  // 收费标准设置
  public:
-  explicit Formszsfbz3(kit::Desk& desk);
+  explicit Formszsfbz3(kit::Desk& desk, const kit::Editing& editing = {}, kit::Handler written = {});
   void load() override;
   kit::Layout layout() override;
 
@@ -39,7 +40,10 @@ class Formszsfbz3 : public kit::Screen {  // 收费标准设置
   std::vector<kit::Rule> rules();
   void save();
   void write();
-  bool modifies_ = false;
+  std::string standing();  // what the form's standards are now
+  const bool modifies_;
+  const kit::Handler written_;
+  std::string shown_;  // what they were when they were loaded
 };
 
 }  // namespace feesetup

@@ -5,9 +5,11 @@
 
 namespace feesetup {
 
+using kit::Mode;
 using store::Sql;
 
-Formszzymc::Formszzymc(kit::Desk& all) : EditScreen(all, "Formszzymc", "专业及班级分类编辑") {}
+Formszzymc::Formszzymc(kit::Desk& all, const kit::Editing& editing)
+    : RecordEdit(all, "Formszzymc", "专业及班级分类编辑", "zymcb", editing) {}
 
 void Formszzymc::propose() {
   zymc.focus();
@@ -22,53 +24,48 @@ std::vector<kit::Rule> Formszzymc::rules() {
           {&zymc, kit::longerThan(zymc, 30), "专业名称不能大于30个字符 ！　　", "错误提示"},
           {zybh.blank() ? &zybh : &zymc, [this] { return zybh.blank() || zymc.blank(); },
            "专业编号与专业名称均不能为空 ！　　", "错误提示"},
-          {&zybh, kit::notNumeric(zybh), "请输入数字 ！     ", "错误提示"}};
+          {&zybh, kit::notNumeric(zybh), "请输入数字 ！     ", "错误提示"},
+          noQuote(zymc)};
+}
+
+kit::RecordEdit::Words Formszzymc::words() {
+  return {.modify = {{"您确认要修改记录吗？  "}},
+          .remove = {{"您确认要删除选定记录吗？   ", "删除提示"}},
+          .modified = "选定记录已修改 ！     ",
+          .removed = "选定记录已删除 ！     "};
 }
 
 // A repeated code or name is let through: schools run two groups of one major side by side.
-void Formszzymc::add() {
-  store::Unit unit(desk.store);
+void Formszzymc::adding(store::RecordSet& row) {
   auto majors = rows("select * from zymcb");
   double id = 1;
   if (!majors.empty()) {
     majors.last();
     id = majors.get("id").number() + 1;
   }
-  majors.addNew();
-  majors.set("id", id);
-  majors.set("zybh", zybh.trimmed());
-  majors.set("zymc", zymc.trimmed());
-  majors.set("bsh", now());
-  majors.update();
-  unit.finish();
-  close();
+  row.set("id", id);
+  row.set("bsh", now());
 }
 
 // The code stays as it is: class codes and system numbers begin with it.
 void Formszzymc::modify() {
-  if (!ask("您确认要修改记录吗？  ", "修改提示")) return;
-  const std::string name = zymc.trimmed();
-  store::Unit unit(desk.store);
-  row().set("zymc", name);
-  row().update();
-  if (name != oldName_) kit::setEach(desk.store, Sql("select * from bjzl where zymc='") + oldName_ + "'", "zymc", name);
-  unit.finish();
-  inform("选定记录已修改 ！     ", "信息提示");
-  close();
+  zybh.set(former(zybh));
+  RecordEdit::modify();
 }
 
-void Formszzymc::remove() {
-  if (!ask("您确认要删除选定记录吗？   ", "删除提示")) return;
+void Formszzymc::modifying(store::RecordSet&) {
+  if (changed(zymc))
+    kit::setEach(desk.store, Sql("select * from bjzl where zymc='") + former(zymc) + "'", "zymc", zymc.trimmed());
+}
+
+std::vector<kit::Rule> Formszzymc::guards() {
+  if (EditMode != Mode::Delete) return {};
   // The student records have no column stbh, so the store refuses this question and the major stays: a guard that is
   // always shut, kept until the office has decided what may become of a major's students and classes.
-  if (!rows(Sql("select * from xs where left(stbh,2)='") + zybh.trimmed() + "'").empty())
-    return inform("该专业已被学生信息引用,您不能删除它 ！     ", "信息提示");
-  store::Unit unit(desk.store);
-  row().remove();
-  renumberMajors(desk.store);
-  unit.finish();
-  inform("选定记录已删除 ！     ", "信息提示");
-  close();
+  const auto inUse = [this] {
+    return !rows(Sql("select * from xs where left(stbh,2)='") + zybh.trimmed() + "'").empty();
+  };
+  return {{nullptr, inUse, "该专业已被学生信息引用,您不能删除它 ！     ", "信息提示", kit::Box::Information}};
 }
 
 void renumberMajors(store::Store& store) {

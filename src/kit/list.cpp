@@ -164,13 +164,6 @@ void Grid::reload() {
   selectMark(before);
 }
 
-store::RecordSet* Grid::current() {
-  const std::int64_t wanted = mark();
-  bool there = false;
-  if (wanted != 0) set_.visit(std::span(&wanted, 1), [&](bool found) { there = found; });
-  return there ? &set_ : nullptr;
-}
-
 Tree::Tree(Screen& screen, std::string own) : Member(screen, MemberKind::Tree, std::move(own)) {}
 
 void Tree::set(std::vector<TreeNode> nodes) {

@@ -99,7 +99,6 @@ class Grid : public List {
   Grid(Screen& screen, std::string name, store::Store& store, std::vector<ListColumn> columns, std::string label = "");
   void open(const store::Sql& sql);  // shows the set; nothing is selected
   void reload();                     // runs the statement again and goes back to the row that was selected
-  store::RecordSet* current();       // the set at the selected row; null when none is selected or it is gone meanwhile
   store::RecordSet& rows() { return set_; }
 
  private:

@@ -33,13 +33,24 @@ void RecordDesk::open() {
   for (std::size_t i = 0; i < others.size(); ++i) others[i].enable(mayAny(desk_, plan.others[i].anyOf));
   if (query) query->enable(mayAny(desk_, plan.queryBy));
   if (clearAll) clearAll->enable(mayAny(desk_, plan.emptying->anyOf));
+  asked_ = false;
   show({});
 }
 
 void RecordDesk::show(Filter filter) {
   filter_ = std::move(filter);
-  list.open(Sql::table(plan.table) + " " + (filter_.where.empty() ? plan.order : filter_.where));
+  list.open(statement());
   showCount();
+}
+
+Sql RecordDesk::statement() const {
+  return Sql::table(plan.table) + " " + (filter_.where.empty() ? plan.order : filter_.where);
+}
+
+void RecordDesk::setVisible(bool on) {
+  list.show(on);
+  for (std::deque<Action>* some : {&buttons, &others})
+    for (Action& one : *some) one.show(on);
 }
 
 void RecordDesk::reload() {
@@ -67,7 +78,7 @@ Node RecordDesk::shown() { return count ? column({*count, list}) : Node(list); }
 
 void RecordDesk::showCount() {
   if (!count) return;
-  const char* words = filter_.where.empty() || !plan.countedByFilter ? plan.counted : plan.countedByFilter;
+  const char* words = !asked_ || !plan.countedByFilter ? plan.counted : plan.countedByFilter;
   count->set(words + base::caption(list.count()));
 }
 
@@ -75,7 +86,7 @@ void RecordDesk::edit(const RowButton& button) {
   Editing editing{button.mode, 0};
   if (button.mode != Mode::Add) {
     if (list.count() == 0) return desk_.person.tell(button.noneBox, button.none, "信息提示");
-    if (list.selected() < 0) return;
+    if (list.selected() < 0) return reload();
     editing.row = list.mark();
     if (!standsStill(desk_.store, plan.table, editing.row)) {
       reload();
@@ -83,7 +94,7 @@ void RecordDesk::edit(const RowButton& button) {
     }
   }
   openEditor_(editing);
-  reload();
+  edited_ ? edited_() : reload();
 }
 
 // All rows, whatever the list is filtered by.

@@ -54,11 +54,15 @@ class RecordDesk {
     openEditor_ = [this](const Editing& editing) { desk_.navigator.open<Editor>(desk_, editing); };
   }
   void editedBy(std::function<void(const Editing&)> open) { openEditor_ = std::move(open); }
+  void onEdited(Handler handler) { edited_ = std::move(handler); }  // instead of reading this list alone again
   // The screen that asks what the list is to hold; its answer is a Filter, or nothing.
   template <class Query> void queriedIn() {
     query.emplace(screen_, prefix_ + "query", "查询", "search");
     query->onPress([this] {
-      if (auto answer = desk_.navigator.open<Query>(desk_)) show(std::move(*answer));
+      auto answer = desk_.navigator.open<Query>(desk_);
+      if (!answer) return;
+      asked_ = true;
+      show(std::move(*answer));
     });
   }
 
@@ -66,6 +70,8 @@ class RecordDesk {
   void show(Filter filter);    // nothing is selected then
   void reload();               // goes back to the row that was selected
   const Filter& filter() const { return filter_; }
+  store::Sql statement() const;  // of the rows in sight
+  void setVisible(bool on);      // the list with its buttons
   Action& button(std::string_view name);
   Nodes actions();             // in the order of the plan
   Node shown();                // the count above the list
@@ -84,7 +90,9 @@ class RecordDesk {
   Desk& desk_;
   const std::string prefix_;
   Filter filter_;
+  bool asked_ = false;  // by a query, if only for all rows
   std::function<void(const Editing&)> openEditor_;
+  Handler edited_;
 };
 
 }  // namespace kit

@@ -65,14 +65,16 @@ std::string RecordEdit::former(const Field& field) const {
 
 bool RecordEdit::changed(const Field& field) const { return EditMode == Mode::Add || field.trimmed() != former(field); }
 
+void RecordEdit::mustStandAsShown(store::RecordSet& set, const Bound& one) {
+  const std::string now = base::trim(formatted(set.get(columnOf(one.field, one.column)), one.format));
+  if (now != former(one.field)) throw changedMeanwhile(base::trim(one.field.label()));
+}
+
 void RecordEdit::write(store::RecordSet& set) {
   for (const Bound& one : bound()) {
     if (!changed(one.field)) continue;
-    const std::string column = columnOf(one.field, one.column);
-    if (EditMode == Mode::Modify && base::trim(formatted(set.get(column), one.format)) != former(one.field))
-      throw store::StoreError(store::Fault::RowGone, "“" + base::trim(one.field.label()) +
-                                                         "”已被其他计算机修改，请撤销后重新打开该记录再修改！");
-    set.set(column, stored(one.field, one.format));
+    if (EditMode == Mode::Modify) mustStandAsShown(set, one);
+    set.set(columnOf(one.field, one.column), stored(one.field, one.format));
   }
 }
 
@@ -85,42 +87,50 @@ void RecordEdit::act() {
   }
 }
 
-bool RecordEdit::agreed(const Question& question) {
-  return question.text.empty() || desk.person.ask(question.box, question.text, question.title);
+bool RecordEdit::agreed(const std::vector<Question>& questions) {
+  return std::ranges::all_of(
+      questions, [this](const Question& one) { return desk.person.ask(one.box, one.text, one.title); });
 }
 
-void RecordEdit::add() {
-  store::Unit unit(desk.store);
-  store::RecordSet set = rows(store::Sql::table(table_));
-  set.addNew();
-  write(set);
-  adding(set);
-  set.update();
-  unit.finish();
-  done(words().added);
+Rule RecordEdit::noQuote(Field& field) {
+  return {&field, [this, &field] { return changed(field) && holdsQuote(field)(); }, quoteRefused, "错误提示"};
 }
 
 void RecordEdit::modify() {
-  const Words say = words();
-  if (!agreed(say.modify)) return;
-  store::Unit unit(desk.store);
-  store::RecordSet set = row();
-  write(set);
-  modifying(set);
-  set.update();
-  unit.finish();
-  done(say.modified);
+  if (agreed(words().modify)) save();
 }
 
 void RecordEdit::remove() {
+  if (agreed(words().remove)) save();
+}
+
+void RecordEdit::save() {
+  const std::vector<Rule> guarded = guards();
+  const Rule* refused = nullptr;
+  {
+    store::Unit unit(desk.store);
+    store::RecordSet set = EditMode == Mode::Add ? rows(store::Sql::table(table_)) : row();
+    refused = broken(guarded);
+    if (!refused) {
+      put(set);
+      unit.finish();
+    }
+  }
+  if (refused) return tell(desk.person, *refused);
   const Words say = words();
-  if (!agreed(say.remove)) return;
-  store::Unit unit(desk.store);
-  store::RecordSet set = row();
-  removing(set);
-  set.remove();
-  unit.finish();
-  done(say.removed);
+  done(EditMode == Mode::Add ? say.added : EditMode == Mode::Modify ? say.modified : say.removed);
+}
+
+void RecordEdit::put(store::RecordSet& set) {
+  if (EditMode == Mode::Delete) {
+    for (const Bound& one : bound()) mustStandAsShown(set, one);
+    set.remove();
+    return removing();
+  }
+  if (EditMode == Mode::Add) set.addNew();
+  write(set);
+  EditMode == Mode::Add ? adding(set) : modifying(set);
+  set.update();
 }
 
 // The window closes as soon as the row is in, whatever the person does with the words.

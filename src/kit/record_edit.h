@@ -27,9 +27,9 @@ class RecordEdit : public Screen {
     std::string text, title = "修改提示";
     Box box = Box::Ask;
   };
-  struct Words {  // an empty text is not asked or told
-    Question modify, remove;
-    std::string added, modified, removed;
+  struct Words {  // an empty text is not told
+    std::vector<Question> modify{}, remove{};  // asked one after the other
+    std::string added{}, modified{}, removed{};
   };
 
   virtual std::vector<Bound> bound() = 0;
@@ -37,14 +37,21 @@ class RecordEdit : public Screen {
   virtual Words words() { return {}; }
   virtual void propose() {}                   // fills the fields of a row to be added
   virtual void shown(store::RecordSet&) {}    // the row's fields are filled; notes what else it holds
+  // Looked at inside the unit before it writes: what fails is told when the unit is over, and nothing was saved.
+  virtual std::vector<Rule> guards() { return {}; }
   // Inside the unit that writes, before the row itself: what goes with it in other tables, what no field holds.
   virtual void adding(store::RecordSet&) {}
   virtual void modifying(store::RecordSet&) {}
-  virtual void removing(store::RecordSet&) {}
+  virtual void removing() {}  // after the row: `former` tells what it held
   // By default: asks, does it in one unit, closes, tells.
-  virtual void add();
+  virtual void add() { save(); }
   virtual void modify();
   virtual void remove();
+  bool agreed(const std::vector<Question>& questions);
+  void save();  // what the screen is open for, without asking
+
+  // For a name that is entered here; a name of old that holds an apostrophe can still be deleted.
+  Rule noQuote(Field& field);
 
   store::RecordSet row();                     // as it stands now; raises Fault::RowGone
   bool changed(const Field& field) const;     // by the person, since the row was shown
@@ -60,7 +67,8 @@ class RecordEdit : public Screen {
  private:
   void show(store::RecordSet& row);
   void act();
-  bool agreed(const Question& question);
+  void put(store::RecordSet& row);
+  void mustStandAsShown(store::RecordSet& row, const Bound& one);
   const char* const table_;
   const std::int64_t mark_;
   std::vector<std::pair<const Field*, std::string>> former_;

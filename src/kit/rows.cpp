@@ -51,6 +51,10 @@ bool standsStill(store::Store& store, std::string_view table, std::int64_t mark)
   return goTo(set, mark);
 }
 
+store::StoreError changedMeanwhile(const std::string& what) {
+  return {store::Fault::RowGone, "“" + what + "”已被其他计算机修改，请撤销后重新打开该记录再操作！"};
+}
+
 namespace {
 
 // Beyond fifteen digits the office's step through a number stands still; then its text goes on.

@@ -26,6 +26,8 @@ void addRow(store::RecordSet& set, const std::vector<std::pair<std::string_view,
 store::RecordSet rowAt(store::Store& store, std::string_view table, std::int64_t mark);
 // The same without the words: false when it is gone.
 bool standsStill(store::Store& store, std::string_view table, std::int64_t mark);
+// What is told instead of writing over what another desk has changed since it was shown.
+store::StoreError changedMeanwhile(const std::string& what);
 
 // `count` numbers from `first` on, one after the other; those that stand in the column already are passed over, so that
 // no two rows of a ledger ever bear one number. Good only inside the unit of work that writes them.

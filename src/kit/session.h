@@ -37,16 +37,11 @@ struct Session {
 
   bool first_user_added = false;  // the first-run screen did its work; the program starts anew for the login
 
-  // What an edit screen is opened for, and the record set whose current row it works on (null: none).
-  Mode EditMode = Mode::Add;
-  store::RecordSet* edited = nullptr;
-
-  // The class or enrolment form that the setup's fee standards are filtered by; empty: all are shown.
-  std::string standard_filter;
+  Mode EditMode = Mode::Add;  // what an edit screen is opened for
 
   // The console.
   Panel ConsolePanel = Panel::None;
-  std::string student_selection, payment_selection, arrears_selection;
+  std::string payment_selection, arrears_selection;
   std::string summary_xh;  // the student whose payments the summary adds up
   int payment_list_mode = 5;
 

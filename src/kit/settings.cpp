@@ -22,7 +22,7 @@ enum class Form {
 struct Setting {
   std::string_view column;
   Form form;
-  std::variant<bool Session::*, int Session::*, std::string Session::*> copy;
+  std::variant<bool Session::*, int Session::*, std::string Session::*, std::monostate> copy;
 };
 
 // In the order in which the record is copied.
@@ -33,7 +33,7 @@ const Setting settings[] = {
     {"fpys", Form::Layout, &Session::receipt_style},        {"todamc1", Form::Title, &Session::custom_form},
     {"zdqh", Form::YesNo, &Session::switch_layout},         {"qfjz", Form::Name, &Session::arrears_item},
     {"qfts", Form::Days, &Session::reminder_days},          {"qfcejz", Form::YesNo, &Session::shortfall_opens_arrears},
-    {"bjsf1", Form::YesNo, &Session::standard_basis_class},
+    {"bjsf1", Form::YesNo, &Session::standard_basis_class}, {"xssf", Form::One, std::monostate()},
 };
 
 const Setting& settingOf(std::string_view column) {
@@ -44,6 +44,7 @@ const Setting& settingOf(std::string_view column) {
 }
 
 void copy(Session& session, const Setting& setting, const store::Value& value) {
+  if (std::holds_alternative<std::monostate>(setting.copy)) return;
   constexpr double century = 36500;  // days beyond it mean nothing, and would not fit a date
   switch (setting.form) {
     case Form::One: session.*std::get<bool Session::*>(setting.copy) = value.number() == 1; break;
@@ -99,6 +100,11 @@ bool storeSetting(Desk& desk, std::string_view column, const store::Value& value
   unit.finish();
   copy(desk.session, setting, stored);
   return true;
+}
+
+bool settingIsOn(Desk& desk, std::string_view column) {
+  store::RecordSet row = configuration(desk);
+  return !row.empty() && row.get(column).number() == 1;
 }
 
 bool Session::*flagOf(std::string_view column) { return std::get<bool Session::*>(settingOf(column).copy); }

@@ -20,6 +20,9 @@ bool loadStandardBasis(Desk& desk);
 // was done.
 bool storeSetting(Desk& desk, std::string_view column, const store::Value& value);
 
+// Whether a setting that has no copy in the session is on in the record.
+bool settingIsOn(Desk& desk, std::string_view column);
+
 // The session's copy of a setting that is on or off.
 bool Session::*flagOf(std::string_view column);
 

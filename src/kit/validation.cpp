@@ -1,5 +1,7 @@
 #include "kit/validation.h"
 
+#include <algorithm>
+
 #include "base/date.h"
 #include "base/text.h"
 
@@ -34,14 +36,20 @@ std::function<bool()> holdsQuote(const Field& field) {
   return [&field] { return field.text().find('\'') != std::string::npos; };
 }
 
+const Rule* broken(const std::vector<Rule>& rules) {
+  const auto found = std::ranges::find_if(rules, [](const Rule& rule) { return rule.fails(); });
+  return found == rules.end() ? nullptr : &*found;
+}
+
+void tell(Person& person, const Rule& rule) {
+  person.tell(rule.box, rule.text, rule.title);
+  if (rule.field) rule.field->focus();
+}
+
 bool holds(Person& person, const std::vector<Rule>& rules) {
-  for (const Rule& rule : rules) {
-    if (!rule.fails()) continue;
-    person.tell(rule.box, rule.text, rule.title);
-    if (rule.field) rule.field->focus();
-    return false;
-  }
-  return true;
+  const Rule* rule = broken(rules);
+  if (rule) tell(person, *rule);
+  return !rule;
 }
 
 }  // namespace kit

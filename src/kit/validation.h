@@ -32,7 +32,9 @@ std::function<bool()> filledNotDate(const Field& field);     // blank passes
 std::function<bool()> holdsQuote(const Field& field);
 constexpr const char* quoteRefused = "名称中不能含有单引号（'），请改用中文引号！     ";
 
-// True when every rule holds.
+const Rule* broken(const std::vector<Rule>& rules);  // the first that does not hold; null when all do
+void tell(Person& person, const Rule& rule);         // its message; the focus goes into its field
+// True when every rule holds; else the first that does not was told.
 bool holds(Person& person, const std::vector<Rule>& rules);
 
 }  // namespace kit

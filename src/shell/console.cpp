@@ -13,7 +13,6 @@
 #include "shell/about.h"
 #include "shell/rights.h"
 #include "students/class_transfer_window.h"
-#include "students/student_edit.h"
 #include "students/suspension_list.h"
 #include "upkeep/clearing.h"
 #include "upkeep/password_change.h"
@@ -98,8 +97,8 @@ void Formzct::wireToolbar() {
   k5.onPress([this] {
     if (!may(desk, NewStudent)) return;
     closeOverviews();
-    desk.session.EditMode = kit::Mode::Add;
-    open<students::Formzctxs>();
+    if (auto current_xh = open<students::Formzctxs>(kit::Editing{}, collectFrom()))
+      desk.session.current_xh = std::move(*current_xh);
     showStudent();
   });
   k20.onPress([this] {

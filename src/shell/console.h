@@ -5,6 +5,7 @@
 #include "shell/console_front.h"
 #include "shell/console_menu.h"
 #include "shell/console_overview.h"
+#include "students/student_edit.h"
 
 namespace shell {
 
@@ -56,6 +57,7 @@ class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
   void redrawLists();
   void refreshCard();
   void openFeeWindow();
+  students::Formzctxs::Collect collectFrom();
   void openFeeWindowFor(kit::List& list, const char* table);
   void summarise(kit::List& list, const char* table);
   void pickFromClass();

@@ -13,7 +13,6 @@
 #include "kit/rows.h"
 #include "shell/console.h"
 #include "shell/rights.h"
-#include "students/student_edit.h"
 #include "students/student_query.h"
 #include "students/student_view.h"
 
@@ -36,8 +35,7 @@ void Formzct::wireOverviews() {
   students_overview.button("删除").onPress([this] { editStudent(kit::Mode::Delete); });
   students_overview.button("浏览").onPress([this] {
     if (students_overview.list.selected() < 0) return inform("前台无记录或您没有选中要浏览的学生！     ", "信息提示");
-    desk.session.student_selection = students_overview.list.key();
-    open<students::Formzctxsll>();
+    open<students::Formzctxsll>(students_overview.list.mark());
   });
   payments_overview.list.setTip("双击选定记录修改");
   kit::Action& modifyPayment = payments_overview.button("修改");
@@ -165,12 +163,8 @@ store::Sql Formzct::keyedHere() const { return Sql(" where bsh='") + base::trim(
 
 void Formzct::editStudent(kit::Mode mode) {
   if (mode != kit::Mode::Add && students_overview.list.selected() < 0) return;
-  desk.session.student_selection = students_overview.list.key();
-  desk.session.EditMode = mode;
-  const auto keyed = [this] { return rows(Sql("select * from xs") + keyedHere()).count(); };
-  const long long before = mode == kit::Mode::Add ? keyed() : 0;
-  open<students::Formzctxs>();
-  if (mode == kit::Mode::Add && keyed() > before) students_overview.filter = {keyedHere()};
+  const kit::Editing editing{mode, students_overview.list.mark(), kit::Panel::Students};
+  if (open<students::Formzctxs>(editing, collectFrom())) students_overview.filter = {keyedHere()};
   fillAgain(students_overview);
 }
 

@@ -176,6 +176,15 @@ void Formzct::refreshCard() {
   if (!xh.empty()) showStudent();
 }
 
+// The way from a new student to the fee window.
+students::Formzctxs::Collect Formzct::collectFrom() {
+  return [this](const std::string& current_xh) {
+    desk.session.current_xh = current_xh;
+    desk.session.fee_normal_mode = true;
+    open<collection::Formzctsf4>();
+  };
+}
+
 void Formzct::openFeeWindow() {
   desk.session.fee_normal_mode = true;
   open<collection::Formzctsf4>();

@@ -9,10 +9,15 @@
 
 namespace students {
 
-// Moves each name of the class, in order, in one unit of work; their system numbers follow the last one of the
-// to-class. Names that the class does not have are passed over. visit hears each name before its rows are written.
+struct Mover {  // a student who was ticked
+  std::int64_t row;
+  std::string xm;
+};
+
+// Moves the students, in order, in one unit of work; their system numbers follow the last one of the to-class. visit
+// hears each name before its rows are written. Raises a StoreError in words, and moves nobody, when the to-class is
+// gone or a student is no longer in the from-class.
 void transferStudents(store::Store& store, const std::string& fromClass, const std::string& toClass,
-                      const std::vector<std::string>& names,
-                      const std::function<void(const std::string& name)>& visit = {});
+                      const std::vector<Mover>& movers, const std::function<void(const std::string& name)>& visit = {});
 
 }  // namespace students

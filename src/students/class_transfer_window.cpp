@@ -5,7 +5,6 @@
 #include "kit/at_exit.h"
 #include "kit/notice.h"
 #include "kit/rows.h"
-#include "students/class_transfer.h"
 #include "students/student_records.h"
 
 namespace students {
@@ -18,6 +17,7 @@ constexpr const char* untick = "全不选";
 Formtb::Formtb(kit::Desk& all) : Screen(all, "Formtb", "学生调班转班事务处理窗口") {
   for (std::size_t index = 0; index < mostStudents; ++index)
     boxes.emplace_back(*this, "student" + std::to_string(index), "");
+  for (kit::Field* field : {&fromClass, &toClass}) field->offers("select * from bjzl", "bjmc");
   fromClass.onPick([this] { chooseFrom(); });
   toClass.onPick([this] { chooseTo(); });
   tickAll.onPress([this] { toggleAll(); });
@@ -30,25 +30,24 @@ Formtb::Formtb(kit::Desk& all) : Screen(all, "Formtb", "学生调班转班事务
 }
 
 void Formtb::load() {
-  const auto names = kit::columnTexts(desk.store, "select * from bjzl", "bjmc");
-  fromClass.setChoices(names);
-  toClass.setChoices(names);
   showStudents();
 }
 
 void Formtb::showStudents() {
-  std::vector<std::string> names;
-  if (!fromClass.blank())
-    names = kit::columnTexts(desk.store, Sql("select * from xs where bjmc='") + fromClass.text() + "'", "xm");
+  listed_.clear();
+  if (!fromClass.blank()) {
+    auto students = rows(Sql("select * from xs where bjmc='") + fromClass.text() + "'");
+    store::forEach(students, [&](store::RecordSet& row) { listed_.push_back({row.mark(), row.get("xm").trimmed()}); });
+  }
   for (std::size_t index = 0; index < boxes.size(); ++index) {
-    const bool there = index < names.size();
+    const bool there = index < listed_.size();
     boxes[index].set(false);
-    boxes[index].setCaption(there ? names[index] : "");
+    boxes[index].setCaption(there ? listed_[index].xm : "");
     boxes[index].show(there);
   }
-  const std::string count = std::to_string(names.size()) + " 名学生";
+  const std::string count = std::to_string(listed_.size()) + " 名学生";
   students.setTitle(fromClass.blank()             ? "请先选择学生现所在班级"
-                    : names.size() > boxes.size() ? count + "，只列出前 " + std::to_string(boxes.size()) + " 名"
+                    : listed_.size() > boxes.size() ? count + "，只列出前 " + std::to_string(boxes.size()) + " 名"
                                                   : count);
   tickAll.setCaption(tick);
 }
@@ -99,19 +98,20 @@ void Formtb::moveOnFrom(const kit::Member& member) {
 void Formtb::transfer() {
   timer.stop();
   const kit::AtExit done([this] { confirm.enable(true); });
-  std::vector<std::string> names;
-  for (const kit::Check& box : boxes)
-    if (box.on()) names.push_back(box.caption());
-  {
+  std::vector<Mover> movers;
+  for (std::size_t index = 0; index < boxes.size(); ++index)
+    if (boxes[index].on()) movers.push_back(listed_[index]);
+  // Also after a refusal: the students are shown as they are now.
+  const bool moved = attempt([&] {
     kit::Notice notice(desk.progress, "正在加载相关设置，请稍等...");
-    long long moved = 0;
-    transferStudents(desk.store, fromClass.text(), toClass.text(), names, [&](const std::string& name) {
-      notice.show("正在处理学生" + name + "的相关信息,请稍等 ...", ++moved, static_cast<long long>(names.size()));
+    long long count = 0;
+    transferStudents(desk.store, fromClass.text(), toClass.text(), movers, [&](const std::string& name) {
+      notice.show("正在处理学生" + name + "的相关信息,请稍等 ...", ++count, static_cast<long long>(movers.size()));
     });
-    showStudents();
-    showTarget();
-  }
-  inform("调班操作成功           ", "信息提示");
+  });
+  showStudents();
+  showTarget();
+  if (moved) inform("调班操作成功           ", "信息提示");
 }
 
 }  // namespace students

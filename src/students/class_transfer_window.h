@@ -4,6 +4,7 @@
 #include <deque>
 
 #include "kit/screen.h"
+#include "students/class_transfer.h"
 
 namespace students {
 
@@ -34,6 +35,7 @@ class Formtb : public kit::Screen {  // 学生调班转班事务处理窗口
   void showTarget();
   void toggleAll();
   void transfer();
+  std::vector<Mover> listed_;  // of each box; those beyond the boxes too
 };
 
 }  // namespace students

@@ -1,17 +1,17 @@
 #include "students/student_edit.h"
 
 #include "base/text.h"
-#include "collection/fee_window.h"
 #include "kit/rows.h"
+#include "kit/settings.h"
 #include "students/identity_number.h"
 
 namespace students {
 
 using kit::Mode;
-using store::Connection;
 using store::RecordSet;
 
-Formzctxs::Formzctxs(kit::Desk& all) : Screen(all, "Formzctxs", "学生学籍资料编辑"), mode_(all.session.EditMode) {
+Formzctxs::Formzctxs(kit::Desk& all, const kit::Editing& editing, Collect collect)
+    : Screen(all, "Formzctxs", "学生学籍资料编辑"), editing_(editing), collect_(std::move(collect)) {
   xh.onEnter([this] {
     if (!xh.blank()) return moveOnFrom(xh);
     stop("学号是学生的唯一标识，您必须设置好学号！       ", "操作提示");
@@ -23,26 +23,32 @@ Formzctxs::Formzctxs(kit::Desk& all) : Screen(all, "Formzctxs", "学生学籍资
     if (xb.trimmed() == "男" || xb.trimmed() == "女") sex_ = xb.trimmed();
   });
   xb.onLeave([this] { xb.set(sex_); });
-  for (const PickList& list : pickLists()) wirePickList(list);
+  wirePickLists();
   bjmc.onLeave([this] { takeClass(); });
+  csrq.calendarFrom = -eighteenYears;
   csrq.onPick([this] { sfzhm.focus(); });
   rxrq.onPick([this] { zzmm.focus(); });
   sfzhm.onLeave([this] { takeIdentity(); });
   xp.onClick([this] { pickPhoto(); });
   choosePhoto.onPress([this] { pickPhoto(); });
-  xssf.onChange([this] { writeCheckBox(); });
+  xssf.onChange([this] {
+    if (kit::settingIsOn(desk, "xssf") != xssf.on()) kit::storeSetting(desk, "xssf", xssf.on());
+  });
   confirm.onPress([this] {
     xb.set(sex_);
-    mode_ == Mode::Add ? add() : mode_ == Mode::Modify ? change() : remove();
+    EditMode == Mode::Add ? add() : EditMode == Mode::Modify ? change() : remove();
   });
   cancel.onPress([this] { close(); });
 }
 
-std::vector<Formzctxs::PickList> Formzctxs::pickLists() {
-  return {{&bjmc, "select * from bjzl order by bjdh", "bjmc", &mz},
-          {&mz, "select mz from xs group by mz", "mz", &csrq},
-          {&zzmm, "select zzmm from xs group by zzmm order by zzmm", "zzmm", &lxdh},
-          {&rxxs, "select * from rxxs", "rxxs", &sfbz}};
+void Formzctxs::wirePickLists() {
+  bjmc.offers("select * from bjzl order by bjdh", "bjmc");
+  mz.offers("select mz from xs group by mz", "mz");
+  zzmm.offers("select zzmm from xs group by zzmm order by zzmm", "zzmm");
+  rxxs.offers("select * from rxxs", "rxxs");
+  bjmc.onPick([this] { takenClass_.clear(), takeClass(); });
+  for (const auto& [field, next] : {std::pair{&bjmc, &mz}, {&mz, &csrq}, {&zzmm, &lxdh}, {&rxxs, &sfbz}})
+    field->onPick([next] { next->focus(); });
 }
 
 std::vector<std::pair<StudentText, kit::Field*>> Formzctxs::entries() {
@@ -53,52 +59,30 @@ std::vector<std::pair<StudentText, kit::Field*>> Formzctxs::entries() {
           {&Student::bz, &bz},     {&Student::byxx, &byxx}, {&Student::yhkh, &yhkh},   {&Student::zymc, &zymc}};
 }
 
-void Formzctxs::wirePickList(const PickList& list) {
-  list.field->onDrop([this, list] {
-    std::vector<std::string> choices = kit::columnTexts(desk.store, list.source, list.column);
-    std::erase(choices, "");
-    list.field->setChoices(std::move(choices));
-  });
-  list.field->onPick([this, list] {
-    if (list.field == &bjmc) takenClass_.clear(), takeClass();
-    list.next->focus();
-  });
-}
-
 void Formzctxs::load() {
-  readCheckBox();
-  xssf.show(mode_ == Mode::Add);
-  confirm.setCaption(mode_ == Mode::Add ? "添加" : mode_ == Mode::Modify ? "修改" : "删除");
+  xssf.set(kit::settingIsOn(desk, "xssf"));
+  xssf.show(EditMode == Mode::Add);
+  confirm.setCaption(EditMode == Mode::Add ? "添加" : EditMode == Mode::Modify ? "修改" : "删除");
   show(newStudent(desk.clock.today()), "");
-  if (mode_ == Mode::Add) {
+  if (EditMode == Mode::Add) {
     const NumberProposal numbers = proposeNumber(desk.store, desk.clock.today());
     xh.set(numbers.number);
     proposal_ = numbers.proposal;
     return xh.focus();
   }
-  formerXh_ = base::trim(desk.session.student_selection);
-  if (RecordSet row = loadStudent(desk.store, formerXh_); !row.empty()) {
-    former_ = textsOf(row);
-    show(former_, fromBytes(row.get("xp").bytes()));
+  if (!kit::standsStill(desk.store, "xs", editing_.row)) {
+    close();
+    return inform("该生学籍资料已被其他计算机删除！     ", "信息提示");
   }
-  proposal_ = formerXh_;
-  if (mode_ == Mode::Modify) return xh.focus();
+  RecordSet row = kit::rowAt(desk.store, "xs", editing_.row);
+  former_ = textsOf(row);
+  show(former_, fromBytes(row.get("xp").bytes()));
+  proposal_ = former_.xh;
+  if (EditMode == Mode::Modify) return xh.focus();
   for (const auto& [text, field] : entries()) field->enable(false);
   xp.enable(false);
   choosePhoto.enable(false);
   confirm.focus();
-}
-
-void Formzctxs::readCheckBox() {
-  RecordSet settings(desk.store, "select * from morvanedjpzb where fn='kqd'", Connection::Config);
-  xssf.set(!settings.empty() && settings.get("xssf").number() == 1);
-}
-
-void Formzctxs::writeCheckBox() {
-  RecordSet settings(desk.store, "select * from morvanedjpzb where fn='kqd'", Connection::Config);
-  if (settings.empty() || (settings.get("xssf").number() == 1) == xssf.on()) return;
-  settings.set("xssf", xssf.on() ? 1 : 0);
-  settings.update();
 }
 
 void Formzctxs::show(const Student& student, const std::string& photo) {
@@ -132,10 +116,10 @@ void Formzctxs::takeClass() {
 
 void Formzctxs::takeIdentity() {
   const Identity identity = deriveFromIdentity(sfzhm.text());
-  sfzhm.set(identity.number);
+  if (!identity.warning.empty()) stop(identity.warning, "错误提示");
   if (identity.csrq) csrq.set(*identity.csrq);
   if (identity.xb) xb.set(*identity.xb);
-  if (!identity.warning.empty()) stop(identity.warning, "错误提示");
+  sfzhm.set(identity.number);
 }
 
 void Formzctxs::pickPhoto() {
@@ -146,21 +130,17 @@ void Formzctxs::pickPhoto() {
 }
 
 void Formzctxs::add() {
-  const Student student = typed();
-  if (!accepted(addStudent(desk, student, photo_))) return;
+  if (!accepted(addStudent(desk, typed(), photo_, editing_.ConsolePanel))) return;
   const std::string number = xh.trimmed();
-  if (xssf.on()) {
-    if (ask("学籍资料信息成功录入！要打开收费窗口收费吗？    ", "信息提示")) {
-      desk.session.current_xh = number;
-      open<collection::Formzctsf4>();
-    }
-  } else {
-    inform("学籍资料信息成功录入 ！      ", "信息提示");
-  }
-  if (desk.session.ConsolePanel != kit::Panel::Students) {
-    desk.session.current_xh = number;
-    return close();
-  }
+  answer = number;
+  const bool staysOpen = editing_.ConsolePanel == kit::Panel::Students;
+  if (!staysOpen) close();
+  else showNext(number);
+  if (!xssf.on()) return inform("学籍资料信息成功录入 ！      ", "信息提示");
+  if (ask("学籍资料信息成功录入！要打开收费窗口收费吗？    ", "信息提示") && collect_) collect_(number);
+}
+
+void Formzctxs::showNext(const std::string& number) {
   show(newStudent(desk.clock.today()), "");
   proposal_ = base::nextNumber(number);
   xh.set(proposal_);
@@ -173,7 +153,7 @@ void Formzctxs::change() {
   if (keyChanged(former_, student) &&
       !ask("该生的重要信息已被修改，这会更新该生在系统中的所有信息，您确认继续吗？    ", "信息提示"))
     return;
-  if (!accepted(changeStudent(desk, formerXh_, student, photo_))) return;
+  if (!accepted(changeStudent(desk, editing_.row, former_, student, photo_))) return;
   close();
   inform("选定记录已修改 ！       ", "信息提示");
 }
@@ -183,7 +163,7 @@ void Formzctxs::remove() {
   if (!askStop("删除学生的学籍资料，将同时删除该生在系统中的所有记录！ \n\n选择“是”继续；否则，点“否”撤销此操作！   ",
                "再次警告"))
     return;
-  if (!deleteStudent(desk.store, formerXh_)) return;
+  deleteStudent(desk.store, editing_.row, former_);
   close();
   inform("选定记录已删除 ！        ", "信息提示");
 }
@@ -198,7 +178,7 @@ bool Formzctxs::accepted(const std::optional<Refusal>& refusal) {
 }
 
 void Formzctxs::offerNumber() {
-  const char* question = mode_ == Mode::Add ? "您是否使用默认学号 ！     " : "是否先还原为原来的学号 ！     ";
+  const char* question = EditMode == Mode::Add ? "您是否使用默认学号 ！     " : "是否先还原为原来的学号 ！     ";
   if (ask(question, "操作提示")) xh.set(proposal_);
   else xh.focus();
 }

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "kit/editing.h"
 #include "kit/screen.h"
 #include "students/student_records.h"
 
@@ -11,7 +12,9 @@ namespace students {
 
 class Formzctxs : public kit::Screen {  // 学生学籍资料编辑
  public:
-  explicit Formzctxs(kit::Desk& desk);
+  using Collect = std::function<void(const std::string& current_xh)>;
+  // collect: opens the fee window for a student who has just been added.
+  explicit Formzctxs(kit::Desk& desk, const kit::Editing& editing = {}, Collect collect = {});
   void load() override;
   kit::Layout layout() override;
 
@@ -42,19 +45,11 @@ class Formzctxs : public kit::Screen {  // 学生学籍资料编辑
   kit::Check xssf{*this, "xssf", "录完学籍后自动调用收费窗口"};
   kit::Action confirm{*this, "confirm", "添加", "check"};
   kit::Action cancel{*this, "cancel", "撤销", "x"};
+  std::optional<std::string> answer;  // current_xh: the number of the student who was added last
 
  private:
-  struct PickList {
-    kit::Field* field;
-    store::Sql source;
-    const char* column;
-    kit::Field* next;  // takes the focus when an entry was picked
-  };
-  std::vector<PickList> pickLists();
   std::vector<std::pair<StudentText, kit::Field*>> entries();
-  void wirePickList(const PickList& list);
-  void readCheckBox();
-  void writeCheckBox();
+  void wirePickLists();
   void show(const Student& student, const std::string& photo);
   Student typed();
   void takeClass();
@@ -62,14 +57,16 @@ class Formzctxs : public kit::Screen {  // 学生学籍资料编辑
   void pickPhoto();
 
   void add();
+  void showNext(const std::string& number);
   void change();
   void remove();
   bool accepted(const std::optional<Refusal>& refusal);
   void offerNumber();
 
-  kit::Mode mode_;
+  const kit::Editing editing_;
+  const kit::Mode EditMode = editing_.EditMode;
+  const Collect collect_;
   Student former_;          // as loaded, for change and delete
-  std::string formerXh_;    // the record that is worked on
   std::string proposal_;    // offered when the number has a wrong length
   std::string takenClass_;  // the class that the major and the system number stand for
   std::string sex_;         // the last valid one: anything else is taken back

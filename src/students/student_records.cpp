@@ -1,5 +1,8 @@
 #include "students/student_records.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "base/text.h"
 #include "kit/list.h"
 #include "kit/rows.h"
@@ -10,8 +13,6 @@ namespace {
 using store::RecordSet;
 using store::Sql;
 using store::Value;
-
-constexpr int eighteenYears = 6570;  // in days, as the office counts them
 
 enum class Kind { Text, Upper, BirthDate, EntryDate, Money, Notes };
 
@@ -65,8 +66,19 @@ std::string shown(Kind kind, const Value& value) {
   }
 }
 
-void write(RecordSet& row, const Student& student, base::Date today) {
-  for (const Column& column : columns) row.set(column.name, stored(column.kind, student.*column.text, today));
+bool differ(const Student& one, const Student& other, StudentText text) {
+  return base::trim(one.*text) != base::trim(other.*text);
+}
+
+constexpr StudentText keys[] = {&Student::xh, &Student::xm, &Student::bjmc};
+
+// Who the student is must stand as it was shown, and so must what is about to be written.
+void mustStandAsShown(RecordSet& row, const Student& former, const Student& student) {
+  const Student now = textsOf(row);
+  const bool changed = keyChanged(now, former) || std::ranges::any_of(columns, [&](const Column& column) {
+                         return differ(student, former, column.text) && differ(now, former, column.text);
+                       });
+  if (changed) throw kit::changedMeanwhile("该生学籍资料");
 }
 
 void writePhoto(RecordSet& row, const std::string& bytes) {
@@ -75,27 +87,23 @@ void writePhoto(RecordSet& row, const std::string& bytes) {
 
 // Rows keyed at the front desk carry the computer's name until they are submitted; the others the moment. Beside the
 // other overviews the marker stays unset.
-void mark(RecordSet& row, kit::Desk& desk) {
-  if (desk.session.ConsolePanel == kit::Panel::None) row.set("bsh", desk.clock.now().plain());
-  if (desk.session.ConsolePanel == kit::Panel::Students) row.set("bsh", desk.session.ComputerName);
+void mark(RecordSet& row, kit::Desk& desk, kit::Panel panel) {
+  if (panel == kit::Panel::None) row.set("bsh", desk.clock.now().plain());
+  if (panel == kit::Panel::Students) row.set("bsh", desk.session.ComputerName);
 }
 
 Sql ofStudent(std::string_view table, const std::string& xh) {
   return Sql::table(table) + " where xh='" + base::trim(xh) + "'";
 }
 
-// What the dependent tables copy of a student.
-void cascade(store::Store& store, const std::string& formerXh, const Student& student) {
-  for (const std::string_view table : dependentTables) {
-    RecordSet dependents(store, ofStudent(table, formerXh));
-    store::forEach(dependents, [&](RecordSet& row) {
-      row.set("xh", base::trim(student.xh));
-      row.set("xm", base::trim(student.xm));
-      row.set("bjmc", base::trim(student.bjmc));
-      row.set("xtbh", base::trim(student.xtbh));
-      row.update();
-    });
-  }
+// What the dependent tables copy of a student; the number last, for they are found by it.
+void cascade(store::Store& store, const Student& former, const Student& student) {
+  constexpr std::pair<std::string_view, StudentText> copies[] = {
+      {"xm", &Student::xm}, {"bjmc", &Student::bjmc}, {"xtbh", &Student::xtbh}, {"xh", &Student::xh}};
+  for (const std::string_view table : dependentTables)
+    for (const auto& [column, text] : copies)
+      if (differ(student, former, text))
+        kit::setEach(store, ofStudent(table, former.xh), column, base::trim(student.*text));
 }
 
 }  // namespace
@@ -136,15 +144,24 @@ std::optional<ClassPick> classPicked(store::Store& store, const std::string& bjm
   return ClassPick{zymc, base::nextNumber(classmates.get("xtbh").trimmed())};
 }
 
-std::optional<Refusal> addStudent(kit::Desk& desk, const Student& student, const Photo& photo) {
+namespace {
+
+std::optional<Refusal> taken(store::Store& store, const std::string& xh) {
+  if (loadStudent(store, xh).empty()) return std::nullopt;
+  return Refusal{"存在相同的学号！     ", "错误提示", &Student::xh};
+}
+
+}  // namespace
+
+std::optional<Refusal> addStudent(kit::Desk& desk, const Student& student, const Photo& photo, kit::Panel panel) {
   if (auto refusal = validate(desk.store, student)) return refusal;
   const std::string bytes = photoBytes(photo, desk.desktop.programFolder());
   store::Unit unit(desk.store);
-  RecordSet row = loadStudent(desk.store, student.xh);
-  if (!row.empty()) return Refusal{"存在相同的学号！     ", "错误提示", &Student::xh};
+  if (auto refusal = taken(desk.store, student.xh)) return refusal;
+  RecordSet row(desk.store, "select * from xs");
   row.addNew();
-  write(row, student, desk.clock.today());
-  mark(row, desk);
+  for (const Column& column : columns) row.set(column.name, stored(column.kind, student.*column.text, desk.clock.today()));
+  mark(row, desk, panel);
   writePhoto(row, bytes);
   row.update();
   unit.finish();
@@ -152,36 +169,36 @@ std::optional<Refusal> addStudent(kit::Desk& desk, const Student& student, const
 }
 
 bool keyChanged(const Student& former, const Student& student) {
-  for (const StudentText key : {&Student::xh, &Student::xm, &Student::bjmc})
-    if (base::trim(former.*key) != base::trim(student.*key)) return true;
-  return false;
+  return std::ranges::any_of(keys, [&](StudentText key) { return differ(former, student, key); });
 }
 
-std::optional<Refusal> changeStudent(kit::Desk& desk, const std::string& formerXh, const Student& student,
+std::optional<Refusal> changeStudent(kit::Desk& desk, std::int64_t mark, const Student& former, const Student& student,
                                      const Photo& photo) {
   if (auto refusal = validate(desk.store, student)) return refusal;
   const std::string bytes = photo.chosen ? photoBytes(photo, desk.desktop.programFolder()) : "";
   store::Unit unit(desk.store);
-  RecordSet row = loadStudent(desk.store, formerXh);
-  if (row.empty()) return Refusal{"该生学籍资料已不存在，无法修改，请刷新后再试 ！     ", "错误提示"};
-  // By the row as it stands now: another computer may have renamed the student since the screen was opened.
-  const bool reachesOthers = keyChanged(textsOf(row), student);
-  write(row, student, desk.clock.today());
+  RecordSet row = kit::rowAt(desk.store, "xs", mark);
+  mustStandAsShown(row, former, student);
+  // The register takes a number once: two students of one number could never be told apart again.
+  if (differ(student, former, &Student::xh))
+    if (auto refusal = taken(desk.store, student.xh)) return refusal;
+  for (const Column& column : columns)
+    if (differ(student, former, column.text))
+      row.set(column.name, stored(column.kind, student.*column.text, desk.clock.today()));
   writePhoto(row, bytes);
   row.update();
-  if (reachesOthers) cascade(desk.store, formerXh, student);
+  if (keyChanged(former, student)) cascade(desk.store, former, student);
   unit.finish();
   return std::nullopt;
 }
 
-bool deleteStudent(store::Store& store, const std::string& xh) {
+void deleteStudent(store::Store& store, std::int64_t mark, const Student& shown) {
   store::Unit unit(store);
-  RecordSet row = loadStudent(store, xh);
-  if (row.empty()) return false;
+  RecordSet row = kit::rowAt(store, "xs", mark);
+  mustStandAsShown(row, shown, shown);
   row.remove();
-  for (const std::string_view table : dependentTables) kit::removeEach(store, ofStudent(table, xh));
+  for (const std::string_view table : dependentTables) kit::removeEach(store, ofStudent(table, shown.xh));
   unit.finish();
-  return true;
 }
 
 }  // namespace students

@@ -24,6 +24,8 @@ using StudentText = std::string Student::*;
 // order, by the number alone. Graduates and history keep what they were written with.
 constexpr std::array<std::string_view, 6> dependentTables = {"cjb", "jfjl", "qfjl", "xxfk", "tjs", "zsgl2"};
 
+constexpr int eighteenYears = 6570;  // in days, as the office counts them
+
 constexpr std::string_view notesIndent = "    ";  // stands before the notes wherever they are shown
 
 // The row of a student: an empty set when there is none.
@@ -51,12 +53,16 @@ struct Refusal {
 
 // The first test that fails, in the order of the screen.
 std::optional<Refusal> validate(store::Store& store, const Student& student);
-std::optional<Refusal> addStudent(kit::Desk& desk, const Student& student, const Photo& photo);
+// panel: from where; the marker of the row tells which rows were keyed in the students' overview.
+std::optional<Refusal> addStudent(kit::Desk& desk, const Student& student, const Photo& photo,
+                                  kit::Panel panel = kit::Panel::None);
 
 // Whether number, name or class differ: then the change reaches all that belongs to the student.
 bool keyChanged(const Student& former, const Student& student);
-std::optional<Refusal> changeStudent(kit::Desk& desk, const std::string& formerXh, const Student& student,
+// Writes what differs from the student as shown. Both raise a StoreError in words, and write nothing, when the row has
+// gone, or another desk has changed who the student is or what is about to be written.
+std::optional<Refusal> changeStudent(kit::Desk& desk, std::int64_t row, const Student& former, const Student& student,
                                      const Photo& photo);
-bool deleteStudent(store::Store& store, const std::string& xh);  // false: there is no such student
+void deleteStudent(store::Store& store, std::int64_t row, const Student& shown);
 
 }  // namespace students

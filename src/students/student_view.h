@@ -7,7 +7,7 @@ namespace students {
 
 class Formzctxsll : public kit::Screen {  // 学生学籍资料浏览
  public:
-  explicit Formzctxsll(kit::Desk& desk);
+  explicit Formzctxsll(kit::Desk& desk, std::int64_t row = 0);
   void load() override;
   kit::Layout layout() override;
   bool mayClose() override;
@@ -38,6 +38,7 @@ class Formzctxsll : public kit::Screen {  // 学生学籍资料浏览
  private:
   void saveNotes();
 
+  const std::int64_t row_;
   std::string storedNotes_;
   bool refused_ = false;  // the notes could not be saved once
 };

@@ -1,7 +1,6 @@
 #include "students/suspension_edit.h"
 
 #include "kit/rows.h"
-#include "kit/validation.h"
 
 namespace students {
 
@@ -9,90 +8,79 @@ using kit::Mode;
 using store::RecordSet;
 using store::Sql;
 
-Formxxfk1::Formxxfk1(kit::Desk& all) : Screen(all, "Formxxfk1", "学生休学复课记录编辑") {
-  what.onChange([this] { day.setLabel(resuming() ? "复课日期" : "休学日期"); });
-  bjmc.onDrop([this] { bjmc.setChoices(kit::columnTexts(desk.store, "select * from bjzl order by bjdh", "bjmc")); });
-  bjmc.onChange([this] {
-    xm.clear();
-    fillNames();
-  });
-  xm.onChange([this] { findStudent(); });
-  confirm.onPress([this] { act(); });
-  cancel.onPress([this] { close(); });
-}
-
-void Formxxfk1::load() {
-  mode_ = desk.session.EditMode;
-  day.set(desk.clock.today().plain());
+Formxxfk1::Formxxfk1(kit::Desk& all, const kit::Editing& editing)
+    : RecordEdit(all, "Formxxfk1", "学生休学复课记录编辑", "xxfk", editing) {
+  const bool adds = EditMode == Mode::Add;
+  what.set(adds ? 0 : 1);
   what.enable(false);
-  if (mode_ == Mode::Add) return bjmc.focus();
-  what.set(1);
-  bjmc.set(row().get("bjmc").trimmed());
-  xm.set(row().get("xm").trimmed());
-  xh.set(row().get("xh").trimmed());
+  if (!adds) day.setLabel("复课日期");
+  bjmc.offers("select * from bjzl order by bjdh", "bjmc");
+  xm.offers([this] { return Sql("select * from xs where bjmc='") + bjmc.trimmed() + "'"; }, "xm");
+  if (!adds) return;
+  bjmc.onChange([this] { xm.clear(); });
+  xm.onChange([this] { findStudent(); });
+}
+
+std::vector<kit::RecordEdit::Bound> Formxxfk1::bound() {
+  return {{bjmc, 18}, {xm, 18}, {xh, 0}, {day, 0, kit::Format::Date, EditMode == Mode::Add ? "xxsj" : "fksj"}};
+}
+
+void Formxxfk1::propose() {
+  day.set(desk.clock.today().plain());
+  bjmc.focus();
+}
+
+// The day that is to be deleted is the row's own; a resumption is of today.
+void Formxxfk1::shown(RecordSet&) {
+  if (EditMode != Mode::Modify) return;
   for (kit::Field* copied : {&bjmc, &xm}) copied->enable(false);
-  day.enable(mode_ == Mode::Modify);
-  if (mode_ == Mode::Delete) confirm.focus();
+  day.set(desk.clock.today().plain());
 }
 
-RecordSet& Formxxfk1::row() {
-  if (!desk.session.edited)
-    throw store::StoreError(store::Fault::RowGone, "没有选定的记录，请先在列表中选定一条记录！");
-  return *desk.session.edited;
-}
-
-void Formxxfk1::fillNames() {
-  const Sql names = resuming() ? Sql("select xm from xxfk where bjmc='") + bjmc.trimmed() + "' group by xm"
-                               : Sql("select * from xs where bjmc='") + bjmc.trimmed() + "'";
-  xm.setChoices(kit::columnTexts(desk.store, names, "xm"));
+Sql Formxxfk1::chosen() const {
+  return Sql("select * from xs where xm='") + xm.trimmed() + "' and bjmc='" + bjmc.trimmed() + "'";
 }
 
 void Formxxfk1::findStudent() {
   xh.clear();
   xtbh_.clear();
-  if (mode_ != Mode::Add || xm.blank()) return;
-  RecordSet student = rows(Sql("select * from xs where xm='") + xm.trimmed() + "' and bjmc='" + bjmc.trimmed() + "'");
+  student_ = 0;
+  if (xm.blank()) return;
+  RecordSet student = rows(chosen());
   if (student.empty()) return;
   xh.set(student.get("xh").trimmed());
   xtbh_ = student.get("xtbh").trimmed();
+  student_ = student.mark();
 }
 
-void Formxxfk1::act() {
-  if (mode_ == Mode::Delete) return remove();
+std::vector<kit::Rule> Formxxfk1::rules() {
+  if (EditMode == Mode::Delete) return {};
   // A row without a student could be found by nobody again.
-  const auto nobody = [this] { return mode_ == Mode::Add && xh.blank(); };
-  if (!kit::holds(desk.person, {{&xm, nobody, "请先选择班级，再选择该班级中的学生！     ", "操作提示"},
-                                {&day, kit::notDate(day), "日期格式不正确，应该是 yyyy-m-d 格式！   ", "错误提示"}}))
-    return;
-  mode_ == Mode::Add ? add() : setResumed();
+  const auto nobody = [this] { return EditMode == Mode::Add && xh.blank(); };
+  return {{&xm, nobody, "请先选择班级，再选择该班级中的学生！     ", "操作提示"},
+          {&day, kit::notDate(day), "日期格式不正确，应该是 yyyy-m-d 格式！   ", "错误提示"}};
+}
+
+std::vector<kit::Rule> Formxxfk1::guards() {
+  if (EditMode != Mode::Add) return {};
+  const auto changed = [this] {
+    if (!kit::standsStill(desk.store, "xs", student_)) return true;
+    RecordSet student = kit::rowAt(desk.store, "xs", student_);
+    return student.get("xh").trimmed() != xh.text() || student.get("xm").trimmed() != xm.trimmed() ||
+           student.get("bjmc").trimmed() != bjmc.trimmed();
+  };
+  return {{&xm, changed, "该生学籍资料已被其他计算机修改，没有保存，请重新选择学生！     ", "操作提示"}};
+}
+
+kit::RecordEdit::Words Formxxfk1::words() {
+  return {.remove = {{"您确认是要删除记录吗？      ", "警告"}}, .removed = "记录已删除 ！        "};
 }
 
 // A student who is suspended already gets another row: each suspension is one.
-void Formxxfk1::add() {
-  RecordSet all = rows("select * from xxfk");
-  all.addNew();
-  all.set("xh", xh.trimmed());
-  all.set("xtbh", xtbh_);
-  all.set("xm", xm.trimmed());
-  all.set("bjmc", bjmc.trimmed());
-  all.set("xxsj", *base::Date::parse(day.trimmed()));
-  all.set("fksj", "");
-  all.set("bsh", desk.clock.now().plain());
-  all.update();
-  close();
-}
-
-void Formxxfk1::setResumed() {
-  row().set("fksj", *base::Date::parse(day.trimmed()));
-  row().update();
-  close();
-}
-
-void Formxxfk1::remove() {
-  if (!ask("您确认是要删除记录吗？      ", "警告")) return;
-  row().remove();
-  close();
-  inform("记录已删除 ！        ", "信息提示");
+void Formxxfk1::adding(RecordSet& row) {
+  row.set("xtbh", xtbh_);
+  row.set("fksj", "");  // not Null: who has no day of return is asked for with ''
+  row.set("bsh", now());
 }
 
 }  // namespace students

@@ -1,13 +1,10 @@
 #include "students/suspension_query.h"
 
-#include "kit/filter.h"
-#include "kit/rows.h"
-
 namespace students {
 
 Formxxfk2::Formxxfk2(kit::Desk& all) : Screen(all, "Formxxfk2", "休学复课记录查询设置") {
-  bjmc.onDrop([this] { bjmc.setChoices(kit::columnTexts(desk.store, "select bjmc from xxfk group by bjmc", "bjmc")); });
-  xm.onDrop([this] { xm.setChoices(kit::columnTexts(desk.store, "select * from xxfk  order by xh", "xm")); });
+  bjmc.offers("select bjmc from xxfk group by bjmc", "bjmc");
+  xm.offers("select * from xxfk  order by xh", "xm");
   confirm.onPress([this] {
     answer = kit::Filter{kit::chain({kit::equals("bjmc", bjmc.trimmed()), kit::equals("xm", xm.trimmed())})};
     close();

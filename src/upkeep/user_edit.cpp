@@ -25,8 +25,8 @@ void Formyhxx2::shown(store::RecordSet& row) {
 }
 
 kit::RecordEdit::Words Formyhxx2::words() {
-  return {.modify = {"您确认要修改记录吗？  "},
-          .remove = {"您确认要删除选定记录吗？   ", "删除提示"},
+  return {.modify = {{"您确认要修改记录吗？  "}},
+          .remove = {{"您确认要删除选定记录吗？   ", "删除提示"}},
           .added = "用户添加成功！   ",
           .modified = "选定记录已修改 ！     ",
           .removed = "选定记录已删除 ！     "};
@@ -54,8 +54,8 @@ void Formyhxx2::modifying(store::RecordSet& row) {
   if (!yhmm.blank() && yhmm.text() != keptPassword) row.set("yhmm", hashPassword(yhmm.text()));
 }
 
-void Formyhxx2::removing(store::RecordSet& row) {
-  kit::removeEach(desk.store, store::Sql("select * from yhxx1 where yhxm='") + row.get("yhxm").trimmed() + "'");
+void Formyhxx2::removing() {
+  kit::removeEach(desk.store, store::Sql("select * from yhxx1 where yhxm='") + former(yhxm) + "'");
 }
 
 }  // namespace upkeep

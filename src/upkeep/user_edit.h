@@ -22,7 +22,7 @@ class Formyhxx2 : public kit::RecordEdit {  // 用户编辑
   void add() override;
   void modify() override;
   void modifying(store::RecordSet& row) override;
-  void removing(store::RecordSet& row) override;
+  void removing() override;
   bool hasPassword_ = false;
 };
 

@@ -7,7 +7,9 @@ namespace students {
 using namespace kit;
 
 Layout Formxxfk::layout() {
-  return {.root = column({count, suspensions, buttons({add, resume, remove, query, print, toSheet, clearAll, back})}),
+  Nodes actions = suspensions.actions();
+  actions.push_back(back);
+  return {.root = column({suspensions.shown(), buttons(std::move(actions))}),
           .cancel = &back,
           .width = 860,
           .height = 520};
