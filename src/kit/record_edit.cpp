@@ -109,7 +109,7 @@ void RecordEdit::modify() {
   modifying(set);
   set.update();
   unit.finish();
-  done(say.modified);
+  done(say.modified, say.modifiedTitle);
 }
 
 void RecordEdit::remove() {
@@ -124,15 +124,16 @@ void RecordEdit::remove() {
 }
 
 // The window closes as soon as the row is in, whatever the person does with the words.
-void RecordEdit::done(const std::string& words) {
+void RecordEdit::done(const std::string& words, const std::string& title) {
   close();
-  if (!words.empty()) inform(words, "信息提示");
+  if (!words.empty()) inform(words, title);
 }
 
 Layout RecordEdit::layout() {
   Nodes fields;
   for (const Bound& one : bound()) fields.push_back(wide(one.field, one.width));
-  return {.root = column({form(std::move(fields)), buttons({confirm, cancel})}), .confirm = &confirm, .cancel = &cancel};
+  return {
+      .root = column({form(std::move(fields)), buttons({confirm, cancel})}), .confirm = &confirm, .cancel = &cancel};
 }
 
 }  // namespace kit

@@ -29,14 +29,14 @@ class RecordEdit : public Screen {
   };
   struct Words {  // an empty text is not asked or told
     Question modify, remove;
-    std::string added, modified, removed;
+    std::string added, modified, removed, modifiedTitle = "信息提示";
   };
 
   virtual std::vector<Bound> bound() = 0;
   virtual std::vector<Rule> rules() { return {}; }  // walked before anything is done, whatever the screen is open for
   virtual Words words() { return {}; }
-  virtual void propose() {}                   // fills the fields of a row to be added
-  virtual void shown(store::RecordSet&) {}    // the row's fields are filled; notes what else it holds
+  virtual void propose() {}                 // fills the fields of a row to be added
+  virtual void shown(store::RecordSet&) {}  // the row's fields are filled; notes what else it holds
   // Inside the unit that writes, before the row itself: what goes with it in other tables, what no field holds.
   virtual void adding(store::RecordSet&) {}
   virtual void modifying(store::RecordSet&) {}
@@ -46,12 +46,14 @@ class RecordEdit : public Screen {
   virtual void modify();
   virtual void remove();
 
-  store::RecordSet row();                     // as it stands now; raises Fault::RowGone
-  bool changed(const Field& field) const;     // by the person, since the row was shown
+  store::RecordSet row();                        // as it stands now; raises Fault::RowGone
+  bool changed(const Field& field) const;        // by the person, since the row was shown
   std::string former(const Field& field) const;  // as the row held it when it was shown
-  // Sets what the person changed. Raises a StoreError, in words, when another desk has changed the same field meanwhile.
+  // Sets what the person changed. Raises a StoreError, in words, when another desk has changed the same field
+  // meanwhile.
   void write(store::RecordSet& row);
-  void done(const std::string& words);        // closes, and tells when there is something to tell
+  // Closes, and tells when there is something to tell.
+  void done(const std::string& words, const std::string& title = "信息提示");
   std::string now() { return desk.clock.now().plain(); }
 
   const Mode EditMode;

@@ -152,7 +152,7 @@ void Formzctxs::add() {
   if (xssf.on()) {
     if (ask("学籍资料信息成功录入！要打开收费窗口收费吗？    ", "信息提示")) {
       desk.session.current_xh = number;
-      open<collection::Formzctsf4>();
+      open<collection::Formzctsf4>(collection::FeeWindowFor{number});
     }
   } else {
     inform("学籍资料信息成功录入 ！      ", "信息提示");
