@@ -10,15 +10,15 @@ namespace arrears {
 
 // What the entry is opened with.
 struct ArrearsFor {
-  std::string current_xh, current_xq;
+  std::string current_xh{}, current_xq{};
   bool from_fee_window = false;
   struct FeeLine {
     std::string item;
     base::Money due, paid;
   };
-  std::vector<FeeLine> fee_lines;  // of the fee window, as they were when it opened the entry
+  std::vector<FeeLine> fee_lines{};  // of the fee window, as they were when it opened the entry
   kit::Panel ConsolePanel = kit::Panel::None;
-  std::array<std::string, 10> receipt_remarks;  // what the next receipt says so far
+  std::array<std::string, 10> receipt_remarks{};  // what the next receipt says so far
 };
 
 // What became of it. Left without saving, nothing was added and the receipt says nothing.

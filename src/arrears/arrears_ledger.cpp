@@ -53,8 +53,8 @@ RecordSet unchanged(store::Store& store, const OpenRow& seen) {
   const auto refuse = [](const std::string& what) {
     throw store::StoreError(store::Fault::RowGone, what + "，请重新加载欠费后再收费！");
   };
-  if (!kit::standsStill(store, "qfjl", seen.mark)) refuse("要补交的欠费记录已被其他计算机删除");
-  RecordSet row = kit::rowAt(store, "qfjl", seen.mark);
+  RecordSet row(store, "select * from qfjl");
+  if (!row.goTo(seen.mark)) refuse("要补交的欠费记录已被其他计算机删除");
   const std::string debt = "“" + row.get("sfxm").trimmed() + "”的欠费已由其他计算机";
   const base::Money open = row.get("bjje").money() - row.get("sbjje").money();
   if (row.get("clfs").trimmed() == waived) refuse(debt + "减免");

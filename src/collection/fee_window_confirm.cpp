@@ -48,7 +48,6 @@ void Formzctsf4::openArrearsEntry() {
   arrears::ArrearsFor given{.current_xh = current_xh,
                             .current_xq = xq.trimmed(),
                             .from_fee_window = true,
-                            .fee_lines = {},
                             .ConsolePanel = desk.session.ConsolePanel,
                             .receipt_remarks = notes.receipt_remarks};
   for (const FeeLine& line : lines)

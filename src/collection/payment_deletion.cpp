@@ -12,8 +12,8 @@ Sql rowsOf(const std::string& receipt) { return Sql("select * from jfjl where fp
 }  // namespace
 
 std::optional<std::string> PaymentDeletion::refused() {
-  if (!kit::standsStill(store_, "jfjl", row_)) return "选定的记录已被其他计算机删除，请刷新列表后重新选择！     ";
-  RecordSet row = kit::rowAt(store_, "jfjl", row_);
+  RecordSet row(store_, "select * from jfjl");
+  if (!row.goTo(row_)) return "选定的记录已被其他计算机删除，请刷新列表后重新选择！     ";
   const std::string receipt = row.get("fpbh").trimmed();
   if (receipt_.value_or(receipt) != receipt)
     return "选定的记录已被其他计算机修改，没有删除任何记录，请刷新列表后重新选择！     ";

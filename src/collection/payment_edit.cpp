@@ -23,6 +23,7 @@ std::vector<kit::RecordEdit::Bound> Formzctsf1::bound() {
 kit::RecordEdit::Words Formzctsf1::words() {
   return {.modify = {},
           .remove = {"您确认是要删除选定的交费记录吗？   ", "警告"},
+          .added = {},
           .modified = "选定记录已修改！   ",
           .removed = "选定记录已删除 ！        ",
           .modifiedTitle = "修改成功提示"};

@@ -12,8 +12,7 @@ ReceiptPrint reprintOf(store::RecordSet& payment, const kit::Session& session) {
           .print_bjmc = copied("bjmc"),
           .print_xq = copied("xq"),
           .print_jffs = session.print_jffs,
-          .print_jfrq = session.print_jfrq,
-          .notes = {}};
+          .print_jfrq = session.print_jfrq};
 }
 
 PrintedReceipt readReceipt(store::Store& store, const kit::Session& session, const ReceiptPrint& print,

@@ -11,14 +11,14 @@ namespace collection {
 
 // Summaries and remarks; a row of the receipt has the entry of its own place.
 struct ReceiptNotes {
-  std::array<std::string, 10> receipt_remarks, receipt_summaries;
+  std::array<std::string, 10> receipt_remarks{}, receipt_summaries{};
 };
 
 // What printing is handed; the rows are those of the receipt number.
 struct ReceiptPrint {
-  std::string print_fpbh, print_xh, print_xm, print_bjmc, print_xq, print_jffs, print_jfrq;
+  std::string print_fpbh{}, print_xh{}, print_xm{}, print_bjmc{}, print_xq{}, print_jffs{}, print_jfrq{};
   bool fee_normal_mode = true;
-  ReceiptNotes notes;
+  ReceiptNotes notes{};
 };
 
 // The receipt of a payment once more, without remarks. Method and date are not read again: it shows those of the

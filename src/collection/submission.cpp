@@ -90,7 +90,7 @@ bool Formzctsf9::submitted(const std::vector<std::int64_t>& counted, base::Money
   store::Unit unit(desk.store);
   base::Money sum;
   std::size_t found = 0;
-  RecordSet mine = rows(unsubmitted(desk, "select je from jfjl"));
+  RecordSet mine = rows(unsubmitted(desk, "select je,sftj from jfjl"));
   store::forEach(mine, [&](RecordSet& row) {
     if (!marks.contains(row.mark())) return;
     sum += row.get("je").money();

@@ -46,7 +46,7 @@ struct Session {
 
   // The console.
   Panel ConsolePanel = Panel::None;
-  std::string student_selection, payment_selection, arrears_selection;
+  std::string student_selection, arrears_selection;
   std::string summary_xh;  // the student whose payments the summary adds up
   int payment_list_mode = 5;
 

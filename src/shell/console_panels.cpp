@@ -179,7 +179,6 @@ void Formzct::addArrears() {
   RecordSet paid = rows("select * from jfjl order by fpbh");
   if (paid.empty()) return stop("您至少要通过收费前台录入一笔收费记录，才能在此添加欠费记录！   ", "操作提示");
   paid.last();
-  auto& session = desk.session;
   const auto entered = open<arrears::Formqfcl>(
       arrears::ArrearsFor{.current_xq = paid.get("xq").trimmed(), .ConsolePanel = kit::Panel::Arrears});
   if (entered.added) arrears_overview.filter = {keyedHere()};

@@ -60,7 +60,7 @@ struct FeeDesk : support::TestDesk {
 // Texts with a separator between them.
 inline std::string shown(std::initializer_list<const kit::Field*> fields) {
   std::string text;
-  for (const kit::Field* field : fields) text += (text.empty() ? "" : "|") + field->text();
+  for (const kit::Field* field : fields) text += (field == *fields.begin() ? "" : "|") + field->text();
   return text;
 }
 

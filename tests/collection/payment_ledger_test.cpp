@@ -5,6 +5,7 @@
 
 #include <set>
 
+#include "support/failing_engine.h"
 #include "support/test_desk.h"
 
 namespace {
@@ -78,6 +79,73 @@ TEST(PaymentLedger, AReceiptIsARowALineUnderOneNumber) {
   EXPECT_EQ(desk.dump("jfjl", "lsh|xh|xm|bjmc|xq|xtbh|jfrq|fpbh|sfxm|je|skr|sftj|jffs|rxxs|bz|bsh", "lsh"),
             "202609070001" + head + "学费|2400" + tail + "202609070002" + head + "住宿费|0" + tail);
   EXPECT_EQ(desk.count("select * from jfjl where sftj='' and sftj<>'*'"), 2);
+}
+
+// A desk with two open arrears of one number in sight.
+struct ArrearsInSight : support::TestDesk {
+  ArrearsInSight() {
+    for (const char* sfxm : {"学费", "住宿费"})
+      add("qfjl", {{"lsh", "2026907001"},
+                   {"xh", "20260001"},
+                   {"sfxm", sfxm},
+                   {"bjje", Money::yuan(9)},
+                   {"sbjje", Money()},
+                   {"clfs", ""}});
+    receipt.settlesArrears = true;
+    store::RecordSet owed(store, "select * from qfjl");
+    store::forEach(owed, [&](store::RecordSet& row) {
+      receipt.lines.push_back({row.get("sfxm").trimmed(), Money::yuan(9), {row.mark(), "20260001", Money::yuan(9)}});
+    });
+  }
+  // What the store said; empty when the receipt is in.
+  std::string save() {
+    try {
+      saveReceipt(store, receipt, clock);
+      return "";
+    } catch (const store::StoreError& error) {
+      return error.what();
+    }
+  }
+  std::string books() { return dump("qfjl", "sfxm|xh|sbjje|clfs") + dump("jfjl", "sfxm|je"); }
+  Receipt receipt = receiptOf("李芳", {});
+};
+
+// Whatever the store refuses at whatever moment: the receipt is in, whole, or nothing of it is.
+TEST(PaymentLedger, AFaultLeavesNothingOfAReceipt) {
+  ArrearsInSight desk;
+  support::Failures failures(desk.store);
+  const std::string before = desk.books();
+  int call = 1;
+  for (bool saved = false; !saved; ++call) {
+    failures.at(call, store::Fault::DiskFull);
+    saved = desk.save().empty();
+    failures.off();
+    EXPECT_EQ(desk.books(), saved ? "学费|20260001|9|结清\n住宿费|20260001|9|结清\n学费|9\n住宿费|9\n" : before)
+        << "call " << call;
+  }
+  EXPECT_GT(call, 10);
+}
+
+// Of two desks that have one open row in sight the second is told.
+TEST(PaymentLedger, WhatBecameOfTheArrearsMeanwhileIsToldBeforeAnythingIsWritten) {
+  const struct {
+    std::string column;
+    store::Value value;
+    std::string told;
+  } cases[] = {{"", {}, "要补交的欠费记录已被其他计算机删除"},
+               {"clfs", "减免", "“住宿费”的欠费已由其他计算机减免"},
+               {"sbjje", Money::yuan(9), "“住宿费”的欠费已由其他计算机结清"},
+               {"sbjje", Money::yuan(1), "“住宿费”的欠费已由其他计算机改动"},
+               {"xh", "20260002", "“住宿费”的欠费已由其他计算机改动"}};
+  for (const auto& one : cases) {
+    ArrearsInSight desk;
+    store::RecordSet row(desk.store, "select * from qfjl where sfxm='住宿费'");
+    if (one.column.empty()) row.removeAll();
+    else row.setAll(one.column, one.value);
+    const std::string before = desk.books();
+    EXPECT_EQ(desk.save(), one.told + "，请重新加载欠费后再收费！");
+    EXPECT_EQ(desk.books(), before);
+  }
 }
 
 // Computers on one shared folder, each a process of its own, that collect at the same time. One is a day ahead.

@@ -220,7 +220,7 @@ struct PrintDesk : TestDesk {
   explicit PrintDesk(int rows) {
     session.SchoolName = "示范学校";
     session.SessionUser = "李芳";
-    print = {.print_fpbh = "10000123", .print_xm = "王小明", .print_bjmc = "计算机一二三班", .notes = {}};
+    print = {.print_fpbh = "10000123", .print_xm = "王小明", .print_bjmc = "计算机一二三班"};
     print.notes.receipt_remarks.fill("备注");
     for (int row = 0; row < rows; ++row)
       add("jfjl",
@@ -292,7 +292,7 @@ TEST(ReceiptPrint, FillsThePreprintedForm) {
 TEST(ReceiptNotes, AnswersTheTypedNotes) {
   TestDesk desk;
   desk.session.receipt_style = 2;
-  auto screen = opened<Formzctsf8>(desk, ReceiptNotes{.receipt_remarks = {"", "补交"}, .receipt_summaries = {}});
+  auto screen = opened<Formzctsf8>(desk, ReceiptNotes{.receipt_remarks = {"", "补交"}});
   auto& lines = screen->lines;
   EXPECT_EQ(screen->focused, &lines[0].summary);
   EXPECT_EQ(lines[1].remark.text(), "补交");
@@ -316,8 +316,7 @@ TEST(ReceiptNotes, AnswersTheTypedNotes) {
 TEST(ReceiptNotes, LayoutOneHasNoSummariesAndNotesCanBeDropped) {
   TestDesk desk;
   desk.session.receipt_style = 1;
-  auto screen =
-      opened<Formzctsf8>(desk, ReceiptNotes{.receipt_remarks = {"甲", "", "", "", "戊"}, .receipt_summaries = {}});
+  auto screen = opened<Formzctsf8>(desk, ReceiptNotes{.receipt_remarks = {"甲", "", "", "", "戊"}});
   for (const auto& line : screen->lines) EXPECT_FALSE(line.summary.enabled());
   EXPECT_EQ(screen->focused, &screen->lines[0].remark);
   screen->withoutNotes.press();
