@@ -203,7 +203,7 @@ collection::Receipt tenLines() {
   collection::Receipt receipt{
       "2024000001", "王小明", "计算机应用11001班", "2026学年下学期", "11001001", "统招", "现金", "李强", {2026, 9, 7},
       false,        {}};
-  for (int i = 0; i < linesOfPayment; ++i) receipt.lines.push_back({"代办费", base::Money::yuan(100), ""});
+  for (int i = 0; i < linesOfPayment; ++i) receipt.lines.push_back({"代办费", base::Money::yuan(100)});
   return receipt;
 }
 
@@ -237,9 +237,7 @@ Measure paying(Office& office) {
           1.5,
           100,
           [=, &office] { return payBare(office.bare, *insert, *receipt); },
-          [=, &office] {
-            return timed([&] { collection::saveReceipt(office.store, *receipt, {receipt->jfrq, 8, 30, 5}); });
-          },
+          [=, &office] { return timed([&] { collection::saveReceipt(office.store, *receipt, office.test.clock); }); },
           10};
 }
 

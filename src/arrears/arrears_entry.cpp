@@ -29,28 +29,25 @@ DebtLine::DebtLine(kit::Screen& screen, const std::string& suffix)
 
 double DebtLine::amount(std::size_t place) const { return base::leadingNumber(instalments[place].amount.text()); }
 
-Formqfcl::Formqfcl(kit::Desk& all) : Screen(all, "Formqfcl", "学生欠费信息编辑") {
+Formqfcl::Formqfcl(kit::Desk& all, ArrearsFor given)
+    : Screen(all, "Formqfcl", "学生欠费信息编辑"), given_(std::move(given)) {
   xh.onEnter([this] { findByNumber(); });
   xm.onEnter([this] { findByName(); });
-  xm.onDrop([this] { xm.setChoices(kit::columnTexts(desk.store, "select xm from xs group by xm", "xm")); });
+  xm.offers("select xm from xs group by xm", "xm");
   // A name is looked up by Enter; left in any other way it stays the name of the student whose number stands there.
   xm.onLeave([this] {
     if (!bjmc.blank()) xm.set(takenName_);
   });
   for (DebtLine& line : lines) wire(line);
   confirm.onPress([this] { save(); });
-  cancel.onPress([this] {
-    desk.session.receipt_remarks.fill("");
-    close();
-  });
+  cancel.onPress([this] { close(); });
 }
 
 void Formqfcl::load() {
-  kit::Session& session = desk.session;
-  const bool fromFeeWindow = std::exchange(session.from_fee_window, false);
-  xq.set(base::trim(session.current_xq));
-  if (!base::blank(session.current_xh)) {
-    store::RecordSet student = rows(Sql("select * from xs where xh='") + base::trim(session.current_xh) + "'");
+  const kit::Session& session = desk.session;
+  xq.set(base::trim(given_.current_xq));
+  if (!base::blank(given_.current_xh)) {
+    store::RecordSet student = rows(Sql("select * from xs where xh='") + base::trim(given_.current_xh) + "'");
     if (!student.empty()) take(student);
   }
   const auto items = kit::columnTexts(desk.store, "select * from sfxmb order by sfxmbh", "sfxmmc");
@@ -59,7 +56,7 @@ void Formqfcl::load() {
   qfts.set(std::to_string(session.reminder_days));
   status.set(session.shortfall_opens_arrears ? "收费前台已设置为 [ " + session.arrears_item + " ] 差额自动加载！"
                                              : "收费前台未设置欠费差额自动加载，如果需要请您设置！");
-  if (fromFeeWindow && session.shortfall_opens_arrears) {
+  if (given_.from_fee_window && session.shortfall_opens_arrears) {
     loadShortfall();
     lines[0].instalments[1].amount.focus();
   } else {
@@ -93,7 +90,7 @@ void Formqfcl::take(store::RecordSet& student) {
   bjmc.set(student.get("bjmc").trimmed());
   xtbh = student.get("xtbh").trimmed();
   takenName_ = xm.text();
-  desk.session.current_xh = xh.text();
+  given_.current_xh = xh.text();
 }
 
 void Formqfcl::clearHead() {
@@ -159,10 +156,9 @@ void Formqfcl::thirdChanged(DebtLine& line) {
 
 // With an item named by the settings its line alone is owed; without one every line that was paid in part.
 void Formqfcl::loadShortfall() {
-  const kit::Session& session = desk.session;
-  const std::string item = base::trim(session.arrears_item);
+  const std::string item = base::trim(desk.session.arrears_item);
   std::size_t next = 0;
-  for (const auto& paidLine : session.fee_lines) {
+  for (const ArrearsFor::FeeLine& paidLine : given_.fee_lines) {
     if (next == (item.empty() ? lines.size() : 1)) return;
     const bool meant = item.empty() ? paidLine.paid > Money() : paidLine.item == item;
     if (!meant || paidLine.due == paidLine.paid) continue;

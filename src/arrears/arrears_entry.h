@@ -8,6 +8,25 @@
 
 namespace arrears {
 
+// What the entry is opened with.
+struct ArrearsFor {
+  std::string current_xh{}, current_xq{};
+  bool from_fee_window = false;
+  struct FeeLine {
+    std::string item;
+    base::Money due, paid;
+  };
+  std::vector<FeeLine> fee_lines{};  // of the fee window, as they were when it opened the entry
+  kit::Panel ConsolePanel = kit::Panel::None;
+  std::array<std::string, 10> receipt_remarks{};  // what the next receipt says so far
+};
+
+// What became of it. Left without saving, nothing was added and the receipt says nothing.
+struct ArrearsEntered {
+  bool added = false;
+  std::array<std::string, 10> receipt_remarks;
+};
+
 struct InstalmentFields {
   InstalmentFields(kit::Screen& screen, const std::string& suffix);
   bool filled() const { return !date.blank() && !amount.blank(); }
@@ -26,7 +45,7 @@ struct DebtLine {
 
 class Formqfcl : public kit::Screen {  // 学生欠费信息编辑
  public:
-  explicit Formqfcl(kit::Desk& desk);
+  explicit Formqfcl(kit::Desk& desk, ArrearsFor given = {});
   void load() override;
   kit::Layout layout() override;
 
@@ -38,6 +57,8 @@ class Formqfcl : public kit::Screen {  // 学生欠费信息编辑
   kit::Field status{*this, "status", "", kit::Entry::Shown};
   std::array<DebtLine, 3> lines{DebtLine(*this, "0"), DebtLine(*this, "1"), DebtLine(*this, "2")};
   std::string xtbh;  // the system number, not shown
+
+  ArrearsEntered answer;
 
   kit::Action confirm{*this, "confirm", "确认", "check"}, cancel{*this, "cancel", "撤销", "x"};
 
@@ -61,8 +82,9 @@ class Formqfcl : public kit::Screen {  // 学生欠费信息编辑
   bool valid();
   std::vector<kit::Rule> rules();
   ArrearsEntry entry() const;
-  void remind();
+  std::array<std::string, 10> reminders() const;
 
+  ArrearsFor given_;  // its current_xh goes with the student that is looked up
   std::string takenName_;
 };
 

@@ -9,7 +9,7 @@ namespace arrears {
 constexpr const char* fault = "错误提示";
 
 bool Formqfcl::sameNumber() {
-  const std::string inUse = base::trim(desk.session.current_xh);
+  const std::string inUse = base::trim(given_.current_xh);
   if (xh.trimmed() == inUse) return true;
   if (askStop("学号已被修改，不能录入！是否还原该生正确的学号 ？     ", fault)) xh.set(inUse);
   else xh.focus();
@@ -56,7 +56,7 @@ bool Formqfcl::valid() { return sameNumber() && kit::holds(desk.person, rules())
 
 ArrearsEntry Formqfcl::entry() const {
   const kit::Session& session = desk.session;
-  const bool keyedInPanel = session.ConsolePanel == kit::Panel::Arrears;
+  const bool keyedInPanel = given_.ConsolePanel == kit::Panel::Arrears;
   ArrearsEntry entry{.xh = xh.trimmed(),
                      .xm = xm.trimmed(),
                      .bjmc = bjmc.trimmed(),
@@ -81,23 +81,24 @@ ArrearsEntry Formqfcl::entry() const {
 }
 
 // The first line alone reminds, below what the fee window has put first on the receipt.
-void Formqfcl::remind() {
-  auto& remarks = desk.session.receipt_remarks;
-  if (!desk.session.arrears_in_remark) return remarks.fill("");
+std::array<std::string, 10> Formqfcl::reminders() const {
+  if (!desk.session.arrears_in_remark) return {};
+  std::array<std::string, 10> remarks = given_.receipt_remarks;
   for (std::size_t place = 0; place < lines[0].instalments.size(); ++place) {
     const InstalmentFields& typed = lines[0].instalments[place];
     if (typed.filled())
       remarks[place + 1] = base::Date::parse(typed.date.trimmed()).value().chinese() + "前需补交" +
                            base::Money::leading(typed.amount.text()).fixed2() + "元";
   }
+  return remarks;
 }
 
 void Formqfcl::save() {
   if (!valid()) return;
   addArrears(desk.store, entry(), desk.clock.today());
-  remind();
-  inform("欠费信息录入成功 ！     ", "信息提示");
+  answer = {true, reminders()};
   close();
+  inform("欠费信息录入成功 ！     ", "信息提示");
 }
 
 }  // namespace arrears

@@ -46,9 +46,24 @@ void addArrears(store::Store& store, const ArrearsEntry& entry, base::Date today
   unit.finish();
 }
 
-void settleArrears(store::Store& store, const std::string& lsh, base::Money paid, base::Date today) {
-  RecordSet row(store, rowOf(lsh));
-  if (row.empty()) return;
+namespace {
+
+// The row as it is now, when it is still what the person saw.
+RecordSet unchanged(store::Store& store, const OpenRow& seen) {
+  const auto refuse = [](const std::string& what) {
+    throw store::StoreError(store::Fault::RowGone, what + "，请重新加载欠费后再收费！");
+  };
+  RecordSet row(store, "select * from qfjl");
+  if (!row.goTo(seen.mark)) refuse("要补交的欠费记录已被其他计算机删除");
+  const std::string debt = "“" + row.get("sfxm").trimmed() + "”的欠费已由其他计算机";
+  const base::Money open = row.get("bjje").money() - row.get("sbjje").money();
+  if (row.get("clfs").trimmed() == waived) refuse(debt + "减免");
+  if (open <= base::Money()) refuse(debt + "结清");
+  if (open != seen.open || row.get("xh").trimmed() != seen.xh) refuse(debt + "改动");
+  return row;
+}
+
+void addPayment(RecordSet& row, base::Money paid, base::Date today) {
   const base::Money due = row.get("bjje").money();
   const base::Money already = row.get("sbjje").money() + paid;
   row.set("sbjrq", today);
@@ -57,6 +72,14 @@ void settleArrears(store::Store& store, const std::string& lsh, base::Money paid
   if (due > already) row.set("clfs", partlyPaid);
   if (due == already) row.set("clfs", settled);
   row.update();
+}
+
+}  // namespace
+
+void settleArrears(store::Store& store, std::span<const ArrearsPayment> payments, base::Date today) {
+  std::vector<RecordSet> rows;
+  for (const ArrearsPayment& payment : payments) rows.push_back(unchanged(store, payment.row));
+  for (std::size_t index = 0; index < rows.size(); ++index) addPayment(rows[index], payments[index].paid, today);
 }
 
 void editArrears(store::Store& store, const std::string& lsh,

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <optional>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -41,8 +42,21 @@ std::string nextArrearsNumber(store::Store& store, base::Date today);
 // Writes a row for each instalment, in one unit of work that also takes the numbers.
 void addArrears(store::Store& store, const ArrearsEntry& entry, base::Date today);
 
-// Adds a payment to a row and moves its state on; a row that is gone meanwhile is left out.
-void settleArrears(store::Store& store, const std::string& lsh, base::Money paid, base::Date today);
+// An open row as a person saw it.
+struct OpenRow {
+  std::int64_t mark = 0;
+  std::string xh;
+  base::Money open;
+};
+
+struct ArrearsPayment {
+  OpenRow row;
+  base::Money paid;
+};
+
+// Adds the payments to their rows and moves the states on, inside the caller's unit of work. Raises a StoreError, in
+// words and before anything is written, when another desk has paid, waived or changed one of the rows meanwhile.
+void settleArrears(store::Store& store, std::span<const ArrearsPayment> payments, base::Date today);
 
 // Writes the columns given of the row with this number; raises Fault::RowGone when it is gone meanwhile.
 void editArrears(store::Store& store, const std::string& lsh,

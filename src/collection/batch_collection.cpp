@@ -1,25 +1,24 @@
 #include "collection/batch_collection.h"
 
+#include "base/text.h"
 #include "collection/payment_ledger.h"
 
 namespace collection {
 
 using store::RecordSet;
-using store::Sql;
 
-BatchResult collectBatch(store::Store& store, const Batch& batch, base::DateTime now) {
+BatchResult collectBatch(store::Store& store, const Batch& batch, platform::Clock& clock) {
   BatchResult result;
   std::vector<Receipt> receipts;
+  std::vector<std::int64_t> marks;
+  for (const BatchPayment& payment : batch.payments) marks.push_back(payment.student);
   store::Unit unit(store);
-  for (const BatchPayment& payment : batch.payments) {
-    // By name, as the teacher's list has it: of two students of one name the first pays for both. Who is whom is put
-    // right in the payment records.
-    RecordSet student(store, Sql("select * from xs where bjmc='") + batch.bjmc + "' and xm='" + payment.xm + "'");
-    if (student.empty()) {
-      result.missing.push_back(payment.xm);
-      continue;
-    }
-    const auto copied = [&](const char* column) { return student.get(column).trimmed(); };
+  RecordSet students(store, "select * from xs");
+  auto payment = batch.payments.begin();
+  students.visit(marks, [&](bool there) {
+    const BatchPayment& paid = *payment++;
+    const auto copied = [&](const char* column) { return students.get(column).trimmed(); };
+    if (!there || !base::sameText(copied("bjmc"), batch.bjmc)) return result.missing.push_back(paid.xm);
     receipts.push_back({.xh = copied("xh"),
                         .xm = copied("xm"),
                         .bjmc = copied("bjmc"),
@@ -29,12 +28,12 @@ BatchResult collectBatch(store::Store& store, const Batch& batch, base::DateTime
                         .jffs = {},
                         .skr = batch.skr,
                         .jfrq = batch.jfrq,
-                        .lines = {{batch.sfxm, payment.je, ""}},
+                        .lines = {{batch.sfxm, paid.je}},
                         .bz = "集中收费"});
-    ++result.students;
-    result.total += payment.je;
-  }
-  saveReceipts(store, receipts, now);
+    result.total += paid.je;
+  });
+  result.students = static_cast<int>(receipts.size());
+  saveReceipts(store, receipts, clock);
   unit.finish();
   return result;
 }

@@ -6,11 +6,13 @@
 
 #include "base/date.h"
 #include "base/money.h"
+#include "platform/clock.h"
 #include "store/store.h"
 
 namespace collection {
 
 struct BatchPayment {
+  std::int64_t student = 0;  // the mark of the row in the register
   std::string xm;
   base::Money je;
 };
@@ -24,10 +26,10 @@ struct Batch {
 struct BatchResult {
   int students = 0;
   base::Money total;
-  std::vector<std::string> missing;  // names that the class no longer has: nothing was written for them
+  std::vector<std::string> missing;  // who has left the class or the school: nothing was written for them
 };
 
-// Looks the students up and writes their rows in one unit of work.
-BatchResult collectBatch(store::Store& store, const Batch& batch, base::DateTime now);
+// Looks at the students again and writes their rows in one unit of work.
+BatchResult collectBatch(store::Store& store, const Batch& batch, platform::Clock& clock);
 
 }  // namespace collection

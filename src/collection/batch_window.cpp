@@ -5,7 +5,6 @@
 #include "base/text.h"
 #include "collection/batch_voucher.h"
 #include "collection/payment_ledger.h"
-#include "kit/rows.h"
 #include "kit/validation.h"
 
 namespace collection {
@@ -18,7 +17,8 @@ BatchCell::BatchCell(kit::Screen& screen, std::size_t index)
   clear();
 }
 
-void BatchCell::show(const std::string& name) {
+void BatchCell::show(const std::string& name, std::int64_t mark) {
+  student = mark;
   tick.setCaption(name);
   tick.show(true);
   je.show(true);
@@ -35,8 +35,8 @@ void BatchCell::clear() {
 Formzctsf7::Formzctsf7(kit::Desk& all) : Screen(all, "Formzctsf7", "收费前台集中收费窗口") {
   standard.rightAligned = true;
   for (std::size_t index = 0; index < mostStudents; ++index) wireCell(cells.emplace_back(*this, index));
-  sfxm.onDrop([this] { sfxm.setChoices(kit::columnTexts(desk.store, "select * from sfxmb", "sfxmmc")); });
-  xq.onDrop([this] { xq.setChoices(kit::columnTexts(desk.store, "select xq from jfjl group by xq", "xq")); });
+  sfxm.offers("select * from sfxmb", "sfxmmc");
+  xq.offers("select xq from jfjl group by xq", "xq");
   sfxm.onChange([this] { showStandard(); });
   classes.onDoubleClick([this] { chooseClass(); });
   tickAll.onPress([this] { tickOrUntickAll(); });
@@ -51,8 +51,7 @@ void Formzctsf7::load() {
 }
 
 void Formzctsf7::startAnew() {
-  // The session's student number holds the class here; who opens this screen takes care of the student's.
-  desk.session.current_xh.clear();
+  bjmc_.clear();
   clearCells();
   classes.setSelected(-1);
   students.setTitle("请先在左边选择班级");
@@ -65,7 +64,7 @@ void Formzctsf7::startAnew() {
 
 void Formzctsf7::moveOnFrom(const kit::Member& member) {
   // The class is chosen in its list before there is an amount to go on to.
-  if (&member == &jfrq && desk.session.current_xh.empty()) classes.focus();
+  if (&member == &jfrq && bjmc_.empty()) classes.focus();
   else Screen::moveOnFrom(member);
 }
 
@@ -87,13 +86,16 @@ void Formzctsf7::clearCells() {
 }
 
 void Formzctsf7::chooseClass() {
-  const std::string bjmc = base::trim(classes.key());
+  bjmc_ = base::trim(classes.key());
   clearCells();
-  desk.session.current_xh = bjmc;
-  const auto names = kit::columnTexts(desk.store, Sql("select * from xs where bjmc='") + bjmc + "'", "xm");
+  std::vector<std::string> names;
+  auto ofClass = rows(Sql("select * from xs where bjmc='") + bjmc_ + "'");
+  store::forEach(ofClass, [&](store::RecordSet& student) {
+    names.push_back(student.get("xm").trimmed());
+    if (names.size() <= cells.size()) cells[names.size() - 1].show(names.back(), student.mark());
+  });
   const std::size_t shown = std::min(names.size(), cells.size());
-  for (std::size_t index = 0; index < shown; ++index) cells[index].show(names[index]);
-  students.setTitle(bjmc + "：" + std::to_string(names.size()) + " 名学生" +
+  students.setTitle(bjmc_ + "：" + std::to_string(names.size()) + " 名学生" +
                     (shown < names.size() ? "，只列出前 " + std::to_string(shown) + " 名" : ""));
   person.clear();
   person.setChoices(names);
@@ -104,9 +106,8 @@ void Formzctsf7::chooseClass() {
 // Of the class, also where the fee window goes by the enrolment form: the money is handed in by the class.
 void Formzctsf7::showStandard() {
   standard.clear();
-  const std::string& bjmc = desk.session.current_xh;
-  if (bjmc.empty() || sfxm.blank()) return;
-  auto found = rows(Sql("select * from sfbzb where bjmc='") + bjmc + "' and sfxmmc='" + sfxm.trimmed() + "'");
+  if (bjmc_.empty() || sfxm.blank()) return;
+  auto found = rows(Sql("select * from sfbzb where bjmc='") + bjmc_ + "' and sfxmmc='" + sfxm.trimmed() + "'");
   if (!found.empty()) standard.set(found.get("je").money().fixed2());
 }
 
@@ -144,22 +145,22 @@ bool Formzctsf7::valid() {
 }
 
 Batch Formzctsf7::batch() const {
-  Batch batch{.bjmc = desk.session.current_xh,
+  Batch batch{.bjmc = bjmc_,
               .sfxm = sfxm.trimmed(),
               .xq = xq.trimmed(),
               .skr = desk.session.SessionUser,
-              .jfrq = base::Date::parse(jfrq.trimmed()).value(),
+              .jfrq = jfrq.date().value(),
               .payments = {}};
   for (const BatchCell& cell : cells)
     if (cell.shown() && !cell.amount().zero() && !base::blank(cell.tick.caption()))
-      batch.payments.push_back({cell.tick.caption(), cell.amount()});
+      batch.payments.push_back({cell.student, cell.tick.caption(), cell.amount()});
   return batch;
 }
 
 void Formzctsf7::collect() {
   if (!valid()) return;
   const Batch wanted = batch();
-  const BatchResult result = collectBatch(desk.store, wanted, desk.clock.now());
+  const BatchResult result = collectBatch(desk.store, wanted, desk.clock);
   const auto voucher = batchVoucher({.school = desk.session.SchoolName,
                                      .person = person.trimmed(),
                                      .xq = wanted.xq,
@@ -167,7 +168,7 @@ void Formzctsf7::collect() {
                                      .sfxm = wanted.sfxm,
                                      .jfrq = wanted.jfrq.plain(),
                                      .cashier = wanted.skr,
-                                     .standard = base::Money::leading(standard.text()),
+                                     .standard = standard.money(),
                                      .students = result.students,
                                      .total = result.total});
   // The money is in the ledger now: whatever the printer says, nobody confirms it twice.

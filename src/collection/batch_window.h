@@ -14,10 +14,11 @@ struct BatchCell {
 
   kit::Check tick;  // its caption is the name
   kit::Field je;
+  std::int64_t student = 0;
 
   bool shown() const { return tick.visible(); }
   base::Money amount() const { return base::Money::leading(je.text()); }
-  void show(const std::string& name);
+  void show(const std::string& name, std::int64_t mark);
   void clear();
 };
 
@@ -53,6 +54,7 @@ class Formzctsf7 : public kit::Screen {  // 收费前台集中收费窗口
   bool valid();
   Batch batch() const;
   void collect();
+  std::string bjmc_;  // the class that was chosen
 };
 
 }  // namespace collection

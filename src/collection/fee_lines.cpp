@@ -45,7 +45,7 @@ void FeeLine::clear() {
   tick.set(false);
   tick.show(false);
   for (kit::Field* field : {&place, &sfxm, &due, &paid}) field->clear();
-  lsh.clear();
+  owed = {};
 }
 
 std::optional<base::Money> loadStandards(store::Store& store, const StandardBasis& basis, FeeLines& lines) {
@@ -94,7 +94,7 @@ std::optional<base::Money> loadArrears(store::Store& store, const std::string& x
   const bool any = fillLines(arrears, lines, [&](FeeLine& line, std::size_t) {
     const base::Money open = arrears.get("bjje").money() - arrears.get("sbjje").money();
     const auto planned = arrears.get("bjrq").date();
-    line.lsh = arrears.get("lsh").trimmed();
+    line.owed = {arrears.mark(), arrears.get("xh").trimmed(), open};
     line.place.set(arrears.get("bjrq").trimmed());
     line.sfxm.set(arrears.get("sfxm").trimmed());
     line.offer(open);

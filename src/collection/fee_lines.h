@@ -5,6 +5,7 @@
 #include <array>
 #include <optional>
 
+#include "arrears/arrears_ledger.h"
 #include "kit/screen.h"
 
 namespace collection {
@@ -16,7 +17,7 @@ struct FeeLine {
   kit::Field sfxm, due;
   kit::Check tick;  // shown only when there is a due amount
   kit::Field paid;
-  std::string lsh;  // of the arrears row that the line stands for
+  arrears::OpenRow owed;  // the arrears row that the line stands for
 
   bool hasItem() const { return !sfxm.blank(); }
   base::Money dueAmount() const { return base::Money::leading(due.text()); }

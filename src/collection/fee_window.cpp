@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/text.h"
-#include "kit/rows.h"
 #include "kit/validation.h"
 
 namespace collection {
@@ -11,7 +10,10 @@ namespace collection {
 constexpr kit::Colour withinDue{0, 0, 255}, aboveDue{255, 0, 255};
 constexpr kit::Colour normalHeading{0, 96, 96}, arrearsHeading{192, 0, 0};
 
-Formzctsf4::Formzctsf4(kit::Desk& all) : Screen(all, "Formzctsf4", "收费窗口") {
+Formzctsf4::Formzctsf4(kit::Desk& all, FeeWindowFor given)
+    : Screen(all, "Formzctsf4", "收费窗口"),
+      current_xh(std::move(given.current_xh)),
+      fee_normal_mode(given.fee_normal_mode) {
   xq.setTip("新学期收费，请在此修改");
   confirm.enable(false);
   arrearsEntry.enable(false);
@@ -21,10 +23,10 @@ Formzctsf4::Formzctsf4(kit::Desk& all) : Screen(all, "Formzctsf4", "收费窗口
 
   for (FeeLine& line : lines) wireLine(line);
   xh.onChange([this] { arrearsEntry.enable(!xh.blank()); });
-  jffs.onDrop([this] { jffs.setChoices(kit::columnTexts(desk.store, "select jffs from jfjl group by jffs", "jffs")); });
+  jffs.offers("select jffs from jfjl group by jffs", "jffs");
   totalDue.onChange([this] {
     allLines.set(false);
-    allLines.enable(!base::Money::leading(totalDue.text()).zero());
+    allLines.enable(!totalDue.money().zero());
   });
   allLines.onChange([this] { allLines.on() ? tickAll() : untickAll(); });
   arrearsMode.onChange([this] { switchMode(); });
@@ -34,11 +36,7 @@ Formzctsf4::Formzctsf4(kit::Desk& all) : Screen(all, "Formzctsf4", "收费窗口
 }
 
 void Formzctsf4::load() {
-  kit::Session& session = desk.session;
-  session.arrears_entry_shown = false;
-  session.receipt_remarks.fill("");
-  session.receipt_summaries.fill("");
-  if (session.fee_normal_mode) {
+  if (fee_normal_mode) {
     loadStudent();
     loadLines();
   } else {
@@ -65,7 +63,7 @@ void Formzctsf4::moveOnFrom(const kit::Member& member) {
 }
 
 void Formzctsf4::switchMode() {
-  desk.session.fee_normal_mode = !arrearsMode.on();
+  fee_normal_mode = !arrearsMode.on();
   clearAll();
   loadStudent();
   loadLines();
@@ -73,10 +71,9 @@ void Formzctsf4::switchMode() {
 }
 
 void Formzctsf4::showMode() {
-  const bool normal = desk.session.fee_normal_mode;
-  arrearsMode.setCaption(normal ? "加载欠费" : "正常收费");
-  modeHeading.set(normal ? "正常收费" : "补交欠费");
-  modeHeading.setColour(normal ? normalHeading : arrearsHeading);
+  arrearsMode.setCaption(fee_normal_mode ? "加载欠费" : "正常收费");
+  modeHeading.set(fee_normal_mode ? "正常收费" : "补交欠费");
+  modeHeading.setColour(fee_normal_mode ? normalHeading : arrearsHeading);
 }
 
 void Formzctsf4::clearAll() {
@@ -86,8 +83,7 @@ void Formzctsf4::clearAll() {
 }
 
 void Formzctsf4::loadStudent() {
-  store::RecordSet student =
-      rows(store::Sql("select * from xs where xh='") + base::trim(desk.session.current_xh) + "'");
+  store::RecordSet student = rows(store::Sql("select * from xs where xh='") + base::trim(current_xh) + "'");
   if (!student.empty()) {
     xh.set(student.get("xh").trimmed());
     xm.set(student.get("xm").trimmed());
@@ -105,19 +101,19 @@ void Formzctsf4::loadLines() {
   const kit::Session& session = desk.session;
   const bool byClass = session.standard_basis_class;
   const StandardBasis basis{byClass, (byClass ? bjmc : rxxs).trimmed()};
-  const auto total = !session.fee_normal_mode ? loadArrears(desk.store, base::trim(session.current_xh),
-                                                            desk.clock.today(), session.due_rows_ticked, lines)
-                     : session.only_items     ? loadStandards(desk.store, basis, lines)
-                                              : loadAllItems(desk.store, basis, lines);
+  const auto total = !fee_normal_mode     ? loadArrears(desk.store, base::trim(current_xh), desk.clock.today(),
+                                                        session.due_rows_ticked, lines)
+                     : session.only_items ? loadStandards(desk.store, basis, lines)
+                                          : loadAllItems(desk.store, basis, lines);
   if (total) totalDue.set(total->fixed2());
 }
 
 void Formzctsf4::wireLine(FeeLine& line) {
   line.tick.onChange([&line] { line.paid.set(line.tick.on() ? line.due.text() : ""); });
   line.paid.onChange([this, &line] { amountChanged(line); });
-  line.paid.onLeave([this, &line] { settleAmount(line); });
+  line.paid.onLeave([this, &line] { completeAmount(line); });
   line.paid.onEnter([this, &line] {
-    if (settleAmount(line)) moveOnFrom(line.paid);  // a refused amount keeps the focus
+    if (completeAmount(line)) moveOnFrom(line.paid);  // a refused amount keeps the focus
   });
 }
 
@@ -151,8 +147,8 @@ void Formzctsf4::amountChanged(FeeLine& line) {
 }
 
 // True when the amount can stand.
-bool Formzctsf4::settleAmount(FeeLine& line) {
-  if (kit::filledNotNumeric(line.paid)()) {
+bool Formzctsf4::completeAmount(FeeLine& line) {
+  if (kit::filledNotAmount(line.paid)()) {
     stop("金额应该是数字，请输入数字 ！    ", "错误提示");
     line.paid.clear();
     line.paid.focus();

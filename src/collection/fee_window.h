@@ -5,12 +5,18 @@
 
 #include "collection/fee_lines.h"
 #include "collection/payment_ledger.h"
+#include "collection/receipt.h"
 
 namespace collection {
 
+struct FeeWindowFor {
+  std::string current_xh;
+  bool fee_normal_mode = true;  // else the student's arrears are paid
+};
+
 class Formzctsf4 : public kit::Screen {  // 收费窗口
  public:
-  explicit Formzctsf4(kit::Desk& desk);
+  explicit Formzctsf4(kit::Desk& desk, FeeWindowFor given = {});
   void load() override;
   kit::Layout layout() override;
   void moveOnFrom(const kit::Member& member) override;
@@ -23,7 +29,10 @@ class Formzctsf4 : public kit::Screen {  // 收费窗口
   kit::Field xq{*this, "xq", "交费所属学期"};
   kit::Field jfrq{*this, "jfrq", "交费日期", kit::Entry::Date};
   kit::Field jffs{*this, "jffs", "交费方式", kit::Entry::Pick};
-  std::string xtbh;
+  std::string xtbh, current_xh;
+  bool fee_normal_mode;
+  bool arrears_entry_shown = false;  // by a shortfall: not a second time
+  ReceiptNotes notes;                // of the receipt to come
 
   kit::Field modeHeading{*this, "modeHeading", "", kit::Entry::Shown};
   kit::Check arrearsMode{*this, "arrearsMode", "加载欠费"};
@@ -53,18 +62,17 @@ class Formzctsf4 : public kit::Screen {  // 收费窗口
   void tickAll();
   void untickAll();
   void amountChanged(FeeLine& line);
-  bool settleAmount(FeeLine& line);
+  bool completeAmount(FeeLine& line);
 
   // Confirming, in fee_window_confirm.cpp.
   void confirmPayment();
   bool prepareShortfall();
   void enterArrears();
-  void handToArrearsEntry();
   void openArrearsEntry();
   bool valid();
   void save();
   Receipt receipt() const;
-  void writeArrearsRemarks();
+  void remarkArrears(ReceiptNotes& printed) const;
   void print(const std::string& fpbh);
 };
 

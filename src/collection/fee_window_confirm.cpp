@@ -1,5 +1,6 @@
 // From the confirm button to the last row and the receipt.
 #include <algorithm>
+#include <utility>
 
 #include "arrears/arrears_entry.h"
 #include "base/text.h"
@@ -13,9 +14,9 @@
 namespace collection {
 
 void Formzctsf4::confirmPayment() {
-  // A key can confirm while an amount is still being typed: it is settled as if the field had been left.
-  if (!std::all_of(lines.begin(), lines.end(), [this](FeeLine& line) { return settleAmount(line); })) return;
-  if (desk.session.fee_normal_mode) {
+  // A key can confirm while an amount is still being typed: it is taken as if the field had been left.
+  if (!std::all_of(lines.begin(), lines.end(), [this](FeeLine& line) { return completeAmount(line); })) return;
+  if (fee_normal_mode) {
     kit::loadArrearsSettings(desk);
     if (desk.session.shortfall_opens_arrears && !prepareShortfall()) return;
   }
@@ -25,46 +26,38 @@ void Formzctsf4::confirmPayment() {
 // What the item named by the settings lacks is entered as arrears before the payment is written. False: without a line
 // of that item the button does nothing, until the setting names an item of the window again.
 bool Formzctsf4::prepareShortfall() {
-  kit::Session& session = desk.session;
-  const std::string item = base::trim(session.arrears_item);
+  const std::string item = base::trim(desk.session.arrears_item);
   const auto line =
       std::find_if(lines.begin(), lines.end(), [&](const FeeLine& one) { return one.sfxm.trimmed() == item; });
   if (line == lines.end()) return false;
   const base::Money due = line->dueAmount(), paid = line->paidAmount();
   if (paid >= due) return true;
-  handToArrearsEntry();
-  session.receipt_remarks[0] =
-      session.arrears_in_remark ? "本期应交" + item + due.fixed2() + "元,欠费" + (due - paid).fixed2() + "元" : "";
-  if (!session.arrears_entry_shown) {
-    openArrearsEntry();
-    session.arrears_entry_shown = true;
-  }
+  notes.receipt_remarks[0] =
+      desk.session.arrears_in_remark ? "本期应交" + item + due.fixed2() + "元,欠费" + (due - paid).fixed2() + "元" : "";
+  if (!std::exchange(arrears_entry_shown, true)) openArrearsEntry();
   return true;
 }
 
 void Formzctsf4::enterArrears() {
   kit::loadArrearsSettings(desk);
-  desk.session.arrears_entry_shown = false;
-  handToArrearsEntry();
+  arrears_entry_shown = false;
   openArrearsEntry();
 }
 
-void Formzctsf4::handToArrearsEntry() {
-  kit::Session& session = desk.session;
-  session.from_fee_window = true;
-  session.current_xh = xh.trimmed();
-  session.current_xq = xq.trimmed();
-  for (std::size_t index = 0; index < lines.size(); ++index)
-    session.fee_lines[index] = {lines[index].sfxm.trimmed(), lines[index].dueAmount(), lines[index].paidAmount()};
-}
-
 void Formzctsf4::openArrearsEntry() {
-  open<arrears::Formqfcl>();
-  desk.session.current_xh = xh.trimmed();  // another student may have been looked up there
+  current_xh = xh.trimmed();
+  arrears::ArrearsFor given{.current_xh = current_xh,
+                            .current_xq = xq.trimmed(),
+                            .from_fee_window = true,
+                            .ConsolePanel = desk.session.ConsolePanel,
+                            .receipt_remarks = notes.receipt_remarks};
+  for (const FeeLine& line : lines)
+    given.fee_lines.push_back({line.sfxm.trimmed(), line.dueAmount(), line.paidAmount()});
+  notes.receipt_remarks = open<arrears::Formqfcl>(std::move(given)).receipt_remarks;
 }
 
 bool Formzctsf4::valid() {
-  const auto nothingPaid = [this] { return base::Money::leading(totalPaid.text()).zero(); };
+  const auto nothingPaid = [this] { return totalPaid.money().zero(); };
   const std::vector<kit::Rule> rules = {
       {&xh, kit::longerThan(xh, 20), "学号不能超过20个字符 ！       ", "操作提示"},
       {&xh, kit::blank(xh), "学号不能为空 ！       ", "错误提示"},
@@ -90,53 +83,52 @@ Receipt Formzctsf4::receipt() const {
                   .rxxs = rxxs.trimmed(),
                   .jffs = jffs.trimmed(),
                   .skr = desk.session.SessionUser,
-                  .jfrq = base::Date::parse(jfrq.trimmed()).value(),
-                  .settlesArrears = !desk.session.fee_normal_mode,
+                  .jfrq = jfrq.date().value(),
+                  .settlesArrears = !fee_normal_mode,
                   .lines = {}};
   // 0.00 counts as filled and gets its row.
   for (const FeeLine& line : lines)
-    if (!line.paid.blank()) receipt.lines.push_back({line.sfxm.trimmed(), line.paidAmount(), line.lsh});
+    if (!line.paid.blank()) receipt.lines.push_back({line.sfxm.trimmed(), line.paidAmount(), line.owed});
   return receipt;
 }
 
-void Formzctsf4::writeArrearsRemarks() {
+void Formzctsf4::remarkArrears(ReceiptNotes& printed) const {
   if (!desk.session.arrears_in_remark) return;
   for (std::size_t index = 0; index < lines.size(); ++index) {
     const FeeLine& line = lines[index];
     if (!line.hasItem()) continue;
-    const auto planned = base::Date::parse(line.place.text());
+    const auto planned = line.place.date();
     const std::string date = planned ? planned->chinese() : line.place.trimmed();
     const base::Money due = line.dueAmount(), paid = line.paidAmount();
-    desk.session.receipt_remarks[index] = paid.zero()   ? "提示：" + date + "应补交" + due.fixed2() + "元！"
-                                          : paid == due ? "补交" + date + "欠费，此笔结清！"
-                                                        : "补交" + date + "欠费，还欠" + (due - paid).fixed2() + "元";
+    printed.receipt_remarks[index] = paid.zero()   ? "提示：" + date + "应补交" + due.fixed2() + "元！"
+                                     : paid == due ? "补交" + date + "欠费，此笔结清！"
+                                                   : "补交" + date + "欠费，还欠" + (due - paid).fixed2() + "元";
   }
 }
 
 void Formzctsf4::save() {
   if (!valid()) return;
-  if (!desk.session.fee_normal_mode) writeArrearsRemarks();
-  const std::string fpbh = saveReceipt(desk.store, receipt(), desk.clock.now());
-  // The money is in the ledger now: the window closes whatever the printer says, so that nobody confirms twice. Arrears
-  // mode lasts until the receipt is printed, which looks at it, and never survives a save.
-  const kit::AtExit leaving([this] {
-    desk.session.fee_normal_mode = true;
-    close();
-  });
+  const std::string fpbh = saveReceipt(desk.store, receipt(), desk.clock);
+  // The money is in the ledger now: the window closes whatever the printer says, so that nobody confirms twice.
+  const kit::AtExit leaving([this] { close(); });
   if (askInfo("收费操作成功！打印收据吗？      ", "操作提示")) print(fpbh);
 }
 
 void Formzctsf4::print(const std::string& fpbh) {
-  kit::Session& session = desk.session;
-  session.print_fpbh = fpbh;
-  session.print_xh = xh.trimmed();
-  session.print_xm = xm.trimmed();
-  session.print_bjmc = bjmc.trimmed();
-  session.print_xq = xq.trimmed();
-  session.print_jffs = jffs.trimmed();
-  session.print_jfrq = base::Date::parse(jfrq.trimmed()).value().iso();
-  if (session.receipt_style != 3) open<Formzctsf8>();
-  open<Formzctsf5>();
+  ReceiptPrint print{.print_fpbh = fpbh,
+                     .print_xh = xh.trimmed(),
+                     .print_xm = xm.trimmed(),
+                     .print_bjmc = bjmc.trimmed(),
+                     .print_xq = xq.trimmed(),
+                     .print_jffs = jffs.trimmed(),
+                     .print_jfrq = jfrq.date().value().iso(),
+                     .fee_normal_mode = fee_normal_mode,
+                     .notes = notes};
+  desk.session.print_jffs = print.print_jffs;
+  desk.session.print_jfrq = print.print_jfrq;
+  if (!fee_normal_mode) remarkArrears(print.notes);
+  if (desk.session.receipt_style != 3) print.notes = open<Formzctsf8>(print.notes);
+  open<Formzctsf5>(print);
 }
 
 }  // namespace collection

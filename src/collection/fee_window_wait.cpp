@@ -1,12 +1,10 @@
 #include "collection/fee_window_wait.h"
 
-#include "collection/fee_window.h"
-
 namespace collection {
 
 void Formzctsf6::proceed() {
   close();  // the fee window stands until the payment is done; the notice must not
-  open<Formzctsf4>();
+  open<Formzctsf4>(given_);
 }
 
 }  // namespace collection

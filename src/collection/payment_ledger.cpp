@@ -1,8 +1,5 @@
 #include "collection/payment_ledger.h"
 
-#include <utility>
-
-#include "arrears/arrears_ledger.h"
 #include "base/text.h"
 #include "kit/rows.h"
 
@@ -32,66 +29,47 @@ std::string offeredTerm(store::Store& store, base::Date today) {
 
 namespace {
 
-// Puts receipts under the numbers behind the ledger's last row. The numbers are read once and counted on: after a clock
-// that was set back the last row stays another day's, and would give every receipt the same number.
-class LedgerWriter {
- public:
-  LedgerWriter(store::Store& store, base::DateTime now)
-      : store_(store),
-        now_(now),
-        lsh_(nextRecordNumber(store, now.date)),
-        fpbh_(nextReceiptNumber(store)),
-        ledger_(store, Sql("select * from jfjl")) {}
+void addRow(RecordSet& ledger, const Receipt& receipt, const PaidLine& line, const std::string& lsh,
+            const std::string& fpbh, const base::DateTime& now) {
+  std::vector<std::pair<std::string_view, store::Value>> row{
+      {"lsh", lsh},           {"xh", receipt.xh},     {"xm", receipt.xm}, {"bjmc", receipt.bjmc}, {"xq", receipt.xq},
+      {"xtbh", receipt.xtbh}, {"jfrq", receipt.jfrq}, {"fpbh", fpbh},     {"sfxm", line.sfxm},    {"je", line.je},
+      {"skr", receipt.skr},   {"bsh", now.plain()},   {"sftj", ""},       {"rxxs", receipt.rxxs}};
+  if (receipt.jffs) row.emplace_back("jffs", *receipt.jffs);
+  if (receipt.bz) row.emplace_back("bz", *receipt.bz);
+  kit::addRow(ledger, row);
+}
 
-  std::string write(const Receipt& receipt) {
-    for (const PaidLine& line : receipt.lines) writeRow(receipt, line);
-    if (receipt.settlesArrears)
-      for (const PaidLine& line : receipt.lines) arrears::settleArrears(store_, line.arrearsLsh, line.je, now_.date);
-    return std::exchange(fpbh_, base::nextNumber(fpbh_));
-  }
-
- private:
-  void writeRow(const Receipt& receipt, const PaidLine& line) {
-    ledger_.addNew();
-    ledger_.set("lsh", std::exchange(lsh_, base::nextNumber(lsh_)));
-    ledger_.set("xh", receipt.xh);
-    ledger_.set("xm", receipt.xm);
-    ledger_.set("bjmc", receipt.bjmc);
-    ledger_.set("xq", receipt.xq);
-    ledger_.set("xtbh", receipt.xtbh);
-    ledger_.set("jfrq", receipt.jfrq);
-    ledger_.set("fpbh", fpbh_);
-    ledger_.set("sfxm", line.sfxm);
-    ledger_.set("je", line.je);
-    ledger_.set("skr", receipt.skr);
-    ledger_.set("bsh", now_.plain());
-    ledger_.set("sftj", "");
-    ledger_.set("rxxs", receipt.rxxs);
-    if (receipt.jffs) ledger_.set("jffs", *receipt.jffs);
-    if (receipt.bz) ledger_.set("bz", *receipt.bz);
-    ledger_.update();
-  }
-
-  store::Store& store_;
-  base::DateTime now_;
-  std::string lsh_, fpbh_;
-  RecordSet ledger_;
-};
+std::vector<arrears::ArrearsPayment> arrearsOf(const Receipt& receipt) {
+  std::vector<arrears::ArrearsPayment> payments;
+  for (const PaidLine& line : receipt.lines) payments.push_back({line.owed, line.je});
+  return payments;
+}
 
 }  // namespace
 
-std::string saveReceipt(store::Store& store, const Receipt& receipt, base::DateTime now) {
-  store::Unit unit(store);
-  const std::string fpbh = LedgerWriter(store, now).write(receipt);
-  unit.finish();
-  return fpbh;
+std::string saveReceipt(store::Store& store, const Receipt& receipt, platform::Clock& clock) {
+  return saveReceipts(store, std::span(&receipt, 1), clock).front();
 }
 
-void saveReceipts(store::Store& store, std::span<const Receipt> receipts, base::DateTime now) {
+std::vector<std::string> saveReceipts(store::Store& store, std::span<const Receipt> receipts, platform::Clock& clock) {
   store::Unit unit(store);
-  LedgerWriter writer(store, now);
-  for (const Receipt& receipt : receipts) writer.write(receipt);
+  const base::DateTime now = clock.now();
+  std::size_t lines = 0;
+  for (const Receipt& receipt : receipts) {
+    lines += receipt.lines.size();
+    if (receipt.settlesArrears) arrears::settleArrears(store, arrearsOf(receipt), now.date);
+  }
+  const auto records = kit::freeNumbers(store, "jfjl", "lsh", nextRecordNumber(store, now.date), lines);
+  const auto numbers = kit::freeNumbers(store, "jfjl", "fpbh", nextReceiptNumber(store), receipts.size());
+  RecordSet ledger(store, "select * from jfjl");
+  auto record = records.begin(), number = numbers.begin();
+  for (const Receipt& receipt : receipts) {
+    for (const PaidLine& line : receipt.lines) addRow(ledger, receipt, line, *record++, *number, now);
+    ++number;
+  }
   unit.finish();
+  return numbers;
 }
 
 }  // namespace collection

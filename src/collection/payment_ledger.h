@@ -6,14 +6,15 @@
 #include <string>
 #include <vector>
 
-#include "store/record_set.h"
+#include "arrears/arrears_ledger.h"
+#include "platform/clock.h"
 
 namespace collection {
 
 struct PaidLine {
   std::string sfxm;
   base::Money je;
-  std::string arrearsLsh;  // the qfjl row that is paid by it; used only by a receipt that settles arrears
+  arrears::OpenRow owed{};  // the arrears row that is paid by it; used only by a receipt that settles arrears
 };
 
 // What one collection brings in: a jfjl row a line, all under one receipt number.
@@ -27,7 +28,8 @@ struct Receipt {
   std::optional<std::string> bz = std::nullopt;  // as jffs
 };
 
-// The numbers that follow the last row of the ledger. They are good only inside the unit of work that writes them.
+// The numbers that follow the last row of the ledger. They are good only inside the unit of work that writes them, and
+// only as far as they are free.
 std::string nextRecordNumber(store::Store& store, base::Date today);
 std::string nextReceiptNumber(store::Store& store);
 
@@ -35,10 +37,10 @@ std::string nextReceiptNumber(store::Store& store);
 // term.
 std::string offeredTerm(store::Store& store, base::Date today);
 
-// Writes the rows, settles the arrears and gives back the receipt number, in one unit of work: the numbers are taken
-// under the store's write lock, so that two computers never print one receipt number.
-std::string saveReceipt(store::Store& store, const Receipt& receipt, base::DateTime now);
-// The same for several, each under a number of its own, all numbers running on.
-void saveReceipts(store::Store& store, std::span<const Receipt> receipts, base::DateTime now);
+// Writes the rows, settles the arrears and gives back the receipt number, in one unit of work: day and numbers are
+// taken under the store's write lock, so that two computers never print one receipt number.
+std::string saveReceipt(store::Store& store, const Receipt& receipt, platform::Clock& clock);
+// The same for several, each under a number of its own.
+std::vector<std::string> saveReceipts(store::Store& store, std::span<const Receipt> receipts, platform::Clock& clock);
 
 }  // namespace collection

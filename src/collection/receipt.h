@@ -9,6 +9,22 @@
 
 namespace collection {
 
+// Summaries and remarks; a row of the receipt has the entry of its own place.
+struct ReceiptNotes {
+  std::array<std::string, 10> receipt_remarks{}, receipt_summaries{};
+};
+
+// What printing is handed; the rows are those of the receipt number.
+struct ReceiptPrint {
+  std::string print_fpbh{}, print_xh{}, print_xm{}, print_bjmc{}, print_xq{}, print_jffs{}, print_jfrq{};
+  bool fee_normal_mode = true;
+  ReceiptNotes notes{};
+};
+
+// The receipt of a payment once more, without remarks. Method and date are not read again: it shows those of the
+// receipt that was printed last.
+ReceiptPrint reprintOf(store::RecordSet& payment, const kit::Session& session);
+
 struct ReceiptRow {
   std::string sfxm;
   base::Money je;
@@ -18,17 +34,17 @@ struct PrintedReceipt {
   std::string school, fpbh, xh, xm, bjmc, xq, jffs, jfrq;
   std::vector<ReceiptRow> rows;
   base::Money total;
-  std::array<std::string, 10> remarks, summaries;  // a row has the entry of its own place
-  std::string cashier;                             // who prints it, also when another has taken the money
+  ReceiptNotes notes;
+  std::string cashier;  // who prints it, also when another has taken the money
   base::DateTime printed;
 };
 
-// The rows of the receipt number that the session hands over to printing, with everything else that it hands over.
-PrintedReceipt readReceipt(store::Store& store, const kit::Session& session, base::DateTime now);
+PrintedReceipt readReceipt(store::Store& store, const kit::Session& session, const ReceiptPrint& print,
+                           base::DateTime now);
 
 enum class ReceiptLayout { None, One, Two, Preprinted };
 
-ReceiptLayout chooseLayout(const kit::Session& session, std::size_t rows);
+ReceiptLayout chooseLayout(const kit::Session& session, bool fee_normal_mode, std::size_t rows);
 
 // One line a row, as many as there are; the page grows with them.
 platform::Drawing layoutOne(const PrintedReceipt& receipt);

@@ -22,7 +22,8 @@ void moveUp(FormLabel& label) {
 
 }  // namespace
 
-Formzctsf2::Formzctsf2(kit::Desk& desk) : Screen(desk, "Formzctsf2", "江西省学校专用收据") {
+Formzctsf2::Formzctsf2(kit::Desk& desk, const ReceiptPrint& print)
+    : Screen(desk, "Formzctsf2", "江西省学校专用收据"), print_bjmc(print.print_bjmc), print_xq(print.print_xq) {
   for (int line = 0; line < static_cast<int>(formLines); ++line) {
     const int top = 2640 + 240 * line;
     Labelsfxm.emplace_back(*this, "Labelsfxm" + std::to_string(line), 960, top, 1050);
@@ -34,8 +35,8 @@ Formzctsf2::Formzctsf2(kit::Desk& desk) : Screen(desk, "Formzctsf2", "江西省�
 
 void Formzctsf2::load() {
   if (desk.session.receipt_style != 3) return;
-  if (base::length(desk.session.print_bjmc) > 8) moveUp(Labelbjmc);
-  if (base::length(desk.session.print_xq) > 9) moveUp(Labelxq);
+  if (base::length(print_bjmc) > 8) moveUp(Labelbjmc);
+  if (base::length(print_xq) > 9) moveUp(Labelxq);
 }
 
 void Formzctsf2::fill(const PrintedReceipt& receipt) {

@@ -21,7 +21,7 @@ struct FormLabel : kit::Field {
 
 class Formzctsf2 : public kit::Screen {  // 江西省学校专用收据
  public:
-  explicit Formzctsf2(kit::Desk& desk);
+  explicit Formzctsf2(kit::Desk& desk, const ReceiptPrint& print = {});
   void load() override;
   kit::Layout layout() override;
 
@@ -44,6 +44,7 @@ class Formzctsf2 : public kit::Screen {  // 江西省学校专用收据
  private:
   std::vector<const FormLabel*> labels() const;
   double room(const FormLabel& label) const;
+  const std::string print_bjmc, print_xq;
   std::string title_;
 };
 

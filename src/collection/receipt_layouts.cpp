@@ -84,7 +84,8 @@ Drawing layoutOne(const PrintedReceipt& receipt) {
   for (std::size_t row = 0; row < rows; ++row) {
     cell(page, 28, rowY(row), form.columns[1], std::to_string(row + 1));
     payment(page, rowY(row), receipt.rows[row].sfxm, receipt.rows[row].je);
-    if (row < receipt.remarks.size()) cell(page, remarkX, rowY(row), form.right(), receipt.remarks[row]);
+    if (row < receipt.notes.receipt_remarks.size())
+      cell(page, remarkX, rowY(row), form.right(), receipt.notes.receipt_remarks[row]);
   }
   const double bottom = ruleBelow(rows + 1);
   table(page, form, rows, bottom);
@@ -94,7 +95,7 @@ Drawing layoutOne(const PrintedReceipt& receipt) {
   // What has been typed for a line without a payment stands below the table.
   constexpr std::size_t typedRemarks = 5;
   for (std::size_t entry = rows; entry < typedRemarks; ++entry)
-    cell(page, remarkX, y += pitch, form.right(), receipt.remarks[entry]);
+    cell(page, remarkX, y += pitch, form.right(), receipt.notes.receipt_remarks[entry]);
   Drawing drawing = onPaper(receipt, std::max(paperHeight, y + pitch + bottomMargin));
   drawing.pages.push_back(std::move(page));
   return drawing;
@@ -114,8 +115,8 @@ Drawing layoutTwo(const PrintedReceipt& receipt) {
         payment(page, y, row.sfxm, row.je);
       }
       if (first > 0) continue;  // only the first five summaries and remarks are printed
-      cell(page, summaryX, y, summaryTo, receipt.summaries[line]);
-      cell(page, remarkX, y, form.right(), receipt.remarks[line]);
+      cell(page, summaryX, y, summaryTo, receipt.notes.receipt_summaries[line]);
+      cell(page, remarkX, y, form.right(), receipt.notes.receipt_remarks[line]);
     }
     table(page, form, fiveRows, fiveRowsBottom);
     if (first + fiveRows >= receipt.rows.size()) total(page, form, receipt.total, fiveRowsTotalY);

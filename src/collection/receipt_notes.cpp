@@ -1,5 +1,7 @@
 #include "collection/receipt_notes.h"
 
+#include <utility>
+
 #include "kit/validation.h"
 
 namespace collection {
@@ -11,7 +13,8 @@ Formzctsf8::Line::Line(kit::Screen& screen, int place)
   number.set(std::to_string(place));
 }
 
-Formzctsf8::Formzctsf8(kit::Desk& all) : Screen(all, "Formzctsf8", "收据摘要及备注信息") {
+Formzctsf8::Formzctsf8(kit::Desk& all, ReceiptNotes proposed)
+    : Screen(all, "Formzctsf8", "收据摘要及备注信息"), answer(std::move(proposed)) {
   print.onPress([this] { keepNotes(); });
   withoutNotes.onPress([this] { dropNotes(); });
 }
@@ -19,8 +22,8 @@ Formzctsf8::Formzctsf8(kit::Desk& all) : Screen(all, "Formzctsf8", "收据摘要
 void Formzctsf8::load() {
   const bool summaries = desk.session.receipt_style != 1;  // layout one has no column for them
   for (std::size_t index = 0; index < lines.size(); ++index) {
-    lines[index].summary.set(desk.session.receipt_summaries[index]);
-    lines[index].remark.set(desk.session.receipt_remarks[index]);
+    lines[index].summary.set(answer.receipt_summaries[index]);
+    lines[index].remark.set(answer.receipt_remarks[index]);
     lines[index].summary.enable(summaries);
   }
   (summaries ? lines[0].summary : lines[0].remark).focus();
@@ -36,16 +39,16 @@ void Formzctsf8::keepNotes() {
                      kit::Box::Warning});
   if (!kit::holds(desk.person, rules)) return;
   for (std::size_t index = 0; index < lines.size(); ++index) {
-    desk.session.receipt_summaries[index] = lines[index].summary.trimmed();
-    desk.session.receipt_remarks[index] = lines[index].remark.trimmed();
+    answer.receipt_summaries[index] = lines[index].summary.trimmed();
+    answer.receipt_remarks[index] = lines[index].remark.trimmed();
   }
   close();
 }
 
 void Formzctsf8::dropNotes() {
   for (std::size_t index = 0; index < lines.size(); ++index) {
-    desk.session.receipt_summaries[index].clear();
-    desk.session.receipt_remarks[index].clear();
+    answer.receipt_summaries[index].clear();
+    answer.receipt_remarks[index].clear();
   }
   close();
 }

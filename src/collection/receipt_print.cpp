@@ -1,29 +1,24 @@
 #include "collection/receipt_print.h"
 
+#include <utility>
+
 #include "collection/receipt_form.h"
-#include "kit/at_exit.h"
 
 namespace collection {
 
-Formzctsf5::Formzctsf5(kit::Desk& all) : LoadingScreen(all, "Formzctsf5") { text.set("正在打印收据 ..."); }
+Formzctsf5::Formzctsf5(kit::Desk& all, ReceiptPrint print)
+    : LoadingScreen(all, "Formzctsf5"), print_(std::move(print)) {
+  text.set("正在打印收据 ...");
+}
 
 void Formzctsf5::proceed() {
-  std::optional<platform::Drawing> drawing;
-  {
-    // Whatever the store says: the next receipt starts without notes, and the screen goes before the preview stands.
-    const kit::AtExit leaving([this] {
-      desk.session.receipt_remarks.fill("");
-      desk.session.receipt_summaries.fill("");
-      close();
-    });
-    drawing = drawn();
-  }
-  if (drawing) desk.printer.show(*drawing);
+  close();  // whatever the store says: the notice goes before the preview stands
+  if (const auto drawing = drawn()) desk.printer.show(*drawing);
 }
 
 std::optional<platform::Drawing> Formzctsf5::drawn() const {
-  const PrintedReceipt receipt = readReceipt(desk.store, desk.session, desk.clock.now());
-  switch (chooseLayout(desk.session, receipt.rows.size())) {
+  const PrintedReceipt receipt = readReceipt(desk.store, desk.session, print_, desk.clock.now());
+  switch (chooseLayout(desk.session, print_.fee_normal_mode, receipt.rows.size())) {
     case ReceiptLayout::One: return layoutOne(receipt);
     case ReceiptLayout::Two: return layoutTwo(receipt);
     case ReceiptLayout::Preprinted: return preprintedForm(receipt);
@@ -33,7 +28,7 @@ std::optional<platform::Drawing> Formzctsf5::drawn() const {
 }
 
 platform::Drawing Formzctsf5::preprintedForm(const PrintedReceipt& receipt) const {
-  Formzctsf2 form(desk);
+  Formzctsf2 form(desk, print_);
   form.load();
   form.fill(receipt);
   return form.drawing();

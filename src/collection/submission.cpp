@@ -1,5 +1,7 @@
 #include "collection/submission.h"
 
+#include <unordered_set>
+
 #include "base/text.h"
 #include "collection/payment_columns.h"
 #include "kit/rights.h"
@@ -13,8 +15,8 @@ using store::Sql;
 namespace {
 
 // What the session's user has collected and not yet submitted.
-Sql unsubmitted(const kit::Desk& desk) {
-  return Sql("select * from jfjl where skr='") + desk.session.SessionUser + "' and sftj<>'*'";
+Sql unsubmitted(const kit::Desk& desk, Sql selected = "select * from jfjl") {
+  return selected + " where skr='" + desk.session.SessionUser + "' and sftj<>'*'";
 }
 
 }  // namespace
@@ -59,7 +61,7 @@ base::Money Formzctsf9::fill(const Sql& sql) {
 void Formzctsf9::submitMine() {
   base::Money total;
   std::vector<std::int64_t> counted;
-  RecordSet mine = rows(unsubmitted(desk));
+  RecordSet mine = rows(unsubmitted(desk, "select je from jfjl"));
   store::forEach(mine, [&](RecordSet& row) {
     total += row.get("je").money();
     counted.push_back(row.mark());
@@ -72,13 +74,32 @@ void Formzctsf9::submitMine() {
               " 元！ \n提交前，您应该先打印出收费汇总报表！您确认继续吗？  \n选择“是”提交记录；否则点“否”撤销此操作！ ",
           "操作提示"))
     return;
-  // What the user has collected at another computer meanwhile is not in the sum that was confirmed: it stays.
-  store::Unit unit(desk.store);
-  mine.setMarked(counted, "sftj", "*");
-  unit.finish();
+  if (!submitted(counted, total)) {
+    listMine();
+    return warn("您的未提交记录已在其他计算机上改动，没有提交任何记录，请核对后重新提交！     ", "操作提示");
+  }
   inform("记录提交完毕！     ", "信息提示");
   list.clear();
   summary.clear();
+}
+
+// Submits what was counted; what the user has collected at another computer meanwhile is not in the sum that was
+// confirmed, and stays. False: not all of it is there as it was, and nothing is written.
+bool Formzctsf9::submitted(const std::vector<std::int64_t>& counted, base::Money total) {
+  const std::unordered_set<std::int64_t> marks(counted.begin(), counted.end());
+  store::Unit unit(desk.store);
+  base::Money sum;
+  std::size_t found = 0;
+  RecordSet mine = rows(unsubmitted(desk, "select je,sftj from jfjl"));
+  store::forEach(mine, [&](RecordSet& row) {
+    if (!marks.contains(row.mark())) return;
+    sum += row.get("je").money();
+    ++found;
+  });
+  if (found != counted.size() || sum != total) return false;
+  mine.setMarked(counted, "sftj", "*");
+  unit.finish();
+  return true;
 }
 
 void Formzctsf9::printMine() {

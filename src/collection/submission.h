@@ -23,6 +23,7 @@ class Formzctsf9 : public kit::Screen {  // 未提交收费记录明细
   void listAll();
   base::Money fill(const store::Sql& sql);
   void submitMine();
+  bool submitted(const std::vector<std::int64_t>& counted, base::Money total);
   void printMine();
 };
 

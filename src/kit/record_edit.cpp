@@ -118,7 +118,8 @@ void RecordEdit::save() {
   }
   if (refused) return tell(desk.person, *refused);
   const Words say = words();
-  done(EditMode == Mode::Add ? say.added : EditMode == Mode::Modify ? say.modified : say.removed);
+  if (EditMode == Mode::Modify) done(say.modified, say.modifiedTitle);
+  else done(EditMode == Mode::Add ? say.added : say.removed);
 }
 
 void RecordEdit::put(store::RecordSet& set) {
@@ -134,15 +135,16 @@ void RecordEdit::put(store::RecordSet& set) {
 }
 
 // The window closes as soon as the row is in, whatever the person does with the words.
-void RecordEdit::done(const std::string& words) {
+void RecordEdit::done(const std::string& words, const std::string& title) {
   close();
-  if (!words.empty()) inform(words, "信息提示");
+  if (!words.empty()) inform(words, title);
 }
 
 Layout RecordEdit::layout() {
   Nodes fields;
   for (const Bound& one : bound()) fields.push_back(wide(one.field, one.width));
-  return {.root = column({form(std::move(fields)), buttons({confirm, cancel})}), .confirm = &confirm, .cancel = &cancel};
+  return {
+      .root = column({form(std::move(fields)), buttons({confirm, cancel})}), .confirm = &confirm, .cancel = &cancel};
 }
 
 }  // namespace kit

@@ -29,7 +29,7 @@ class RecordEdit : public Screen {
   };
   struct Words {  // an empty text is not told
     std::vector<Question> modify{}, remove{};  // asked one after the other
-    std::string added{}, modified{}, removed{};
+    std::string added{}, modified{}, removed{}, modifiedTitle = "信息提示";
   };
 
   virtual std::vector<Bound> bound() = 0;
@@ -53,12 +53,14 @@ class RecordEdit : public Screen {
   // For a name that is entered here; a name of old that holds an apostrophe can still be deleted.
   Rule noQuote(Field& field);
 
-  store::RecordSet row();                     // as it stands now; raises Fault::RowGone
-  bool changed(const Field& field) const;     // by the person, since the row was shown
+  store::RecordSet row();                        // as it stands now; raises Fault::RowGone
+  bool changed(const Field& field) const;        // by the person, since the row was shown
   std::string former(const Field& field) const;  // as the row held it when it was shown
-  // Sets what the person changed. Raises a StoreError, in words, when another desk has changed the same field meanwhile.
+  // Sets what the person changed. Raises a StoreError, in words, when another desk has changed the same field
+  // meanwhile.
   void write(store::RecordSet& row);
-  void done(const std::string& words);        // closes, and tells when there is something to tell
+  // Closes, and tells when there is something to tell.
+  void done(const std::string& words, const std::string& title = "信息提示");
   std::string now() { return desk.clock.now().plain(); }
 
   const Mode EditMode;

@@ -41,21 +41,12 @@ struct Session {
 
   // The console.
   Panel ConsolePanel = Panel::None;
-  std::string payment_selection, arrears_selection;
+  std::string arrears_selection;
   std::string summary_xh;  // the student whose payments the summary adds up
   int payment_list_mode = 5;
 
-  // The student card and the fee window.
+  // The student card.
   std::string current_xh, current_xq;
-  bool fee_normal_mode = true;
-
-  // The arrears entry, and what the fee window's lines held when it opened it.
-  bool arrears_entry_shown = false, from_fee_window = false;
-  struct FeeLine {
-    std::string item;
-    base::Money due, paid;
-  };
-  std::array<FeeLine, 10> fee_lines;
 
   // The import of amounts due: what the settings screen chose, and whether the import then came to its end.
   struct DueImport {
@@ -79,9 +70,8 @@ struct Session {
     std::vector<IncomeLine> lines;
   } income;
 
-  // Receipt printing.
-  std::string print_fpbh, print_xh, print_xm, print_bjmc, print_xq, print_jffs, print_jfrq;
-  std::array<std::string, 10> receipt_remarks, receipt_summaries;
+  // Of the receipt that was printed last: a reprint shows them again.
+  std::string print_jffs, print_jfrq;
 };
 
 }  // namespace kit

@@ -104,10 +104,8 @@ void Formzct::wireToolbar() {
   k20.onPress([this] {
     if (!may(desk, Collect)) return refuse(desk);
     refreshCard();
-    const std::string onCard = desk.session.current_xh;
     open<collection::Formzctsf7>();
-    desk.session.current_xh = onCard;  // the batch keeps its class there; the card still shows the student
-    if (!onCard.empty()) redrawLists();
+    if (!desk.session.current_xh.empty()) redrawLists();
   });
   k6.onPress([this] {
     if (!may(desk, Collect)) return refuse(desk);

@@ -72,8 +72,7 @@ void Formzct::openOverview(Overview& overview) {
 void Formzct::openPanel() {
   timer1.stop();
   if (desk.session.ConsolePanel == kit::Panel::FeeWindow) {
-    desk.session.fee_normal_mode = true;
-    open<collection::Formzctsf4>();
+    open<collection::Formzctsf4>(collection::FeeWindowFor{desk.session.current_xh});
     desk.session.ConsolePanel = kit::Panel::None;
     return redrawLists();
   }
@@ -169,10 +168,8 @@ void Formzct::editStudent(kit::Mode mode) {
 }
 
 void Formzct::editPayment(kit::Mode mode) {
-  if (payments_overview.list.selected() < 0) return;
-  desk.session.payment_selection = payments_overview.list.key();
-  desk.session.EditMode = mode;
-  open<collection::Formzctsf1>();
+  if (payments_overview.list.mark() == 0) return;
+  open<collection::Formzctsf1>(kit::Editing{mode, payments_overview.list.mark(), desk.session.ConsolePanel});
   fillAgain(payments_overview);
 }
 
@@ -180,14 +177,9 @@ void Formzct::addArrears() {
   RecordSet paid = rows("select * from jfjl order by fpbh");
   if (paid.empty()) return stop("您至少要通过收费前台录入一笔收费记录，才能在此添加欠费记录！   ", "操作提示");
   paid.last();
-  auto& session = desk.session;
-  session.current_xq = paid.get("xq").trimmed();
-  const auto keyedRows = [&] { return rows(Sql("select * from qfjl") + keyedHere()).count(); };
-  const long long before = keyedRows();
-  const std::string onCard = std::exchange(session.current_xh, "");
-  open<arrears::Formqfcl>();
-  session.current_xh = onCard;  // the entry leaves its own student there; the card still shows the one before
-  if (keyedRows() > before) arrears_overview.filter = {keyedHere()};
+  const auto entered = open<arrears::Formqfcl>(
+      arrears::ArrearsFor{.current_xq = paid.get("xq").trimmed(), .ConsolePanel = kit::Panel::Arrears});
+  if (entered.added) arrears_overview.filter = {keyedHere()};
   fillAgain(arrears_overview);
 }
 

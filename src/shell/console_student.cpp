@@ -2,6 +2,7 @@
 #include "arrears/waiver.h"
 #include "base/text.h"
 #include "collection/fee_window.h"
+#include "collection/payment_deletion.h"
 #include "collection/receipt_print.h"
 #include "kit/rows.h"
 #include "kit/settings.h"
@@ -186,8 +187,7 @@ students::Formzctxs::Collect Formzct::collectFrom() {
 }
 
 void Formzct::openFeeWindow() {
-  desk.session.fee_normal_mode = true;
-  open<collection::Formzctsf4>();
+  open<collection::Formzctsf4>(collection::FeeWindowFor{desk.session.current_xh});
   redrawLists();
 }
 
@@ -197,8 +197,7 @@ void Formzct::openFeeWindowFor(kit::List& list, const char* table) {
   RecordSet row = rows(store::Sql::table(table) + " where lsh='" + list.key() + "'");
   if (row.empty()) return;
   desk.session.current_xh = row.get("xh").trimmed();
-  desk.session.fee_normal_mode = true;
-  open<collection::Formzctsf4>();
+  open<collection::Formzctsf4>(collection::FeeWindowFor{desk.session.current_xh});
   showStudent();
 }
 
@@ -227,29 +226,19 @@ void Formzct::reprint() {
   const std::string receipt = row.get("fpbh").trimmed();
   const long long count = rows(Sql("select * from jfjl where fpbh='") + receipt + "'").count();
   if (!ask("您要重新打印的这组记录共有" + base::caption(count) + "条，确认继续吗？    ", "打印提示")) return;
-  desk.session.print_fpbh = receipt;
-  desk.session.print_xh = row.get("xh").trimmed();
-  desk.session.print_xm = row.get("xm").trimmed();
-  desk.session.print_bjmc = row.get("bjmc").trimmed();
-  desk.session.print_xq = row.get("xq").trimmed();
-  open<collection::Formzctsf5>();
+  open<collection::Formzctsf5>(collection::reprintOf(row, desk.session));
 }
 
 void Formzct::deletePayments(bool wholeReceipt) {
-  if (payments.list.selected() < 0) return;
-  RecordSet chosen = rows(Sql("select * from jfjl where lsh='") + payments.list.key() + "'");
-  if (chosen.empty()) return;
-  if (chosen.get("sftj").trimmed() == "*")
-    return inform(
-        wholeReceipt ? "这是一组已提交记录，前台不能删除它！    " : "这是一条已提交记录，前台不能删除它！    ",
-        "信息提示");
-  const std::string taker = chosen.get("skr").trimmed();
-  if (taker != desk.session.SessionUser)
-    return inform("这是操作员" + taker + "经办的收费记录，您在前台不能删除它！   ", "信息提示");
+  if (payments.list.mark() == 0) return;
+  using collection::PaymentDeletion;
+  PaymentDeletion deletion(desk.store, payments.list.mark(),
+                           wholeReceipt ? PaymentDeletion::Scope::Receipt : PaymentDeletion::Scope::Payment,
+                           desk.session.SessionUser);
+  if (const auto reason = deletion.refused()) return inform(*reason, "信息提示");
   if (!askStop("您确认是要删除选定记录吗？      ", "警告")) return;
-  kit::removeEach(desk.store, wholeReceipt ? Sql("select * from jfjl where fpbh='") + chosen.get("fpbh").trimmed() + "'"
-                                           : Sql("select * from jfjl where lsh='") + payments.list.key() + "'");
-  inform("选定记录已删除！       ", "信息提示");
+  const auto reason = deletion.carryOut();
+  inform(reason.value_or("选定记录已删除！       "), "信息提示");
   if (desk.session.payment_list_mode == 4) {
     payments.clear();
     payments.showNew(desk.session.current_xh);

@@ -13,8 +13,6 @@ struct ArrearsDesk : support::TestDesk {
   ArrearsDesk() {
     session.SessionUser = "李芳";
     session.ComputerName = "收费一号机";
-    session.current_xh = "20260001";
-    session.current_xq = "2026学年下学期";
     add("xs", {{"xh", "20260001"}, {"xm", "王小明"}, {"bjmc", "计算机1班"}, {"xtbh", "0101001"}});
     add("xs", {{"xh", "20260002"}, {"xm", "张三"}, {"bjmc", "计算机2班"}, {"xtbh", "0102001"}});
     add("xs", {{"xh", "20260003"}, {"xm", "张三"}, {"bjmc", "计算机2班"}, {"xtbh", "0102002"}});

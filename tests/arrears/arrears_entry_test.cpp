@@ -6,7 +6,12 @@ namespace {
 
 using namespace arrears;
 using namespace arrears_tests;
-using support::opened;
+
+// The entry for 王小明.
+ArrearsFor given() { return {.current_xh = "20260001", .current_xq = "2026学年下学期"}; }
+std::unique_ptr<Formqfcl> opened(ArrearsDesk& desk, ArrearsFor with = given()) {
+  return support::opened<Formqfcl>(desk, std::move(with));
+}
 
 // A line as a person sees it: item total | date amount | date amount | date amount.
 std::string shown(const DebtLine& line) {
@@ -17,7 +22,7 @@ std::string shown(const DebtLine& line) {
 
 TEST(ArrearsEntry, HelpsWithTheInstalments) {
   ArrearsDesk desk;
-  auto s = opened<Formqfcl>(desk);
+  auto s = opened(desk);
   DebtLine& line = s->lines[1];
   auto& [first, second, third] = line.instalments;
   line.sfxm.pick("学费");
@@ -39,10 +44,9 @@ TEST(ArrearsEntry, HelpsWithTheInstalments) {
 
 TEST(ArrearsEntry, FindsTheStudentAndKeepsToIt) {
   ArrearsDesk desk;
-  desk.session.current_xh.clear();
   desk.session.shortfall_opens_arrears = true;
   desk.session.arrears_item = "学费";
-  auto s = opened<Formqfcl>(desk);
+  auto s = opened(desk, {.current_xq = "2026学年下学期"});
   EXPECT_EQ(s->status.text(), "收费前台已设置为 [ 学费 ] 差额自动加载！");
   EXPECT_EQ(s->qfts.text() + s->xq.text(), "72026学年下学期");
   EXPECT_EQ(s->focused, &s->xh);
@@ -61,7 +65,7 @@ TEST(ArrearsEntry, FindsTheStudentAndKeepsToIt) {
   number(" ");
   number("9999");
   number(" 20260002 ");
-  EXPECT_EQ(s->xm.text() + s->bjmc.text() + desk.session.current_xh, "张三计算机2班20260002");
+  EXPECT_EQ(s->xm.text() + "|" + s->bjmc.text(), "张三|计算机2班");
   s->xm.type("王小");
   s->xm.leave();
   EXPECT_EQ(s->xm.text(), "张三");
@@ -69,7 +73,7 @@ TEST(ArrearsEntry, FindsTheStudentAndKeepsToIt) {
   EXPECT_EQ(s->xh.text() + s->xm.text() + s->bjmc.text(), "");
   name("张三");
   name("王小明");
-  EXPECT_EQ(s->xh.text() + desk.session.current_xh, "2026000120260001");
+  EXPECT_EQ(s->xh.text(), "20260001");
   EXPECT_EQ(s->focused, &s->lines[0].sfxm);
 
   const char* changed = "学号已被修改，不能录入！是否还原该生正确的学号 ？     ";
@@ -84,8 +88,7 @@ TEST(ArrearsEntry, FindsTheStudentAndKeepsToIt) {
 
 TEST(ArrearsEntry, StopsAtTheFirstFailure) {
   ArrearsDesk desk;
-  desk.session.current_xq.clear();
-  auto s = opened<Formqfcl>(desk);
+  auto s = opened(desk, {.current_xh = "20260001"});
   auto& lines = s->lines;
   // Everything is wrong at first; each step mends what was named.
   lines[2].sfxm.type("一二三四五六七八九十一二三四五六七八九十一");
@@ -135,9 +138,10 @@ TEST(ArrearsEntry, WritesARowAnInstalmentAndRemindsOfTheFirstLine) {
   for (const bool inPanel : panels) {
     ArrearsDesk desk;
     desk.session.arrears_in_remark = inPanel;
-    if (inPanel) desk.session.ConsolePanel = kit::Panel::Arrears;
-    desk.session.receipt_remarks.fill("旧");
-    auto s = opened<Formqfcl>(desk);
+    ArrearsFor with = given();
+    if (inPanel) with.ConsolePanel = kit::Panel::Arrears;
+    with.receipt_remarks.fill("旧");
+    auto s = opened(desk, with);
     s->lines[0].sfxm.type("学费");
     s->lines[0].total.type("300");
     s->lines[0].instalments[1].amount.type("100");
@@ -154,7 +158,8 @@ TEST(ArrearsEntry, WritesARowAnInstalmentAndRemindsOfTheFirstLine) {
     EXPECT_EQ(desk.dump("qfjl", "lsh|xh|xm|bjmc|xtbh|sfxm|qfrq|xq|bjrq|bjje|sbjrq|sbjje|clfs|qfts|skr|bsh", "lsh"),
               "20260907001" + who + "学费" + day + "2026-10-7|200" + mark + "20260907002" + who + "学费" + day +
                   "2026-11-6|100" + mark + "20260907004" + who + "书本费" + day + "2026-10-7|20" + mark);
-    const auto& remarks = desk.session.receipt_remarks;
+    EXPECT_TRUE(s->answer.added);
+    const auto& remarks = s->answer.receipt_remarks;
     EXPECT_EQ(remarks[0] + "/" + remarks[1] + "/" + remarks[2] + "/" + remarks[3],
               inPanel ? "旧/2026年10月7日前需补交200.00元/2026年11月6日前需补交100.00元/旧" : "///");
   }
@@ -173,24 +178,22 @@ TEST(ArrearsEntry, LoadsTheShortfallOfTheFeeWindow) {
   };
   for (const auto& one : cases) {
     ArrearsDesk desk;
-    desk.session.from_fee_window = true;
     desk.session.shortfall_opens_arrears = one.loads;
     desk.session.arrears_item = one.item;
-    desk.session.fee_lines = {{{"学费", Money::yuan(2400), Money::yuan(2400)},
-                               {"住宿费", Money::yuan(600), {}},
-                               {"书本费", Money::fen(35050), Money::yuan(200)},
-                               {"班费", Money::yuan(5), Money::yuan(10)},
-                               {"校服费", Money::yuan(2), Money::yuan(1)},
-                               {"水费", Money::yuan(2), Money::yuan(1)}}};
-    auto s = opened<Formqfcl>(desk);
+    ArrearsFor with = given();
+    with.from_fee_window = true;
+    with.fee_lines = {{"学费", Money::yuan(2400), Money::yuan(2400)},  {"住宿费", Money::yuan(600), {}},
+                      {"书本费", Money::fen(35050), Money::yuan(200)}, {"班费", Money::yuan(5), Money::yuan(10)},
+                      {"校服费", Money::yuan(2), Money::yuan(1)},      {"水费", Money::yuan(2), Money::yuan(1)}};
+    with.receipt_remarks.fill("x");
+    auto s = opened(desk, with);
     for (std::size_t i = 0; i < 3; ++i)
       EXPECT_EQ(s->lines[i].sfxm.text() + " " + s->lines[i].total.text(), one.items[i]);
     EXPECT_EQ(s->lines[0].instalments[0].date.text(), one.items[0] == " " ? "" : "2026-10-7");
     EXPECT_EQ(s->focused, one.loads ? &s->lines[0].instalments[1].amount : &s->xh);
-    EXPECT_FALSE(desk.session.from_fee_window);  // the next one who opens it may be another
-    desk.session.receipt_remarks.fill("x");
     s->cancel.press();
-    EXPECT_EQ(desk.session.receipt_remarks[0] + desk.session.receipt_remarks[9], "");
+    EXPECT_FALSE(s->answer.added);
+    EXPECT_EQ(s->answer.receipt_remarks[0] + s->answer.receipt_remarks[9], "");
   }
 }
 

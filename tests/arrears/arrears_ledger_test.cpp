@@ -56,8 +56,9 @@ TEST(ArrearsLedger, APaymentMovesTheStateOn) {
   for (const auto& one : cases) {
     ArrearsDesk desk;
     desk.owe("20260601001", "20260001", Money::yuan(100), one.already, one.before);
-    settleArrears(desk.store, "20260601001", one.paid, today);
-    settleArrears(desk.store, "20260601009", one.paid, today);  // gone meanwhile
+    store::RecordSet row(desk.store, "select * from qfjl");
+    const ArrearsPayment payment{{row.mark(), "20260001", Money::yuan(100) - one.already}, one.paid};
+    settleArrears(desk.store, std::span(&payment, 1), today);
     EXPECT_EQ(desk.states(), "20260601001|2026-9-7|" + one.sbjje + "|" + one.clfs + "\n");
   }
 }

@@ -13,7 +13,6 @@ using kit::Box;
 struct FeeDesk : support::TestDesk {
   explicit FeeDesk(bool standards = true) {
     session.SessionUser = "李芳";
-    session.current_xh = " 20260001 ";
     session.standard_basis_class = session.only_items = true;
     add("xs", {{"xh", "20260001"},
                {"xm", "王小明"},
@@ -27,6 +26,9 @@ struct FeeDesk : support::TestDesk {
     standard("03", "书本费", Money::fen(35050));
   }
 
+  std::unique_ptr<collection::Formzctsf4> window(bool normal = true) {
+    return support::opened<collection::Formzctsf4>(*this, collection::FeeWindowFor{" 20260001 ", normal});
+  }
   void standard(const std::string& bh, const std::string& mc, Money je, const std::string& bjmc = "计算机1班") {
     add("sfbzb", {{"bjmc", bjmc}, {"sfxmbh", bh}, {"sfxmmc", mc}, {"je", je}});
   }
@@ -54,6 +56,13 @@ struct FeeDesk : support::TestDesk {
     navigator.expect<arrears::Formqfcl>(std::move(play));
   }
 };
+
+// Texts with a separator between them.
+inline std::string shown(std::initializer_list<const kit::Field*> fields) {
+  std::string text;
+  for (const kit::Field* field : fields) text += (field == *fields.begin() ? "" : "|") + field->text();
+  return text;
+}
 
 // The lines that hold something, as a person sees them: place|item|due|tick|paid; "-" for a hidden tick box.
 inline std::string shown(const collection::Formzctsf4& window) {

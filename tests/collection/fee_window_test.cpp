@@ -11,19 +11,17 @@ using support::opened;
 
 TEST(FeeWindow, OpensOnTheStudentReadyToTick) {
   FeeDesk desk;
-  desk.session.receipt_remarks[4] = "旧备注";
-  auto window = opened<Formzctsf4>(desk);
+  auto window = desk.window();
   auto& w = *window;
-  EXPECT_EQ(w.xh.text() + w.xm.text() + w.rxrq.text() + w.rxxs.text() + w.bjmc.text() + w.xtbh,
-            "20260001王小明2026-9-1统招计算机1班0101001");
-  EXPECT_EQ(w.jfrq.text() + w.jffs.text() + w.xq.text(), "2026-9-7现金2026学年下学期");
-  EXPECT_EQ(desk.session.receipt_remarks[4], "");
+  EXPECT_EQ(shown({&w.xh, &w.xm, &w.rxrq, &w.rxxs, &w.bjmc, &w.jfrq, &w.jffs, &w.xq}),
+            "20260001|王小明|2026-9-1|统招|计算机1班|2026-9-7|现金|2026学年下学期");
+  EXPECT_EQ(w.xtbh, "0101001");
   EXPECT_EQ(w.focused, &w.allLines);
   EXPECT_FALSE(w.confirm.enabled());
 
   desk.add("jfjl", {{"fpbh", "10000009"}, {"xq", "2025学年上学期"}, {"jffs", "刷卡"}});
   desk.add("jfjl", {{"fpbh", "10000002"}, {"xq", "2024学年上学期"}, {"jffs", "现金"}});
-  auto next = opened<Formzctsf4>(desk);
+  auto next = desk.window();
   EXPECT_EQ(next->xq.text(), "2025学年上学期");
   next->jffs.pick("刷卡");
   EXPECT_EQ(next->jffs.text(), "刷卡");
@@ -50,18 +48,18 @@ TEST(FeeWindow, LoadsTheStandardsInFourWays) {
     desk.item("03", "军训费"), desk.item("01", "学费"), desk.item("02", "保险费");
     desk.session.standard_basis_class = one.byClass;
     desk.session.only_items = one.onlyItems;
-    auto window = opened<Formzctsf4>(desk);
+    auto window = desk.window();
     EXPECT_EQ(shown(*window) + window->totalDue.text(), one.lines + one.total);
   }
 }
 
 TEST(FeeWindow, HasTenLinesAtMostAndNoneAtLeast) {
   FeeDesk desk(false);
-  auto empty = opened<Formzctsf4>(desk);
+  auto empty = desk.window();
   EXPECT_EQ(shown(*empty) + empty->totalDue.text(), "");
   EXPECT_FALSE(empty->allLines.enabled());
   for (int i = 12; i >= 1; --i) desk.standard(std::to_string(100 + i), "项目" + std::to_string(i), Money::yuan(1));
-  auto full = opened<Formzctsf4>(desk);
+  auto full = desk.window();
   EXPECT_EQ(full->lines[9].sfxm.text() + full->totalDue.text(), "项目1010.00");
 }
 
@@ -69,7 +67,7 @@ TEST(FeeWindow, TicksCopyTheDueAmounts) {
   FeeDesk desk;
   desk.session.only_items = false;
   desk.item("00", "补考费"), desk.item("01", "学费"), desk.item("02", "住宿费");
-  auto window = opened<Formzctsf4>(desk);
+  auto window = desk.window();
   auto& w = *window;
   w.lines[1].tick.toggle();
   EXPECT_EQ(w.lines[1].paid.text() + " " + w.totalPaid.text(), "2400.00 2400.00");
@@ -95,7 +93,7 @@ TEST(FeeWindow, TicksCopyTheDueAmounts) {
 
 TEST(FeeWindow, ColoursAndSettlesATypedAmount) {
   FeeDesk desk;
-  auto window = opened<Formzctsf4>(desk);
+  auto window = desk.window();
   auto& paid = window->lines[0].paid;
   paid.type("2400.01");
   EXPECT_EQ(paid.colour(), (kit::Colour{255, 0, 255}));
@@ -112,6 +110,12 @@ TEST(FeeWindow, ColoursAndSettlesATypedAmount) {
   EXPECT_EQ(paid.text(), "");
   EXPECT_EQ(window->focused, &paid);
 
+  paid.type("99999999999999999999");  // more than money can hold
+  EXPECT_TRUE(window->confirm.enabled());
+  desk.person.expect(Box::Stop, "金额应该是数字，请输入数字 ！    ", "错误提示");
+  window->confirm.press();
+  EXPECT_EQ(desk.count("select * from jfjl"), 0);
+
   window->lines[5].paid.type("30");  // a line without an item keeps nothing
   window->lines[5].paid.leave();
   paid.type("  ");
@@ -126,29 +130,32 @@ TEST(FeeWindow, ArrearsModeShowsTheOpenRowsAndBack) {
   desk.arrears("20260601001", "学费", {2026, 9, 14}, Money::yuan(500), Money::yuan(120), "不足");  // in seven
   desk.arrears("20260601002", "书本费", {2026, 5, 1}, Money::yuan(60), {}, "减免");
   desk.arrears("20260601004", "书本费", {2026, 5, 1}, Money::yuan(60), Money::yuan(60), "结清");
-  auto window = opened<Formzctsf4>(desk);
+  auto window = desk.window();
   auto& w = *window;
   const std::string standards = shown(w), normalHeading = w.modeHeading.text();
   w.jffs.type("刷卡");
   w.allLines.toggle();
 
   w.arrearsMode.toggle();
-  EXPECT_FALSE(desk.session.fee_normal_mode);
   EXPECT_EQ(shown(w), "2026-9-14|学费|380.00|x|380.00\n2026-9-15|住宿费|300.00|o|\n");
-  EXPECT_EQ(w.totalDue.text() + " " + w.totalPaid.text() + w.lines[1].lsh, "680.00 380.0020260601003");
-  EXPECT_EQ(w.arrearsMode.caption() + w.allLines.caption() + w.jffs.text() + w.xm.text(), "正常收费全部选择现金王小明");
+  EXPECT_EQ(shown({&w.totalDue, &w.totalPaid, &w.jffs, &w.xm}), "680.00|380.00|现金|王小明");
+  EXPECT_EQ(w.arrearsMode.caption() + "|" + w.allLines.caption(), "正常收费|全部选择");
+  EXPECT_EQ(shown(*desk.window()), standards) << "another window starts in the normal mode";
+  EXPECT_EQ(shown(*desk.window(false)), shown(w));
   EXPECT_NE(w.modeHeading.text(), normalHeading);
 
   w.arrearsMode.toggle();
-  EXPECT_TRUE(desk.session.fee_normal_mode);
   EXPECT_EQ(shown(w) + w.arrearsMode.caption() + w.modeHeading.text(), standards + "加载欠费" + normalHeading);
   EXPECT_FALSE(w.confirm.enabled());
 }
 
 TEST(FeeWindow, WaitsUntilItsTimerTicks) {
   FeeDesk desk;
-  auto wait = opened<Formzctsf6>(desk);
-  desk.navigator.expect<Formzctsf4>([&](Formzctsf4&) { EXPECT_TRUE(wait->closed()); });
+  auto wait = opened<Formzctsf6>(desk, FeeWindowFor{"20260001"});
+  desk.navigator.expect<Formzctsf4>([&](Formzctsf4& window) {
+    EXPECT_TRUE(wait->closed());
+    EXPECT_EQ(window.xm.text(), "王小明");
+  });
   wait->timer.tick();
 }
 

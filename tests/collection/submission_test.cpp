@@ -72,6 +72,28 @@ TEST(Submission, SubmitsOwnRecordsEvenWhileAllAreListed) {
   s->submit.press();
 }
 
+// What was confirmed is what is submitted: all of it, or nothing and the operator is told.
+TEST(Submission, StopsWhenWhatWasConfirmedHasChanged) {
+  const std::function<void(store::RecordSet&)> changes[] = {
+      [](store::RecordSet& row) { row.removeAll(); }, [](store::RecordSet& row) { row.setAll("sftj", "*"); },
+      [](store::RecordSet& row) { row.setAll("skr", "王芳"); }, [](store::RecordSet& row) { row.setAll("je", "1"); }};
+  for (const auto& change : changes) {
+    Settlement desk;
+    auto s = opened<Formzctsf9>(desk);
+    desk.asked(true, true)
+        .person
+        .meanwhile([&] {
+          store::RecordSet row(desk.store, "select * from jfjl where lsh='202609070001'");
+          change(row);
+        })
+        .expect(Box::Warning, "您的未提交记录已在其他计算机上改动，没有提交任何记录，请核对后重新提交！     ",
+                "操作提示");
+    s->submit.press();
+    EXPECT_EQ(desk.value("select * from jfjl where lsh='202609070002'", "sftj"), "");
+    EXPECT_EQ(s->list.count(), desk.count("select * from jfjl where skr='李芳' and sftj<>'*'"));
+  }
+}
+
 TEST(Submission, PrintsTheSummaryAndFlagsNothing) {
   Settlement desk;
   desk.add("dy_jfjl", {{"lsh", "old"}});

@@ -43,7 +43,7 @@ struct Books {
       receipt.total += row.get("je").money();
     });
     RecordSet arrears(store, "select * from qfjl");
-    store::forEach(arrears, [&](RecordSet& row) { credited[row.get("lsh").trimmed()] = row.get("sbjje").money(); });
+    store::forEach(arrears, [&](RecordSet& row) { credited[std::to_string(row.mark())] = row.get("sbjje").money(); });
   }
 
   void note(const std::string& line) {
@@ -85,8 +85,8 @@ void expectAgreement(store::Store& store, const Books& books) {
   }
   for (const auto& [number, receipt] : found.receipts) ledger += receipt.total;
   EXPECT_EQ(ledger.fixed2(), reported.fixed2());
-  for (const auto& [lsh, amount] : books.credited)
-    EXPECT_EQ(found.credited[lsh].fixed2(), amount.fixed2()) << "arrears row " << lsh;
+  for (const auto& [row, amount] : books.credited)
+    EXPECT_EQ(found.credited[row].fixed2(), amount.fixed2()) << "arrears row " << row;
   EXPECT_EQ(submittedDigest(store), books.digest) << "a submitted row has changed";
 }
 
@@ -164,9 +164,9 @@ void takeOver(store::Store& store, Books& books) {
     EXPECT_EQ(receipt.total, books.doing->total);
     added += receipt.total;
   }
-  for (const auto& [lsh, amount] : books.credited) {
+  for (const auto& [row, amount] : books.credited) {
     creditedBefore += amount;
-    creditedNow += found.credited.at(lsh);
+    creditedNow += found.credited.at(row);
   }
   const Money credited = books.underWay == "payArrears" ? added : Money();
   EXPECT_TRUE(books.underWay == "waive" || creditedNow - creditedBefore == credited);

@@ -110,7 +110,7 @@ void Operator::play(collection::Formzctsf4& window) {
   for (const collection::FeeLine& line : window.lines) {
     if (line.paid.blank()) continue;
     ++lines;
-    if (fee_ == Fee::Arrears) credited.emplace_back(line.lsh, line.paidAmount());
+    if (fee_ == Fee::Arrears) credited.emplace_back(std::to_string(line.owed.mark), line.paidAmount());
   }
   const std::string written = std::to_string(lines) + " " + window.totalPaid.text();
   report_("doing " + written);
@@ -120,7 +120,7 @@ void Operator::play(collection::Formzctsf4& window) {
   RecordSet ledger(store_, "select * from jfjl order by fpbh");
   ledger.last();
   report_("paid " + ledger.get("fpbh").trimmed() + " " + written);
-  for (const auto& [lsh, amount] : credited) report_("credited " + lsh + " " + amount.plain());
+  for (const auto& [row, amount] : credited) report_("credited " + row + " " + amount.plain());
 }
 
 void Operator::enterArrears() {
@@ -138,8 +138,9 @@ void Operator::waive() {
   for (long long row = 0; row < list.count(); ++row)
     if (list.cell(row, 0) == lsh) list.select(row);
   if (list.key() != lsh) return;
+  const std::string row = std::to_string(list.mark());
   console_->cd61.press();
-  report_("waived " + lsh);
+  report_("waived " + row);
 }
 
 void Operator::correct() {

@@ -13,8 +13,8 @@ namespace day {
 
 // What the operator was told, a line an event; a ledger of the day that stands outside the databases.
 //   begin <action>            doing <lines> <total>        (a payment is about to be written)
-//   paid <fpbh> <lines> <total>      credited <lsh> <amount>     deleted <fpbh> <amount>
-//   waived <lsh>    corrected <lsh>  submitted <digest of all submitted rows>     end
+//   paid <fpbh> <lines> <total>      credited <row> <amount>     deleted <fpbh> <amount>
+//   waived <row>    corrected <lsh>  submitted <digest of all submitted rows>     end
 using Report = std::function<void(const std::string& line)>;
 
 std::string submittedDigest(store::Store& store);

@@ -123,10 +123,7 @@ TEST(Console, ABatchBorrowsTheNumberOfTheStudentOnTheCard) {
   auto s = opened<Formzct>(office);
   s->card.xh.type("1001");
   s->card.xh.enter();
-  office.navigator.expect<collection::Formzctsf7>([&](collection::Formzctsf7& batch) {
-    batch.classes.doubleClick(0);
-    EXPECT_EQ(office.session.current_xh, "计算机11001班");
-  });
+  office.navigator.expect<collection::Formzctsf7>([](collection::Formzctsf7& batch) { batch.classes.doubleClick(0); });
   s->k20.press();
   EXPECT_EQ(office.session.current_xh, "1001");
   EXPECT_EQ(s->card.xm.text(), "王小明");

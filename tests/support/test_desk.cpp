@@ -13,12 +13,17 @@ std::string shown(kit::Box box, const std::string& text, const std::string& titl
 }  // namespace
 
 ScriptedPerson& ScriptedPerson::expect(kit::Box box, std::string text, std::string title) {
-  script_.push_back({box, std::move(text), std::move(title)});
+  script_.push_back({box, std::move(text), std::move(title), false, [] {}});
   return *this;
 }
 
 ScriptedPerson& ScriptedPerson::answer(bool yes, kit::Box box, std::string text, std::string title) {
-  script_.push_back({box, std::move(text), std::move(title), yes});
+  script_.push_back({box, std::move(text), std::move(title), yes, [] {}});
+  return *this;
+}
+
+ScriptedPerson& ScriptedPerson::meanwhile(std::function<void()> act) {
+  script_.back().meanwhile = std::move(act);
   return *this;
 }
 
@@ -31,6 +36,7 @@ bool ScriptedPerson::met(kit::Box box, const std::string& text, const std::strin
   const Talk talk = script_.front();
   script_.pop_front();
   EXPECT_EQ(shown(box, text, title), shown(talk.box, talk.text, talk.title));
+  talk.meanwhile();
   return talk.yes;
 }
 

@@ -28,6 +28,7 @@ class ScriptedPerson : public kit::Person {
 
   ScriptedPerson& expect(kit::Box box, std::string text, std::string title);            // a message
   ScriptedPerson& answer(bool yes, kit::Box box, std::string text, std::string title);  // a question
+  ScriptedPerson& meanwhile(std::function<void()> act);  // what another desk does while the last of them stands
   void pickFile(std::optional<std::string> path) { files_.push_back(std::move(path)); }
 
   void tell(kit::Box box, const std::string& text, const std::string& title) override { met(box, text, title); }
@@ -39,6 +40,7 @@ class ScriptedPerson : public kit::Person {
     kit::Box box;
     std::string text, title;
     bool yes = false;
+    std::function<void()> meanwhile = [] {};
   };
   bool met(kit::Box box, const std::string& text, const std::string& title);
   store::Store& store_;
