@@ -49,7 +49,6 @@ void Formzctsf4::openArrearsEntry() {
   arrears::ArrearsFor given{.current_xh = current_xh,
                             .current_xq = xq.trimmed(),
                             .from_fee_window = true,
-                            .ConsolePanel = desk.session.ConsolePanel,
                             .receipt_remarks = notes.receipt_remarks};
   for (const FeeLine& line : lines)
     given.fee_lines.push_back({line.sfxm.trimmed(), line.dueAmount(), line.paidAmount()});

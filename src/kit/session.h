@@ -39,11 +39,7 @@ struct Session {
 
   Mode EditMode = Mode::Add;  // what an edit screen is opened for
 
-  // The console.
-  Panel ConsolePanel = Panel::None;
   std::string arrears_selection;
-  std::string summary_xh;  // the student whose payments the summary adds up
-  int payment_list_mode = 5;
 
   // The student card.
   std::string current_xh, current_xq;

@@ -97,28 +97,27 @@ void Formzct::wireToolbar() {
   k5.onPress([this] {
     if (!may(desk, NewStudent)) return;
     closeOverviews();
-    if (auto current_xh = open<students::Formzctxs>(kit::Editing{}, collectFrom()))
-      desk.session.current_xh = std::move(*current_xh);
+    if (auto added = open<students::Formzctxs>(kit::Editing{}, collectFrom())) current_xh = std::move(*added);
     showStudent();
   });
   k20.onPress([this] {
     if (!may(desk, Collect)) return refuse(desk);
     refreshCard();
     open<collection::Formzctsf7>();
-    if (!desk.session.current_xh.empty()) redrawLists();
+    if (card.holdsStudent()) redrawLists();
   });
   k6.onPress([this] {
     if (!may(desk, Collect)) return refuse(desk);
     closeOverviews();
     open<collection::Formzctsf9>();
-    if (!desk.session.current_xh.empty()) redrawLists();
+    if (card.holdsStudent()) redrawLists();
   });
   k11.onPress([this] {
     if (!may(desk, Collect)) return refuse(desk);
     refreshCard();
     if (rows(Sql("select * from zsgl2 where xh='") + card.xh.trimmed() + "'").count() > 0)
       return inform("该生是住校生！若您要调整该生宿舍或床位请后台操作！      ", "信息提示");
-    if (desk.session.current_xh.empty()) return inform("前台无学生信息时不能进行此操作！   ", "操作提示");
+    if (current_xh.empty()) return inform("前台无学生信息时不能进行此操作！   ", "操作提示");
     notYet(k11.caption());
   });
   // One chain over the three panels, not tied to the one in front: to reach panel 3 a user needs the rights of 1 and 2,
@@ -127,7 +126,7 @@ void Formzct::wireToolbar() {
     button.onPress([this, rights, act] {
       for (int panel = 1; panel <= 3; ++panel) {
         if (!may(desk, rights[static_cast<std::size_t>(panel - 1)])) return refuse(desk);
-        if (desk.session.ConsolePanel == static_cast<kit::Panel>(panel)) act(desk.session.ConsolePanel);
+        if (ConsolePanel == static_cast<kit::Panel>(panel)) act(ConsolePanel);
       }
     });
   };

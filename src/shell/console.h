@@ -23,6 +23,9 @@ class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
   ClassPanel classes{*this, desk};
   kit::Action class_strip{*this, "class_strip", "专业及班级", "list-tree"};  // slides the panel of classes in and out
 
+  kit::Panel ConsolePanel = kit::Panel::None;  // which overview is in front, or is about to be
+  std::string current_xh;                      // the student in hand
+
   Overview students_overview{*this, studentsPlan};
   Overview payments_overview{*this, paymentsPlan};
   Overview arrears_overview{*this, arrearsPlan};
@@ -58,6 +61,7 @@ class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
   void refreshCard();
   void openFeeWindow();
   students::Formzctxs::Collect collectFrom();
+  std::optional<store::RecordSet> selectedRow(const kit::List& list, const char* table);
   void openFeeWindowFor(kit::List& list, const char* table);
   void summarise(kit::List& list, const char* table);
   void pickFromClass();

@@ -45,7 +45,7 @@ void Formzct::clearPanel(kit::Panel panel) {
     for (const std::string_view table : clearing.tables) kit::removeEach(desk.store, Sql::table(table));
     unit.finish();
     inform(clearing.done, "信息提示");
-    if (panel == kit::Panel::Students) desk.session.current_xh.clear();
+    if (panel == kit::Panel::Students) current_xh.clear();
     refreshCard();
     if (Overview* open = inFront()) {
       fill(*open);

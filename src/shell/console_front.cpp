@@ -82,6 +82,7 @@ PaymentsFrame::PaymentsFrame(kit::Screen& screen, kit::Desk& desk)
 
 void PaymentsFrame::showAll(const std::string& xh, const std::string& name) {
   clear();
+  payment_list_mode = PaymentList::All;
   RecordSet payments(desk_.store, Sql("select * from jfjl where xh='") + xh + "' order by jfrq");
   base::Money total;
   std::string first, last;
@@ -98,6 +99,7 @@ void PaymentsFrame::showAll(const std::string& xh, const std::string& name) {
 void PaymentsFrame::showNew(const std::string& xh) {
   RecordSet payments(desk_.store, Sql("select * from jfjl where xh='") + xh + "' and sftj<>'*' order by jfrq");
   if (payments.empty()) return desk_.person.tell(kit::Box::Information, "该生没有新的交费记录！    ", "信息提示");
+  payment_list_mode = PaymentList::New;
   base::Money total;
   list.fill(payments, [&](RecordSet& row) { total += row.get("je").money(); });
   bar.set("新交费记录：" + base::caption(list.count()) + " 条，累计金额：" + total.fixed2() + " 元");
@@ -153,7 +155,7 @@ void ArrearsFrame::addRow(RecordSet& row, base::Money balance) {
   for (const kit::ListColumn& column : arrearsColumns)
     cells.push_back(column.column.empty() ? base::paddedAmount(balance)
                                           : kit::formatted(row.get(column.column), column.format));
-  list.addRow(cells);
+  list.addRow(cells, row.mark());
 }
 
 void ArrearsFrame::clear() {

@@ -24,6 +24,9 @@ class CardFrame {
   std::deque<kit::Field> details;  // what the card shows, in the order of the card's table
 };
 
+// What the list of the card's payments holds.
+enum class PaymentList { All = 3, New = 4, None = 5 };
+
 // 交费记录：the payments of the student in hand.
 class PaymentsFrame {
  public:
@@ -35,6 +38,7 @@ class PaymentsFrame {
   kit::Frame frame;
   kit::List list;
   kit::Field bar;
+  PaymentList payment_list_mode = PaymentList::None;
 
  private:
   kit::Desk& desk_;

@@ -65,19 +65,19 @@ Overview* Formzct::inFront() {
 void Formzct::openOverview(Overview& overview) {
   if (overview.frame.visible()) return;
   classes.frame.show(false);
-  desk.session.ConsolePanel = overview.plan.panel;
+  ConsolePanel = overview.plan.panel;
   timer1.start();
 }
 
 void Formzct::openPanel() {
   timer1.stop();
-  if (desk.session.ConsolePanel == kit::Panel::FeeWindow) {
-    open<collection::Formzctsf4>(collection::FeeWindowFor{desk.session.current_xh});
-    desk.session.ConsolePanel = kit::Panel::None;
+  if (ConsolePanel == kit::Panel::FeeWindow) {
+    open<collection::Formzctsf4>(collection::FeeWindowFor{current_xh});
+    ConsolePanel = kit::Panel::None;
     return redrawLists();
   }
   for (Overview* overview : {&students_overview, &payments_overview, &arrears_overview}) {
-    if (overview->plan.panel != desk.session.ConsolePanel) {
+    if (overview->plan.panel != ConsolePanel) {
       overview->frame.show(false);
       continue;
     }
@@ -85,7 +85,7 @@ void Formzct::openPanel() {
     try {
       if (desk.session.auto_load_lists) fill(*overview);
     } catch (...) {  // the panel did not open: its button opens it again
-      desk.session.ConsolePanel = kit::Panel::None;
+      ConsolePanel = kit::Panel::None;
       throw;
     }
     overview->frame.show(true);
@@ -141,7 +141,7 @@ void Formzct::closeOverviews() {
     if (open == &students_overview) stampKeyedRows("xs");
     if (open == &arrears_overview) stampKeyedRows("qfjl");
   }
-  desk.session.ConsolePanel = kit::Panel::None;
+  ConsolePanel = kit::Panel::None;
 }
 
 void Formzct::stampKeyedRows(const char* table) {
@@ -169,7 +169,7 @@ void Formzct::editStudent(kit::Mode mode) {
 
 void Formzct::editPayment(kit::Mode mode) {
   if (payments_overview.list.mark() == 0) return;
-  open<collection::Formzctsf1>(kit::Editing{mode, payments_overview.list.mark(), desk.session.ConsolePanel});
+  open<collection::Formzctsf1>(kit::Editing{mode, payments_overview.list.mark(), ConsolePanel});
   fillAgain(payments_overview);
 }
 

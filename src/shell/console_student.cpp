@@ -26,14 +26,8 @@ void Formzct::wireFront() {
   payments.list.menu = paymentsPopUp();
   arrears.list.menu = arrearsPopUp();
   cd59.onPress([this] { refreshCard(); });
-  cd54.onPress([this] {
-    desk.session.payment_list_mode = 3;
-    showPayments();
-  });
-  cd55.onPress([this] {
-    desk.session.payment_list_mode = 4;
-    payments.showNew(desk.session.current_xh);
-  });
+  cd54.onPress([this] { showPayments(); });
+  cd55.onPress([this] { payments.showNew(current_xh); });
   cd56.onPress([this] { reprint(); });
   cd571.onPress([this] { deletePayments(false); });
   cd572.onPress([this] { deletePayments(true); });
@@ -49,7 +43,7 @@ void Formzct::wireFront() {
 
   class_strip.onPress([this] {
     if (inFront()) return;
-    desk.session.ConsolePanel = kit::Panel::None;
+    ConsolePanel = kit::Panel::None;
     if (arrears.holdsDue()) showArrears();
     classes.frame.show(!classes.frame.visible());
   });
@@ -90,7 +84,7 @@ void Formzct::findByName() {
 }
 
 void Formzct::found(const std::string& xh, const std::string& notFoundText) {
-  desk.session.current_xh = xh;
+  current_xh = xh;
   showStudent();
   classes.frame.show(false);
   if (!desk.session.open_fee_window) return;
@@ -128,7 +122,7 @@ void Formzct::enableArrearsEntries(bool listed) {
 }
 
 void Formzct::showStudent() {
-  const auto student = students::readStudentCard(desk.store, desk.session.current_xh);
+  const auto student = students::readStudentCard(desk.store, current_xh);
   if (!student) return clearCard();
   card.show(*student);
   redrawLists();
@@ -140,7 +134,7 @@ void Formzct::redrawLists() {
 }
 
 void Formzct::showPayments() {
-  payments.showAll(base::trim(desk.session.current_xh), card.xm.trimmed());
+  payments.showAll(base::trim(current_xh), card.xm.trimmed());
   enablePaymentEntries(true);
 }
 
@@ -155,7 +149,7 @@ void Formzct::leaveDueArrears() {
 void Formzct::showArrears() {
   leaveDueArrears();
   if (!card.holdsStudent()) return enableArrearsEntries(true);
-  arrears.show(base::trim(desk.session.current_xh));
+  arrears.show(base::trim(current_xh));
   enableArrearsEntries(arrears.list.count() > 0);
 }
 
@@ -172,61 +166,61 @@ void Formzct::waiveOnCard(bool all) {
 }
 
 void Formzct::refreshCard() {
-  const std::string xh = desk.session.current_xh;
+  const std::string xh = current_xh;
   clearCard();
   if (!xh.empty()) showStudent();
 }
 
 // The way from a new student to the fee window.
 students::Formzctxs::Collect Formzct::collectFrom() {
-  return [this](const std::string& current_xh) {
-    desk.session.current_xh = current_xh;
-    desk.session.fee_normal_mode = true;
-    open<collection::Formzctsf4>();
-  };
+  return [this](const std::string& xh) { open<collection::Formzctsf4>(collection::FeeWindowFor{xh}); };
 }
 
 void Formzct::openFeeWindow() {
-  open<collection::Formzctsf4>(collection::FeeWindowFor{desk.session.current_xh});
+  open<collection::Formzctsf4>(collection::FeeWindowFor{current_xh});
   redrawLists();
+}
+
+// The row that is selected, as it stands now. One that has gone meanwhile is told, and the lists are read again.
+std::optional<RecordSet> Formzct::selectedRow(const kit::List& list, const char* table) {
+  if (list.mark() == 0) return std::nullopt;
+  RecordSet row = rows(Sql::table(table));
+  if (row.goTo(list.mark())) return row;
+  arrears.holdsDue() ? showDueArrears() : redrawLists();
+  inform("选定的记录已被其他计算机删除，列表已重新加载。", "信息提示");
+  return std::nullopt;
 }
 
 void Formzct::openFeeWindowFor(kit::List& list, const char* table) {
   if (list.count() == 0) return inform("只有当表中有记录时，才能调用收费窗口！    ", "操作提示");
-  if (list.selected() < 0) return;
-  RecordSet row = rows(store::Sql::table(table) + " where lsh='" + list.key() + "'");
-  if (row.empty()) return;
-  desk.session.current_xh = row.get("xh").trimmed();
-  open<collection::Formzctsf4>(collection::FeeWindowFor{desk.session.current_xh});
+  auto row = selectedRow(list, table);
+  if (!row) return;
+  current_xh = row->get("xh").trimmed();
+  open<collection::Formzctsf4>(collection::FeeWindowFor{current_xh});
   showStudent();
 }
 
 void Formzct::summarise(kit::List& list, const char* table) {
-  if (list.selected() < 0) return;
-  RecordSet row = rows(Sql::table(table) + " where lsh='" + list.key() + "'");
-  if (row.empty()) return;
-  desk.session.summary_xh = row.get("xh").trimmed();
-  open<Formzct1>();
+  if (auto row = selectedRow(list, table)) open<Formzct1>(row->get("xh").trimmed());
 }
 
 void Formzct::pickFromClass() {
   if (!may(desk, Collect)) return warn("您不能进行收费操作 ！      ", "信息提示");
-  desk.session.current_xh = classes.students.key();
+  current_xh = classes.students.key();
   showStudent();
   classes.frame.show(false);
   if (!desk.session.open_fee_window) return;
-  desk.session.ConsolePanel = kit::Panel::FeeWindow;
+  ConsolePanel = kit::Panel::FeeWindow;
   timer1.start();
 }
 
 void Formzct::reprint() {
-  if (payments.list.selected() < 0) return;
-  RecordSet row = rows(Sql("select * from jfjl where lsh='") + payments.list.key() + "'");
-  if (row.empty()) return;
-  const std::string receipt = row.get("fpbh").trimmed();
+  auto row = selectedRow(payments.list, "jfjl");
+  if (!row) return;
+  const std::string receipt = row->get("fpbh").trimmed();
   const long long count = rows(Sql("select * from jfjl where fpbh='") + receipt + "'").count();
   if (!ask("您要重新打印的这组记录共有" + base::caption(count) + "条，确认继续吗？    ", "打印提示")) return;
-  open<collection::Formzctsf5>(collection::reprintOf(row, desk.session));
+  open<collection::Formzctsf5>(collection::reprintOf(*row, desk.session));
 }
 
 void Formzct::deletePayments(bool wholeReceipt) {
@@ -239,9 +233,9 @@ void Formzct::deletePayments(bool wholeReceipt) {
   if (!askStop("您确认是要删除选定记录吗？      ", "警告")) return;
   const auto reason = deletion.carryOut();
   inform(reason.value_or("选定记录已删除！       "), "信息提示");
-  if (desk.session.payment_list_mode == 4) {
+  if (payments.payment_list_mode == PaymentList::New) {
     payments.clear();
-    payments.showNew(desk.session.current_xh);
+    payments.showNew(current_xh);
   } else {
     showPayments();
   }

@@ -7,7 +7,8 @@ namespace shell {
 using store::RecordSet;
 using store::Sql;
 
-Formzct1::Formzct1(kit::Desk& all) : Screen(all, "Formzct1", "学生交费信息统计") {
+Formzct1::Formzct1(kit::Desk& all, std::string student)
+    : Screen(all, "Formzct1", "学生交费信息统计"), xh(std::move(student)) {
   heading.prominent = true;
   back.setTip("单击返回");
   back.onPress([this] { close(); });
@@ -15,18 +16,17 @@ Formzct1::Formzct1(kit::Desk& all) : Screen(all, "Formzct1", "学生交费信息
 }
 
 void Formzct1::load() {
-  const std::string& xh = desk.session.summary_xh;
   RecordSet student = rows(Sql("select * from xs where xh='") + xh + "'");
   RecordSet paid = rows(Sql("select * from jfjl where xh='") + xh + "' order by jfrq desc");
   // A student who has left the register is still named by the payments.
   RecordSet& named = student.empty() ? paid : student;
   heading.set("学生：" + (named.empty() ? "" : named.get("xm").trimmed()) + " [ " + xh + " ] 交费信息统计");
   payments.fill(paid);
-  addSums(xh);
+  addSums();
   back.focus();
 }
 
-void Formzct1::addSums(const std::string& xh) {
+void Formzct1::addSums() {
   sums.clear();
   RecordSet paid = rows(Sql("select xq,sfxm,je from jfjl where xh='") + xh + "' order by xq,sfxm");
   std::string term, item;

@@ -7,10 +7,12 @@ namespace shell {
 
 class Formzct1 : public kit::Screen {  // 交费信息统计
  public:
-  explicit Formzct1(kit::Desk& desk);
-  void load() override;  // of the session's summary_xh
+  explicit Formzct1(kit::Desk& desk, std::string xh = "");
+  void load() override;
   kit::Layout layout() override;
   void doubleClicked() override { close(); }
+
+  const std::string xh;  // whose payments they are
 
   kit::Field heading{*this, "heading", "", kit::Entry::Shown};
   kit::List payments{*this,
@@ -28,7 +30,7 @@ class Formzct1 : public kit::Screen {  // 交费信息统计
   kit::Action back{*this, "back", "返回", "undo-2"};
 
  private:
-  void addSums(const std::string& xh);
+  void addSums();
 };
 
 }  // namespace shell
