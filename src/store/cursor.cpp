@@ -25,70 +25,70 @@ Database& Cursor::database() {
 }
 
 void Cursor::rewind() {
-  if (stream_ && atFirst_) return;
-  drop();
+  if (place_ != Place::First || !stream_) drop();
 }
 
 void Cursor::drop() {
   stream_.giveBack();
-  atFirst_ = unread_ = false;
   row_.reset();
   rest_.clear();
   ahead_.clear();
   groups_.clear();
-  interrupted_ = false;
   place_ = Place::Before;
 }
 
-void Cursor::start(const std::string& sql, bool single) {
-  drop();
-  stream_ = Loan(database(), sql, query_.values, single ? Rows::Few : Rows::Many);
-  single_ = single;
+void Cursor::start() {
+  stream_ = Loan(database(), query_.walk, query_.values, Rows::Many);
   step();
-  atFirst_ = !single && place_ == Place::Row;
+  if (place_ == Place::Row) place_ = Place::First;
 }
 
-// Goes on behind the first row, which may not be the first any more: then all others come behind it.
+// Goes on after the first row, which may not be the first any more: then all others come after it.
 void Cursor::resume() {
-  unread_ = false;
-  stream_ = Loan(database(), query_.walk, query_.values, Rows::Many);
-  bool row = stream_->step();
-  if (row && stream_->integer(0) == rowNo_) return;
-  for (; row; row = stream_->step()) {
-    if (stream_->integer(0) != rowNo_) rest_.push_back(stream_->integer(0));
+  Loan stream(database(), query_.walk, query_.values, Rows::Many);
+  bool row = stream->step();
+  if (row && stream->integer(0) == rowNo_) {
+    stream_ = std::move(stream);
+    return;
   }
-  stream_.giveBack();
+  std::deque<std::int64_t> others;
+  for (; row; row = stream->step()) {
+    if (stream->integer(0) != rowNo_) others.push_back(stream->integer(0));
+  }
+  rest_ = std::move(others);
+  place_ = Place::Row;
 }
 
 void Cursor::step() {
-  row_.reset();  // of the row before, read while the stream was let go of
-  if (single_ && place_ == Place::Row) {
-    place_ = Place::End;
-  } else {
-    place_ = Place::End;  // also when the step fails
-    if (stream_->step()) place_ = Place::Row;
-  }
-  if (place_ == Place::Row) {
-    rowNo_ = stream_->integer(0);
-  } else {
-    stream_.giveBack();
-  }
+  row_.reset();         // of the row before, read while the stream was let go of
+  place_ = Place::End;  // also when the step fails
+  if (!stream_->step()) return stream_.giveBack();
+  rowNo_ = stream_->integer(0);
+  place_ = Place::Row;
 }
 
-void Cursor::last() { start(query_.last, true); }
+void Cursor::last() {
+  drop();
+  place_ = Place::End;
+  const Loan statement(database(), query_.last, query_.values);
+  if (!statement->step()) return;
+  rowNo_ = statement->integer(0);
+  row_ = rowOf(*statement);
+  place_ = Place::Row;
+}
 
 bool Cursor::atRow() {
-  if (place_ == Place::Before) start(query_.walk, false);
-  return place_ == Place::Row;
+  if (place_ == Place::Before) start();
+  return place_ != Place::End;
 }
 
 void Cursor::next() {
   if (!atRow()) return;
-  if (interrupted_) throw StoreError(Fault::Other, "读取到一半时中断了，请刷新后再试！");
-  if (unread_) resume();
-  atFirst_ = false;
+  if (place_ == Place::Broken) throw StoreError(Fault::Other, "读取到一半时中断了，请刷新后再试！");
+  if (unread()) resume();
   if (stream_) return step();
   row_.reset();
+  place_ = Place::Row;
   if (!groups_.empty()) {
     row_ = std::move(groups_.front());
     groups_.pop_front();
@@ -152,7 +152,7 @@ void Cursor::visit(std::span<const std::int64_t> rowNos, const std::function<voi
 
 bool Cursor::empty() {
   if (place_ == Place::Before) return !atRow();
-  if (stream_) return false;
+  if (stream_ || row_) return false;
   return !Loan(database(), query_.any, query_.values)->step();
 }
 
@@ -163,28 +163,24 @@ long long Cursor::count() {
 
 void Cursor::release() {
   ahead_.clear();
-  if (stream_ && atFirst_ && !query_.grouped) {
-    stream_.giveBack();
-    unread_ = true;
-    return;
-  }
+  if (place_ == Place::First && !query_.grouped) return stream_.giveBack();
   try {
     pinStream();
   } catch (...) {  // told to who goes on with the walk
     stream_.giveBack();
-    interrupted_ = true;
+    place_ = Place::Broken;
   }
 }
 
 void Cursor::pin() {
-  if (unread_) resume();
+  if (unread()) resume();
   pinStream();
 }
 
 void Cursor::pinStream() {
   if (!stream_) return;
   if (query_.grouped) row_ = rowOf(*stream_);
-  while (!single_ && stream_->step()) {
+  while (stream_->step()) {
     if (query_.grouped) {
       groups_.push_back(rowOf(*stream_));
     } else {
@@ -192,6 +188,7 @@ void Cursor::pinStream() {
     }
   }
   stream_.giveBack();
+  place_ = Place::Row;
 }
 
 void Cursor::forget() {

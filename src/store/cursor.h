@@ -60,11 +60,18 @@ class Cursor {
   void forget(std::int64_t rowNo);  // of this row
 
  private:
-  enum class Place { Before, Row, End };
+  enum class Place {
+    Before,
+    First,   // row of the walk. Its stream may be let go of there: a look at a large table costs one row
+    Row,     // of the stream, or, without one, of the rest, which has been noted
+    Broken,  // on a row, and those that remain could not be noted
+    End
+  };
   using Row = std::vector<Value>;
 
-  void start(const std::string& sql, bool single);
+  void start();
   void step();
+  bool unread() const { return place_ == Place::First && !stream_; }
   void resume();
   void pinStream();
   std::optional<Row> fetch(std::int64_t rowNo);
@@ -77,11 +84,7 @@ class Cursor {
   int generation_;
   Place place_ = Place::Before;
   Loan stream_;
-  bool single_ = false;   // the stream holds one row, and nothing comes behind it
-  bool atFirst_ = false;  // the walk stands on its first row
-  bool unread_ = false;   // and has let go of its stream there: a look at a large table costs one row
   std::int64_t rowNo_ = 0;
-  bool interrupted_ = false;                     // the rows that remain could not be noted
   std::optional<Row> row_;                       // the current row of a pinned walk, once read
   std::unordered_map<std::int64_t, Row> ahead_;  // rows of a pinned walk in a unit, read before their turn
   std::deque<std::int64_t> rest_;                // the rows behind it

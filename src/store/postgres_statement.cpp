@@ -44,15 +44,11 @@ std::string unescaped(std::string_view text) {
   return result;
 }
 
-int digit(char c) { return c <= '9' ? c - '0' : c - 'a' + 10; }
-
-std::string bytesOf(std::string_view hex) {  // \x0aff
-  std::string result;
-  result.reserve(hex.size() / 2);
-  for (std::size_t i = 2; i + 1 < hex.size(); i += 2) {
-    result += static_cast<char>(digit(hex[i]) * 16 + digit(hex[i + 1]));
-  }
-  return result;
+std::string bytesOf(std::string_view written) {  // as the server sends a field: a NUL stands behind it
+  std::size_t size = 0;
+  const std::unique_ptr<unsigned char, void (*)(void*)> bytes(
+      PQunescapeBytea(reinterpret_cast<const unsigned char*>(written.data()), &size), PQfreemem);
+  return {reinterpret_cast<const char*>(bytes.get()), size};
 }
 
 template <class Number> std::string numberText(Number number) {

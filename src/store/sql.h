@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -19,39 +20,38 @@ namespace store {
 
 class Sql {
  public:
-  Sql() = default;
-  template <std::size_t N> Sql(const char (&literal)[N]) : text_(literal, N - 1) {}
+  constexpr Sql() = default;
+  // While it compiles: what is made at run time can never enter here.
+  template <std::size_t N> consteval Sql(const char (&literal)[N]) : literal_(literal, N - 1) {}
 
-  template <std::size_t N> Sql& operator+=(const char (&literal)[N]) {
-    text_.append(literal, N - 1);
-    return *this;
-  }
   Sql& operator+=(const Sql& other);
-  Sql& operator+=(const std::string& value);
-  Sql& operator+=(const Value& value);
-  template <class T> friend Sql operator+(Sql left, const T& right) {
-    left += right;
-    return left;
+  template <class T>
+  requires(!std::is_array_v<T> && !std::is_same_v<T, Sql>) Sql& operator+=(const T& value) { return add(value); }
+  friend Sql operator+(Sql left, const Sql& right) { return left += right; }
+  template <class T>
+  requires(!std::is_array_v<T> && !std::is_same_v<T, Sql>) friend Sql operator+(Sql left, const T& value) {
+    return left.add(value);
   }
 
-  // "select * from " + a table of the catalogue, with an optional order: for code that is told its table as data.
-  static Sql table(std::string_view table, std::string_view order = "") {
-    Sql sql("select * from ");
-    sql.text_ += table;
-    if (!order.empty()) sql.text_.append(" order by ").append(order);
-    return sql;
-  }
-
-  // A column of the catalogue, for tables of conditions; anything but a plain name raises std::logic_error.
+  // For code that is told its names as data: "select * from " + a table of the catalogue; a column. What is no table,
+  // and what is no plain name, raises std::logic_error.
+  static Sql table(std::string_view name);
   static Sql column(std::string_view name);
 
-  bool empty() const { return text_.empty(); }
-  const std::string& text() const { return text_; }  // the plain statement, for messages and tests
+  bool empty() const { return text().empty(); }
+  // The plain statement, for messages and tests; good until the statement changes.
+  std::string_view text() const { return made_.empty() ? literal_ : std::string_view(made_.data(), made_.size()); }
   // Byte ranges [from, to) of text() that came in as values.
   const std::vector<std::pair<std::size_t, std::size_t>>& values() const { return values_; }
 
  private:
-  std::string text_;
+  friend struct MadeUpSql;  // the tests' own door
+  Sql& add(const std::string& value);
+  Sql& add(const Value& value) { return add(value.text()); }
+  void append(std::string_view text);
+
+  std::string_view literal_;  // all of it, as long as nothing was added
+  std::vector<char> made_;
   std::vector<std::pair<std::size_t, std::size_t>> values_;
 };
 

@@ -125,7 +125,7 @@ class Lexer {
   }
 
   const Sql& sql_;
-  const std::string& text_;
+  const std::string text_;
   std::size_t at_ = 0;
   std::size_t value_ = 0;
   std::vector<Token> result_;

@@ -15,6 +15,7 @@ using namespace std::chrono_literals;
 constexpr auto noticeAfter = 200ms, betweenNotices = 100ms;
 constexpr int shortestPause = 1, longestPause = 25;  // milliseconds
 constexpr auto wayGiven = 40ms;                      // longer than a waiting one's pause
+constexpr auto vainly = 1s;
 
 struct flock wholeFile(short type) {
   struct flock lock {};
@@ -59,8 +60,16 @@ bool WaitingSign::othersWait() {
 }
 
 void WaitingSign::giveWay() {
-  const auto end = std::chrono::steady_clock::now() + wayGiven;
-  while (othersWait() && std::chrono::steady_clock::now() < end) std::this_thread::sleep_for(1ms);
+  const auto start = std::chrono::steady_clock::now();
+  if (start - inVain_ < vainly) return;
+  while (othersWait()) {
+    if (std::chrono::steady_clock::now() - start < wayGiven) {
+      std::this_thread::sleep_for(1ms);
+    } else {
+      inVain_ = start;  // a desk that hangs with its sign up must not slow every save down
+      return;
+    }
+  }
 }
 
 Wait::Wait(std::chrono::milliseconds patience, std::function<void(bool)> onWait, WaitingSign& sign)

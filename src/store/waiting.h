@@ -19,7 +19,7 @@ class WaitingSign {
 
   void raise();
   void lower();
-  void giveWay();  // pauses while another one waits, a moment at most
+  void giveWay();  // pauses while another one waits, a moment at most, and not soon again when that was in vain
 
  private:
   bool othersWait();
@@ -28,6 +28,7 @@ class WaitingSign {
   std::filesystem::path path_;
   int file_ = -1;
   bool tried_ = false, raised_ = false;
+  std::chrono::steady_clock::time_point inVain_;
 };
 
 // One wait: short random pauses that grow, a notice when it lasts (told again while it lasts), an end to the patience.

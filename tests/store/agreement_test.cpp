@@ -4,6 +4,7 @@
 #include <random>
 
 #include "store/configurations.h"
+#include "support/made_up_sql.h"
 
 namespace store {
 namespace {
@@ -142,8 +143,8 @@ class ServerEngines : public testing::Test {
     }
   }
   void expectSame(const std::string& text) {
-    const Texts here = answer(embedded_, statement(text));
-    EXPECT_EQ(here, answer(*server_, statement(text))) << text;
+    const Texts here = answer(embedded_, MadeUpSql::of(text));
+    EXPECT_EQ(here, answer(*server_, MadeUpSql::of(text))) << text;
     if (!here[0].starts_with("fault")) ++answered_;
   }
 

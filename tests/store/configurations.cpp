@@ -59,15 +59,6 @@ Fault faultOf(const std::function<void()>& action) {
   return Fault::Other;
 }
 
-Sql statement(const std::string& text) {
-  Sql result;
-  for (char c : text) {
-    const char one[2] = {c, 0};
-    result += one;
-  }
-  return result;
-}
-
 long long rows(Store& store, const Sql& sql) { return RecordSet(store, sql).count(); }
 
 }  // namespace store

@@ -47,7 +47,6 @@ class Conformance : public testing::TestWithParam<Configuration> {
 };
 
 Fault faultOf(const std::function<void()>& action);  // fails the test when there is none
-Sql statement(const std::string& text);              // a test's made-up text as if a source had held it
 long long rows(Store& store, const Sql& sql);
 
 inline auto configurations() {

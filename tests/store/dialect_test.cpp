@@ -4,6 +4,7 @@
 #include <random>
 
 #include "store/configurations.h"
+#include "support/made_up_sql.h"
 
 namespace store {
 namespace {
@@ -231,7 +232,7 @@ TEST(DialectSoup, NeverCrashes) {
   for (int round = 0; round < 6000; ++round) {
     std::string text = round % 3 ? "select * from jfjl where xm<>'b' and " : "";
     for (int length = static_cast<int>(random() % 6); length >= 0; --length) text += words[random() % words.size()];
-    const Sql sql = statement(text);
+    const Sql sql = MadeUpSql::of(text);
     try {
       RecordSet(store, sql).count();
       ++answered;
@@ -243,7 +244,7 @@ TEST(DialectSoup, NeverCrashes) {
   for (const std::string part : {"(", "not ", "-", "1+", "1=1 and "}) {
     std::string text = "select * from xs where ";
     for (int i = 0; i < 50000; ++i) text += part;
-    EXPECT_EQ(faultOf([&] { RecordSet(store, statement(text + "1=1")).count(); }), Fault::Statement) << part;
+    EXPECT_EQ(faultOf([&] { RecordSet(store, MadeUpSql::of(text + "1=1")).count(); }), Fault::Statement) << part;
   }
 }
 

@@ -5,6 +5,8 @@
 #include <atomic>
 #include <sstream>
 
+#include "support/made_up_sql.h"
+
 namespace support {
 namespace {
 std::string shown(kit::Box box, const std::string& text, const std::string& title) {
@@ -107,7 +109,9 @@ std::string TestDesk::dump(std::string_view table, std::string_view columns, std
   std::vector<std::string> names;
   std::stringstream in{std::string(columns)};
   for (std::string name; std::getline(in, name, '|');) names.push_back(name);
-  store::RecordSet set(store, store::Sql::table(table, order), connection);
+  store::Sql rows = store::Sql::table(table);
+  if (!order.empty()) rows += store::MadeUpSql::of(" order by " + std::string(order));
+  store::RecordSet set(store, rows, connection);
   std::string lines;
   store::forEach(set, [&](store::RecordSet& row) {
     for (std::size_t i = 0; i < names.size(); ++i) lines += (i ? "|" : "") + row.get(names[i]).text();
