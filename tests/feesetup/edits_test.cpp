@@ -1,10 +1,10 @@
 // The setup's edits of majors, classes, items and enrolment forms, by one desk and by two.
 #include "feesetup/class_edit.h"
-#include "feesetup/class_name.h"
 #include "feesetup/enrolment_form_edit.h"
 #include "feesetup/fee_item_edit.h"
 #include "feesetup/major_edit.h"
 #include "kit/validation.h"
+#include "register/classes.h"
 #include "support/school.h"
 
 using namespace support;
@@ -249,7 +249,7 @@ TEST(TwoDesks, OnlyWhatWasChangedIsWritten) {
   SetupSchool school;
   auto s = school.at<Formszbjzl>(Mode::Modify, "select * from bjzl");
   s->jsxm.type("赵老师");
-  renameClass(school.store, "甲班", "新甲班");
+  school::renameClass(school.store, "甲班", "新甲班");
   store::RecordSet other(school.store, "select * from bjzl");
   kit::writeRow(other, {{"bjmc", "新甲班"}, {"bjdh", "11019"}});
   school.person.answer(true, Box::Ask, sure, "修改提示");

@@ -203,17 +203,17 @@ TEST(Settings, AreCopiedIntoTheSessionAsFarAsTheyMeanSomething) {
   desk.session.open_fee_window = true;
   desk.session.receipt_style = 2;
   desk.session.custom_form = "专用收据";
-  EXPECT_TRUE(kit::loadArrearsSettings(desk.desk));
+  EXPECT_TRUE(school::loadArrearsSettings(desk.desk));
   EXPECT_EQ(desk.session.arrears_item, "学费");
   EXPECT_EQ(desk.session.reminder_days, 0) << "left for the whole load";
-  EXPECT_TRUE(kit::loadSettings(desk.desk));
+  EXPECT_TRUE(school::loadSettings(desk.desk));
   const kit::Session& session = desk.session;
   EXPECT_TRUE(session.print_receipt && session.due_rows_ticked && !session.open_fee_window);
   EXPECT_EQ(session.receipt_style, 2);
   EXPECT_EQ(session.custom_form, "专用收据");
   EXPECT_EQ(session.reminder_days, 5);
   desk.settings().remove();
-  EXPECT_FALSE(kit::loadSettings(desk.desk));
+  EXPECT_FALSE(school::loadSettings(desk.desk));
   EXPECT_EQ(session.reminder_days, 5);
 }
 
@@ -225,7 +225,7 @@ TEST(DeskSettings, StoreEachTickAtOnce) {
     for (const bool on : {!tick->on(), tick->on()}) {
       tick->toggle();
       EXPECT_EQ(tick->on(), on) << tick->name;
-      EXPECT_EQ(desk.session.*kit::flagOf(tick->name), on) << tick->name;
+      EXPECT_EQ(desk.session.*school::flagOf(tick->name), on) << tick->name;
       EXPECT_EQ(desk.settings().get(tick->name).number(), on ? 1 : 0) << tick->name;
     }
   s->fpys.choose(2);

@@ -17,7 +17,7 @@ struct TwoClasses : School {
   // A student with a row in every table that copies one.
   void place(const std::string& xh, const std::string& xm, const std::string& bjmc, const std::string& xtbh) {
     student(xh, xm, bjmc, xtbh);
-    for (const std::string_view table : dependentTables) copyOf(table, xh, xm, bjmc, xtbh);
+    for (const std::string_view table : school::studentTables) copyOf(table, xh, xm, bjmc, xtbh);
   }
   std::vector<Mover> movers(const std::vector<std::string>& numbers) {
     std::vector<Mover> all;
@@ -37,7 +37,7 @@ TEST(ClassTransfer, MovesTheStudentAndAllThatCarriesTheClass) {
   EXPECT_EQ(school.classBook(),
             "1|王小明|会计01001班|会计|1001043\n2|张三|计算机11001班|计算机|11001002\n"
             "3|李四|会计01001班|会计|1001042\n9|王小明|会计01001班|计算机|01001041\n");
-  for (const std::string_view table : dependentTables)
+  for (const std::string_view table : school::studentTables)
     EXPECT_EQ(school.dump(table, "xh|xm|bjmc|xtbh", "xh"),
               "1|王小明|会计01001班|1001043\n2|张三|计算机11001班|11001002\n3|李四|会计01001班|1001042\n"
               "9|王小明|会计01001班|01001041\n")

@@ -1,6 +1,7 @@
 // A small school for the tests of the register.
 #pragma once
 
+#include "register/students.h"
 #include "students/student_records.h"
 #include "support/school.h"
 
@@ -34,15 +35,17 @@ struct School : support::School {
     for (const std::string_view table : {"cjb", "jfjl", "qfjl", "xxfk", "tjs", "zsgl2", "bys_xs", "bys_jfjl"})
       for (int row = 0; row < 2; ++row) copyOf(table, xh, xm, "计算机11001班", "11001001");
   }
-  std::int64_t rowOf(const std::string& xh = number) { return loadStudent(store, xh).mark(); }
+  std::int64_t rowOf(const std::string& xh = number) { return school::loadStudent(store, xh).mark(); }
   Student asShown(const std::string& xh = number) {
-    auto row = loadStudent(store, xh);
+    auto row = school::loadStudent(store, xh);
     return textsOf(row);
   }
   std::string stored(std::string_view column, const std::string& xh = number) {
     return value(store::Sql("select * from xs where xh='") + xh + "'", column);
   }
-  std::string photo(const std::string& xh = number) { return fromBytes(loadStudent(store, xh).get("xp").bytes()); }
+  std::string photo(const std::string& xh = number) {
+    return fromBytes(school::loadStudent(store, xh).get("xp").bytes());
+  }
   std::string file(const std::string& name, const std::string& bytes) {
     const auto path = desktop.programFolder() / name;
     platform::writeFile(path, bytes);

@@ -1,5 +1,6 @@
 #include "students/student_records.h"
 
+#include "register/classes.h"
 #include "students/identity_number.h"
 #include "students/school.h"
 #include "students/student_card.h"
@@ -91,13 +92,13 @@ TEST(StudentNumbers, AreProposedFromTheLastInTextOrder) {
 
 TEST(StudentNumbers, AClassNumbersItsStudents) {
   School school;
-  EXPECT_EQ(classPicked(school.store, "会计01001班")->xtbh, "01001001");
+  EXPECT_EQ(school::classPicked(school.store, "会计01001班")->xtbh, "01001001");
   school.add("xs", {{"bjmc", "会计01001班"}, {"xtbh", "01001002"}});
   school.add("xs", {{"bjmc", "会计01001班"}, {"xtbh", "01001001"}});
-  const auto next = classPicked(school.store, "会计01001班");
+  const auto next = school::classPicked(school.store, "会计01001班");
   EXPECT_EQ(next->xtbh, "1001003");  // the step goes through a number
   EXPECT_EQ(next->zymc, "会计");
-  EXPECT_FALSE(classPicked(school.store, "没有的班"));
+  EXPECT_FALSE(school::classPicked(school.store, "没有的班"));
 }
 
 TEST(IdentityNumbers, TellBirthDateAndSex) {

@@ -6,7 +6,7 @@
 
 #include "kit/editing.h"
 #include "kit/rows.h"
-#include "kit/settings.h"
+#include "register/settings.h"
 #include "support/test_desk.h"
 
 namespace support {
