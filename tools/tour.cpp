@@ -55,7 +55,7 @@ Steps setUp() {
                     }}});
   append(steps, {{"Formsz", "收费标准", [](QWidget& w) {
                     chooseTab(w, "收费标准");
-                    press(w, "setStandards");
+                    press(w, "sfbzb_add");
                   }}});
   const struct {
     const char* item;

@@ -4,7 +4,7 @@
 
 #include "base/text.h"
 #include "kit/rows.h"
-#include "kit/settings.h"
+#include "register/settings.h"
 
 namespace arrears {
 
@@ -52,7 +52,7 @@ void Formqfcl::load() {
   }
   const auto items = kit::columnTexts(desk.store, "select * from sfxmb order by sfxmbh", "sfxmmc");
   for (DebtLine& line : lines) line.sfxm.setChoices(items);
-  kit::loadReminderDays(desk);
+  school::loadReminderDays(desk);
   qfts.set(std::to_string(session.reminder_days));
   status.set(session.shortfall_opens_arrears ? "收费前台已设置为 [ " + session.arrears_item + " ] 差额自动加载！"
                                              : "收费前台未设置欠费差额自动加载，如果需要请您设置！");

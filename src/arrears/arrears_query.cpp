@@ -3,6 +3,7 @@
 #include "kit/notice.h"
 #include "kit/rows.h"
 #include "kit/validation.h"
+#include "register/classes.h"
 
 namespace arrears {
 
@@ -154,10 +155,11 @@ Formqfcl1::Formqfcl1(kit::Desk& all)
 
 void Formqfcl1::query() {
   const std::string chosen = of.trimmed();
-  std::vector<Condition> all{scope.chosen() == Major ? kit::majorIs(kit::majorCode(desk.store, chosen)) : Condition{},
-                             kit::equals("bjmc", scope.chosen() == Class ? chosen : ""),
-                             kit::equals("xh", scope.chosen() == Student ? xh.text() : ""),
-                             kit::equals("xm", scope.chosen() == Student && xh.blank() ? xm.text() : "")};
+  std::vector<Condition> all{
+      scope.chosen() == Major ? school::majorIs(school::majorCode(desk.store, chosen)) : Condition{},
+      kit::equals("bjmc", scope.chosen() == Class ? chosen : ""),
+      kit::equals("xh", scope.chosen() == Student ? xh.text() : ""),
+      kit::equals("xm", scope.chosen() == Student && xh.blank() ? xm.text() : "")};
   if (period.chosen() == ByDate) {
     all.push_back(kit::onDate("qfrq", kit::Compare::AtLeast, *base::Date::parse(from.trimmed())));
     all.push_back(kit::onDate("qfrq", kit::Compare::AtMost, *base::Date::parse(to.trimmed())));

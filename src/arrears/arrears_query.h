@@ -4,7 +4,7 @@
 
 #include "arrears/comparison.h"
 #include "kit/query_screen.h"
-#include "kit/scope_screen.h"
+#include "register/scope_screen.h"
 #include "reports/export.h"
 
 namespace arrears {
@@ -54,7 +54,7 @@ class Formqfcl11 : public kit::QueryScreen {  // 打开欠费信息
   void show(reports::List computed);
 };
 
-class Formqfcl1 : public kit::ScopeScreen {  // 欠费记录查询条件设置
+class Formqfcl1 : public school::ScopeScreen {  // 欠费记录查询条件设置
  public:
   explicit Formqfcl1(kit::Desk& desk);
   kit::Layout layout() override { return scopeLayout({clfs}); }

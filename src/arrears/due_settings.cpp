@@ -3,7 +3,7 @@
 #include "arrears/due_progress.h"
 #include "base/date.h"
 #include "kit/rows.h"
-#include "kit/settings.h"
+#include "register/settings.h"
 
 namespace arrears {
 namespace {
@@ -56,7 +56,7 @@ Formqfcl2::Formqfcl2(kit::Desk& all)
 }
 
 void Formqfcl2::load() {
-  kit::loadReminderDays(desk);
+  school::loadReminderDays(desk);
   const base::Date today = desk.clock.today();
   xq.set(base::defaultTerm(today));
   qfts.set(std::to_string(desk.session.reminder_days));
@@ -76,7 +76,7 @@ void Formqfcl2::rangeChanged() {
 void Formqfcl2::itemsChanged() {
   item.enable(onlyOneItem());
   if (!onlyOneItem()) return item.clear();
-  kit::loadArrearsSettings(desk);
+  school::loadArrearsSettings(desk);
   item.set(desk.session.arrears_item);
   item.focus();
 }

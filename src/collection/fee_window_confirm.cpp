@@ -8,7 +8,7 @@
 #include "collection/receipt_notes.h"
 #include "collection/receipt_print.h"
 #include "kit/at_exit.h"
-#include "kit/settings.h"
+#include "register/settings.h"
 #include "kit/validation.h"
 
 namespace collection {
@@ -17,7 +17,7 @@ void Formzctsf4::confirmPayment() {
   // A key can confirm while an amount is still being typed: it is taken as if the field had been left.
   if (!std::all_of(lines.begin(), lines.end(), [this](FeeLine& line) { return completeAmount(line); })) return;
   if (fee_normal_mode) {
-    kit::loadArrearsSettings(desk);
+    school::loadArrearsSettings(desk);
     if (desk.session.shortfall_opens_arrears && !prepareShortfall()) return;
   }
   save();
@@ -39,7 +39,7 @@ bool Formzctsf4::prepareShortfall() {
 }
 
 void Formzctsf4::enterArrears() {
-  kit::loadArrearsSettings(desk);
+  school::loadArrearsSettings(desk);
   arrears_entry_shown = false;
   openArrearsEntry();
 }

@@ -1,6 +1,7 @@
 #include "collection/payment_query.h"
 
 #include "base/text.h"
+#include "register/classes.h"
 
 namespace collection {
 
@@ -68,7 +69,7 @@ std::optional<std::vector<Condition>> Formzctsf31::conditions() {
 // What opens the clause, up to the period.
 Sql Formzctsf3::scopePart() {
   switch (scope.chosen()) {
-    case Major: return Sql(" where left(xtbh,2)='") + kit::majorCode(desk.store, of.trimmed()) + "' and ";
+    case Major: return Sql(" where left(xtbh,2)='") + school::majorCode(desk.store, of.trimmed()) + "' and ";
     case Class: return Sql(" where bjmc='") + of.trimmed() + "' and ";
     case Student:
       return xh.blank() ? Sql(" where xm='") + xm.trimmed() + "' and " : Sql(" where xh='") + xh.trimmed() + "' and ";

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "kit/query_screen.h"
-#include "kit/scope_screen.h"
+#include "register/scope_screen.h"
 
 namespace collection {
 
@@ -25,7 +25,7 @@ class Formzctsf31 : public kit::QueryScreen {  // 打开交费记录信息设置
   void accepted(kit::Filter filter) override { answer = std::move(filter); }
 };
 
-class Formzctsf3 : public kit::ScopeScreen {  // 交费记录查询条件设置
+class Formzctsf3 : public school::ScopeScreen {  // 交费记录查询条件设置
  public:
   explicit Formzctsf3(kit::Desk& desk)
       : ScopeScreen(desk, "Formzctsf3", "交费记录查询条件设置", "select xq from jfjl group by xq order by xq") {}

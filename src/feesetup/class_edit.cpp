@@ -1,7 +1,7 @@
 #include "feesetup/class_edit.h"
 
 #include "base/text.h"
-#include "feesetup/class_name.h"
+#include "register/classes.h"
 
 namespace feesetup {
 
@@ -53,23 +53,19 @@ std::vector<kit::Rule> Formszbjzl::rules() {
 
 std::vector<kit::Rule> Formszbjzl::guards() {
   if (EditMode != Mode::Add) return {};
-  const auto stands = [this] {
-    return !rows(Sql("select * from bjzl where bjmc='") + bjmc.trimmed() + "'").empty();
-  };
+  const auto stands = [this] { return !rows(Sql("select * from bjzl where bjmc='") + bjmc.trimmed() + "'").empty(); };
   return {{&bjmc, stands, "系统中已存在相同的班级名称 ！     ", "信息提示", Box::Information}};
 }
 
 kit::RecordEdit::Words Formszbjzl::words() {
-  Words words{
-      .modify = {{"您确认要修改记录吗？  "}},
-      .remove = {{"您确认要删除选定的班级记录吗？   ", "警告", Box::AskStop},
-                 {"删除班级将同时删除与该班级有关的所有记录，包括学籍资料、交费记录等，您确认继续吗？    ", "再次警告",
-                  Box::AskStop}},
-      .modified = "选定记录已修改 ！     ",
-      .removed = "选定记录已删除 ！     "};
+  Words words{.modify = {{"您确认要修改记录吗？  "}},
+              .remove = {{"您确认要删除选定的班级记录吗？   ", "警告", Box::AskStop},
+                         {"删除班级将同时删除与该班级有关的所有记录，包括学籍资料、交费记录等，您确认继续吗？    ",
+                          "再次警告", Box::AskStop}},
+              .modified = "选定记录已修改 ！     ",
+              .removed = "选定记录已删除 ！     "};
   if (changed(bjmc))
-    words.modify.push_back(
-        {"班级名称被修改，这将修改系统中所有该班级的信息，您确认继续吗？   ", "警告", Box::AskStop});
+    words.modify.push_back({"班级名称被修改，这将修改系统中所有该班级的信息，您确认继续吗？   ", "警告", Box::AskStop});
   return words;
 }
 
@@ -81,9 +77,9 @@ void Formszbjzl::adding(store::RecordSet& row) {
 
 void Formszbjzl::modifying(store::RecordSet& row) {
   row.set("bsh", now());
-  if (changed(bjmc)) renameClass(desk.store, former(bjmc), bjmc.trimmed());
+  if (changed(bjmc)) school::renameClass(desk.store, former(bjmc), bjmc.trimmed());
 }
 
-void Formszbjzl::removing() { deleteClassRows(desk.store, former(bjmc)); }
+void Formszbjzl::removing() { school::deleteClassRows(desk.store, former(bjmc)); }
 
 }  // namespace feesetup

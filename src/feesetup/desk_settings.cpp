@@ -2,7 +2,7 @@
 
 #include "base/text.h"
 #include "kit/rows.h"
-#include "kit/settings.h"
+#include "register/settings.h"
 
 namespace feesetup {
 
@@ -11,11 +11,11 @@ Formszqt::Formszqt(kit::Desk& all) : Screen(all, "Formszqt", "收费前台设置
   // record.
   for (kit::Check* tick : ticks())
     tick->onChange([this, tick] {
-      const bool& kept = desk.session.*kit::flagOf(tick->name);
+      const bool& kept = desk.session.*school::flagOf(tick->name);
       const bool wanted = tick->on();
       if (wanted == kept) return;
       tick->set(kept);
-      kit::storeSetting(desk, tick->name, wanted);
+      school::storeSetting(desk, tick->name, wanted);
       tick->set(kept);
     });
   fpys.onChange([this] {
@@ -23,7 +23,7 @@ Formszqt::Formszqt(kit::Desk& all) : Screen(all, "Formszqt", "收费前台设置
     const int wanted = fpys.chosen() + 1;
     if (wanted == kept) return;
     fpys.set(kept - 1);
-    kit::storeSetting(desk, "fpys", wanted);
+    school::storeSetting(desk, "fpys", wanted);
     fpys.set(kept - 1);
   });
   qfjz.offers("select * from sfxmb", "sfxmmc");
@@ -43,9 +43,9 @@ std::vector<kit::Check*> Formszqt::ticks() {
 }
 
 void Formszqt::load() {
-  kit::loadSettings(desk);
+  school::loadSettings(desk);
   const kit::Session& session = desk.session;
-  for (kit::Check* tick : ticks()) tick->set(session.*kit::flagOf(tick->name));
+  for (kit::Check* tick : ticks()) tick->set(session.*school::flagOf(tick->name));
   fpys.set(session.receipt_style - 1);
   todamc1.set(session.custom_form);
   qfjz.set(session.arrears_item);
@@ -54,7 +54,7 @@ void Formszqt::load() {
 }
 
 void Formszqt::storeText(std::string_view column, const store::Value& value) {
-  if (kit::storeSetting(desk, column, value)) inform("设置成功 ！         ", "信息提示");
+  if (school::storeSetting(desk, column, value)) inform("设置成功 ！         ", "信息提示");
 }
 
 }  // namespace feesetup

@@ -11,7 +11,7 @@
 #include "feesetup/major_edit.h"
 #include "feesetup/standard_delete.h"
 #include "kit/rows.h"
-#include "kit/settings.h"
+#include "register/settings.h"
 
 namespace feesetup {
 
@@ -125,7 +125,7 @@ void Formsz::wireStandards() {
 void Formsz::load() {
   for (kit::RecordDesk* one : {&majors, &classes, &items, &classStandards, &formStandards, &bands, &forms}) one->open();
   czjl.open("select * from czjl order by kjsj desc");
-  kit::loadStandardBasis(desk);
+  school::loadStandardBasis(desk);
   basis.set(desk.session.standard_basis_class ? 0 : 1);
   showStandards();
 }
@@ -143,7 +143,7 @@ void Formsz::chooseBasis() {
   filter.clear();
   showStandards();
   if (byClass() == desk.session.standard_basis_class) return;
-  kit::storeSetting(desk, "bjsf1", byClass());
+  school::storeSetting(desk, "bjsf1", byClass());
   desk.session.standard_basis_class = byClass();  // also without a record to write it to
 }
 

@@ -32,13 +32,6 @@ Condition onDate(std::string_view column, Compare compare, const base::Date& day
                "#");
 }
 
-Condition majorIs(std::string code) { return alike(std::move(code), "left(xtbh,2)='", "'"); }
-
-std::string majorCode(store::Store& store, const std::string& zymc) {
-  store::RecordSet major(store, Sql("select * from zymcb where zymc='") + zymc + "'");
-  return major.empty() ? zymc : major.get("zybh").trimmed();
-}
-
 Sql chain(const std::vector<Condition>& conditions) {
   Sql filter;
   for (const Condition& one : conditions) {

@@ -24,10 +24,6 @@ const std::vector<std::string>& compareSigns();  // "<=", "=", ">="
 
 Condition equals(std::string_view column, std::string value);                       // bjmc='…'
 Condition onDate(std::string_view column, Compare compare, const base::Date& day);  // csrq<=#…#
-Condition majorIs(std::string code);  // a student's major is the first two characters of the system number
-
-// The code of a major by its name; the name itself, which is no code, when there is no such major.
-std::string majorCode(store::Store& store, const std::string& zymc);
 
 // " where " before the first that has a value, " and " before the others; empty when none has one.
 store::Sql chain(const std::vector<Condition>& conditions);

@@ -59,10 +59,10 @@ bool QueryScreen::refuseDate(Field& field) {
   return false;
 }
 
-std::optional<Condition> QueryScreen::dated(const DateCondition& field, std::string_view column) {
+std::optional<Condition> QueryScreen::dated(DateCondition& field, std::string_view column) {
   if (field.day.blank()) return Condition{};
-  if (const auto day = base::Date::parse(field.day.trimmed())) return onDate(column, field.compare(), *day);
-  refuseDate(const_cast<Field&>(field.day));
+  if (const auto day = field.day.date()) return onDate(column, field.compare(), *day);
+  refuseDate(field.day);
   return std::nullopt;
 }
 

@@ -45,7 +45,7 @@ class QueryScreen : public Screen {
   void wireConditions();  // by the constructor of the screen: clearing by button and by double click
   // Drops down what the statement finds when it is asked.
   void offer(Field& field, std::string_view column, std::function<store::Sql()> rows);
-  std::optional<Condition> dated(const DateCondition& field, std::string_view column);  // refuses what is no date
+  std::optional<Condition> dated(DateCondition& field, std::string_view column);  // refuses what is no date
   bool refuseDate(Field& field);
   Node queryNode(Node conditions);
 

@@ -6,7 +6,7 @@
 #include "collection/submission.h"
 #include "feesetup/desk_settings.h"
 #include "feesetup/setup.h"
-#include "kit/settings.h"
+#include "register/settings.h"
 #include "reports/export.h"
 #include "reports/income_statement.h"
 #include "reports/print_options.h"
@@ -146,7 +146,7 @@ void Formzct::wireToolbar() {
 }
 
 void Formzct::loadAllSettings() {
-  if (!kit::loadSettings(desk)) return;
+  if (!school::loadSettings(desk)) return;
   classes.opensFeeWindow.set(desk.session.open_fee_window);
 }
 

@@ -1,5 +1,6 @@
 // 数据清空: what each panel empties, behind its two warnings.
 #include "kit/rows.h"
+#include "register/students.h"
 #include "shell/console.h"
 
 namespace shell {
@@ -16,11 +17,15 @@ struct Clearing {
   const char* done;
 };
 
+const std::vector<std::string_view> studentsAndCopies = [] {
+  std::vector<std::string_view> tables{"xs"};
+  tables.insert(tables.end(), school::studentTables.begin(), school::studentTables.end());
+  return tables;
+}();
+
 const Clearing clearings[] = {
-    {kit::Panel::Students,
-     "您确认是要清空系统中的学籍资料吗？   ",
-     "学籍资料清空后不可恢复！并将同时清空系统中与学生有关的所有记录！",
-     {"xs", "cjb", "jfjl", "qfjl", "xxfk", "zsgl2", "tjs"},
+    {kit::Panel::Students, "您确认是要清空系统中的学籍资料吗？   ",
+     "学籍资料清空后不可恢复！并将同时清空系统中与学生有关的所有记录！", studentsAndCopies,
      "系统中的学籍资料、交费记录等学生相关全部清空 ！        "},
     {kit::Panel::Payments,
      "您确认是要清空系统中所有交费记录吗？   ",

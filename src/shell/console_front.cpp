@@ -2,7 +2,7 @@
 
 #include "base/text.h"
 #include "collection/payment_columns.h"
-#include "kit/settings.h"
+#include "register/settings.h"
 
 namespace shell {
 
@@ -133,7 +133,7 @@ void ArrearsFrame::showDue() {
   clear();
   holdsDue_ = true;
   frame.setTitle("今日到期应交欠费信息");
-  kit::loadReminderDays(desk_);
+  school::loadReminderDays(desk_);
   const base::Date today = desk_.clock.today();
   RecordSet open(desk_.store, "select * from qfjl where  bjje-sbjje>0 and clfs<>'减免' order by bjrq");
   base::Money total;

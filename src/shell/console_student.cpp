@@ -5,7 +5,8 @@
 #include "collection/payment_deletion.h"
 #include "collection/receipt_print.h"
 #include "kit/rows.h"
-#include "kit/settings.h"
+#include "register/settings.h"
+#include "register/students.h"
 #include "shell/console.h"
 #include "shell/payment_summary.h"
 #include "shell/rights.h"
@@ -50,7 +51,7 @@ void Formzct::wireFront() {
   classes.students.onDoubleClick([this] { pickFromClass(); });
   classes.opensFeeWindow.onChange([this] {
     const bool on = classes.opensFeeWindow.on();
-    if (std::exchange(desk.session.open_fee_window, on) != on) kit::storeSetting(desk, "sfctsz", on ? 1 : 0);
+    if (std::exchange(desk.session.open_fee_window, on) != on) school::storeSetting(desk, "sfctsz", on ? 1 : 0);
   });
 }
 
@@ -73,14 +74,8 @@ void Formzct::findByName() {
   if (!may(desk, Collect)) return;
   const std::string name = card.xm.trimmed();
   if (name.empty()) return stop("姓名不能为空 ！    ", "操作错误");
-  RecordSet namesakes = rows(Sql("select * from xs where xm='") + name + "'");
-  const long long count = namesakes.count();
-  if (count != 1) {
-    clearCard();
-    return count == 0 ? inform("该生相关记录不存在，请检查姓名输入是否正确！   ", "信息提示")
-                      : inform("学生姓名不唯一，请您用学号调用该生的相关记录！    ", "操作提示");
-  }
-  found(namesakes.get("xh").trimmed(), "找不到相关记录，请检查姓名输入是否正确！    ");
+  auto student = school::findByName(desk, name, [this] { clearCard(); });
+  if (student) found(student->get("xh").trimmed(), "找不到相关记录，请检查姓名输入是否正确！    ");
 }
 
 void Formzct::found(const std::string& xh, const std::string& notFoundText) {

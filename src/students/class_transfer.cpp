@@ -2,7 +2,8 @@
 
 #include "base/text.h"
 #include "kit/rows.h"
-#include "students/student_records.h"
+#include "register/classes.h"
+#include "register/students.h"
 
 namespace students {
 
@@ -28,11 +29,11 @@ void mustStandInClass(store::Store& store, const Mover& mover, const std::string
 void transferStudents(store::Store& store, const std::string& fromClass, const std::string& toClass,
                       const std::vector<Mover>& movers, const std::function<void(const std::string& name)>& visit) {
   store::Unit unit(store);
-  const auto target = classPicked(store, toClass);
+  const auto target = school::classPicked(store, toClass);
   if (!target && !toClass.empty()) refuse("班级“" + toClass + "”已被其他计算机改名或删除");
   for (const Mover& mover : movers) mustStandInClass(store, mover, fromClass);
   // Without a to-class the students leave theirs and stand in none until the register gives them one.
-  ClassPick to = target.value_or(ClassPick{});
+  school::ClassPick to = target.value_or(school::ClassPick{});
   for (const Mover& mover : movers) {
     if (visit) visit(mover.xm);
     const Sql named = Sql(" where bjmc='") + fromClass + "' and xm='" + mover.xm + "'";
@@ -43,7 +44,7 @@ void transferStudents(store::Store& store, const std::string& fromClass, const s
     if (RecordSet(store, Sql("select * from xs") + named).count() > 1)
       own += Sql(" and xh='") + student.get("xh").trimmed() + "'";
     kit::writeRow(student, {{"bjmc", toClass}, {"zymc", to.zymc}, {"xtbh", to.xtbh}});
-    for (const std::string_view table : dependentTables) {
+    for (const std::string_view table : school::studentTables) {
       kit::setEach(store, Sql::table(table) + own, "xtbh", to.xtbh);
       kit::setEach(store, Sql::table(table) + own, "bjmc", toClass);
     }

@@ -5,7 +5,7 @@
 #include "kit/at_exit.h"
 #include "kit/notice.h"
 #include "kit/rows.h"
-#include "students/student_records.h"
+#include "register/classes.h"
 
 namespace students {
 
@@ -29,9 +29,7 @@ Formtb::Formtb(kit::Desk& all) : Screen(all, "Formtb", "学生调班转班事务
   back.onPress([this] { close(); });
 }
 
-void Formtb::load() {
-  showStudents();
-}
+void Formtb::load() { showStudents(); }
 
 void Formtb::showStudents() {
   listed_.clear();
@@ -46,9 +44,9 @@ void Formtb::showStudents() {
     boxes[index].show(there);
   }
   const std::string count = std::to_string(listed_.size()) + " 名学生";
-  students.setTitle(fromClass.blank()             ? "请先选择学生现所在班级"
+  students.setTitle(fromClass.blank()               ? "请先选择学生现所在班级"
                     : listed_.size() > boxes.size() ? count + "，只列出前 " + std::to_string(boxes.size()) + " 名"
-                                                  : count);
+                                                    : count);
   tickAll.setCaption(tick);
 }
 
@@ -70,7 +68,7 @@ bool Formtb::refuseSameClass() {
 }
 
 void Formtb::showTarget() {
-  const auto target = toClass.blank() ? std::nullopt : classPicked(desk.store, toClass.text());
+  const auto target = toClass.blank() ? std::nullopt : school::classPicked(desk.store, toClass.text());
   zymc.set(target ? target->zymc : "");
   xtbh.set(target ? target->xtbh : "");
 }

@@ -1,7 +1,8 @@
 #include "students/student_card.h"
 
 #include "kit/list.h"
-#include "students/student_records.h"
+#include "register/students.h"
+#include "students/photo.h"
 
 namespace students {
 namespace {
@@ -14,7 +15,7 @@ struct CardColumn {
   Format format = Format::Text;
 };
 
-constexpr CardColumn ofStudent[] = {
+constexpr CardColumn school::ofStudent[] = {
     {"xh", &StudentCard::xh},       {"xm", &StudentCard::xm},
     {"xb", &StudentCard::xb},       {"csrq", &StudentCard::csrq, Format::LongDate},
     {"sfzhm", &StudentCard::sfzhm}, {"zzmm", &StudentCard::zzmm},
@@ -40,10 +41,10 @@ void take(StudentCard& card, std::span<const CardColumn> columns, store::RecordS
 }  // namespace
 
 std::optional<StudentCard> readStudentCard(store::Store& store, const std::string& xh) {
-  store::RecordSet student = loadStudent(store, xh);
+  store::RecordSet student = school::loadStudent(store, xh);
   if (student.empty()) return std::nullopt;
   StudentCard card;
-  take(card, ofStudent, student);
+  take(card, school::ofStudent, student);
   card.photo = fromBytes(student.get("xp").bytes());
   store::RecordSet room(store, store::Sql("select * from zsgl2 where xh='") + card.xh + "'");
   if (!room.empty()) take(card, ofRoom, room);

@@ -2,7 +2,8 @@
 
 #include "base/text.h"
 #include "kit/rows.h"
-#include "kit/settings.h"
+#include "register/classes.h"
+#include "register/settings.h"
 #include "students/identity_number.h"
 
 namespace students {
@@ -32,7 +33,7 @@ Formzctxs::Formzctxs(kit::Desk& all, const kit::Editing& editing, Collect collec
   xp.onClick([this] { pickPhoto(); });
   choosePhoto.onPress([this] { pickPhoto(); });
   xssf.onChange([this] {
-    if (kit::settingIsOn(desk, "xssf") != xssf.on()) kit::storeSetting(desk, "xssf", xssf.on());
+    if (school::settingIsOn(desk, "xssf") != xssf.on()) school::storeSetting(desk, "xssf", xssf.on());
   });
   confirm.onPress([this] {
     xb.set(sex_);
@@ -60,7 +61,7 @@ std::vector<std::pair<StudentText, kit::Field*>> Formzctxs::entries() {
 }
 
 void Formzctxs::load() {
-  xssf.set(kit::settingIsOn(desk, "xssf"));
+  xssf.set(school::settingIsOn(desk, "xssf"));
   xssf.show(EditMode == Mode::Add);
   confirm.setCaption(EditMode == Mode::Add ? "添加" : EditMode == Mode::Modify ? "修改" : "删除");
   show(newStudent(desk.clock.today()), "");
@@ -106,7 +107,7 @@ void Formzctxs::takeClass() {
   if (bjmc.trimmed() == takenClass_) return;
   takenClass_ = bjmc.trimmed();
   if (bjmc.blank()) return;
-  const auto found = classPicked(desk.store, takenClass_);
+  const auto found = school::classPicked(desk.store, takenClass_);
   if (!found) return;
   zymc.set(found->zymc);
   // Back in the class they came from, students keep their number: it changes only together with the class.

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "kit/rows.h"
 #include "kit/validation.h"
+#include "register/classes.h"
 
 namespace students {
 
@@ -31,20 +32,24 @@ const kit::QueryPlan plan{"xs",
 }  // namespace
 
 Formzctxscx1::Formzctxscx1(kit::Desk& all) : QueryScreen(all, "Formzctxscx1", "打开学籍资料信息设置", plan) {
-  offer(zymc, "zymc", [] { return Sql("select * from zymcb order by zybh"); });
-  offer(bjmc, "bjmc", [this] {
-    return zymc.blank() ? Sql("select * from bjzl order by bjdh")
-                        : Sql("select * from bjzl where zymc='") + zymc.trimmed() + "' order by bjdh";
-  });
-  offer(xm, "xm", [this] {
-    return bjmc.blank() ? Sql("select * from xs order by xh")
-                        : Sql("select * from xs where bjmc='") + bjmc.trimmed() + "' order by xh";
-  });
+  zymc.offers("select * from zymcb order by zybh", "zymc");
+  bjmc.offers(
+      [this] {
+        return zymc.blank() ? Sql("select * from bjzl order by bjdh")
+                            : Sql("select * from bjzl where zymc='") + zymc.trimmed() + "' order by bjdh";
+      },
+      "bjmc");
+  xm.offers(
+      [this] {
+        return bjmc.blank() ? Sql("select * from xs order by xh")
+                            : Sql("select * from xs where bjmc='") + bjmc.trimmed() + "' order by xh";
+      },
+      "xm");
   xb.setChoices({"男", "女"});
-  offer(mz, "mz", [] { return Sql("select mz from xs group by mz"); });
-  offer(zzmm, "zzmm", [] { return Sql("select zzmm from xs group by zzmm"); });
-  offer(rxxs, "rxxs", [] { return Sql("select * from rxxs"); });
-  offer(byxx, "byxx", [] { return Sql("select byxx from xs group by byxx"); });
+  mz.offers("select mz from xs group by mz", "mz");
+  zzmm.offers("select zzmm from xs group by zzmm", "zzmm");
+  rxxs.offers("select * from rxxs", "rxxs");
+  byxx.offers("select byxx from xs group by byxx", "byxx");
   csrq.day.calendarFrom = -usualAge;
   wireConditions();
   single.onPress([this] {
@@ -62,7 +67,7 @@ std::optional<std::vector<Condition>> Formzctxscx1::conditions() {
   if (!born) return std::nullopt;
   const auto entered = dated(rxrq, "rxrq");
   if (!entered) return std::nullopt;
-  return std::vector{zymc.blank() ? Condition{} : kit::majorIs(kit::majorCode(desk.store, zymc.trimmed())),
+  return std::vector{zymc.blank() ? Condition{} : school::majorIs(school::majorCode(desk.store, zymc.trimmed())),
                      kit::equals("bjmc", bjmc.text()),
                      kit::equals("xh", xh.text()),
                      kit::equals("xm", xm.text()),
@@ -161,7 +166,7 @@ void Formzctxscx::query() {
         kit::keywordChain({keywordPieces.begin(), keywordPieces.begin() + piecesOfSingle}, value.trimmed(), keywordEnd);
   } else {
     const bool major = chosen == &ways().front();
-    filter = chosen->before + (major ? kit::majorCode(desk.store, value.trimmed()) : value.trimmed()) + "'";
+    filter = chosen->before + (major ? school::majorCode(desk.store, value.trimmed()) : value.trimmed()) + "'";
   }
   const long long count = rows(Sql("select * from xs ") + filter).count();
   if (count == 0) return inform("相关记录不存在 ！      ", "信息提示");

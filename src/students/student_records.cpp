@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "kit/list.h"
 #include "kit/rows.h"
+#include "register/students.h"
 
 namespace students {
 namespace {
@@ -92,23 +93,17 @@ void mark(RecordSet& row, kit::Desk& desk, kit::Panel panel) {
   if (panel == kit::Panel::Students) row.set("bsh", desk.session.ComputerName);
 }
 
-Sql ofStudent(std::string_view table, const std::string& xh) {
-  return Sql::table(table) + " where xh='" + base::trim(xh) + "'";
-}
-
 // What the dependent tables copy of a student; the number last, for they are found by it.
 void cascade(store::Store& store, const Student& former, const Student& student) {
   constexpr std::pair<std::string_view, StudentText> copies[] = {
       {"xm", &Student::xm}, {"bjmc", &Student::bjmc}, {"xtbh", &Student::xtbh}, {"xh", &Student::xh}};
-  for (const std::string_view table : dependentTables)
+  for (const std::string_view table : school::studentTables)
     for (const auto& [column, text] : copies)
       if (differ(student, former, text))
-        kit::setEach(store, ofStudent(table, former.xh), column, base::trim(student.*text));
+        kit::setEach(store, school::ofStudent(table, former.xh), column, base::trim(student.*text));
 }
 
 }  // namespace
-
-RecordSet loadStudent(store::Store& store, const std::string& xh) { return RecordSet(store, ofStudent("xs", xh)); }
 
 Student textsOf(RecordSet& row) {
   Student student;
@@ -133,21 +128,10 @@ NumberProposal proposeNumber(store::Store& store, base::Date today) {
   return {next, next};
 }
 
-std::optional<ClassPick> classPicked(store::Store& store, const std::string& bjmc) {
-  RecordSet found(store, Sql("select * from bjzl where bjmc='") + bjmc + "'");
-  if (found.empty()) return std::nullopt;
-  RecordSet classmates(store, Sql("select * from xs where bjmc='") + bjmc + "' order by xtbh");
-  const std::string zymc = found.get("zymc").trimmed();
-  if (classmates.empty()) return ClassPick{zymc, found.get("bjdh").trimmed() + "001"};
-  classmates.last();
-  // A step through a number: class codes that start with 0 lose it, and the lists sort by what stands here now.
-  return ClassPick{zymc, base::nextNumber(classmates.get("xtbh").trimmed())};
-}
-
 namespace {
 
 std::optional<Refusal> taken(store::Store& store, const std::string& xh) {
-  if (loadStudent(store, xh).empty()) return std::nullopt;
+  if (school::loadStudent(store, xh).empty()) return std::nullopt;
   return Refusal{"存在相同的学号！     ", "错误提示", &Student::xh};
 }
 
@@ -160,7 +144,8 @@ std::optional<Refusal> addStudent(kit::Desk& desk, const Student& student, const
   if (auto refusal = taken(desk.store, student.xh)) return refusal;
   RecordSet row(desk.store, "select * from xs");
   row.addNew();
-  for (const Column& column : columns) row.set(column.name, stored(column.kind, student.*column.text, desk.clock.today()));
+  for (const Column& column : columns)
+    row.set(column.name, stored(column.kind, student.*column.text, desk.clock.today()));
   mark(row, desk, panel);
   writePhoto(row, bytes);
   row.update();
@@ -197,7 +182,7 @@ void deleteStudent(store::Store& store, std::int64_t mark, const Student& shown)
   RecordSet row = kit::rowAt(store, "xs", mark);
   mustStandAsShown(row, shown, shown);
   row.remove();
-  for (const std::string_view table : dependentTables) kit::removeEach(store, ofStudent(table, shown.xh));
+  for (const std::string_view table : school::studentTables) kit::removeEach(store, school::ofStudent(table, shown.xh));
   unit.finish();
 }
 

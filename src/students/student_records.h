@@ -2,9 +2,7 @@
 // after them in the tables that carry a copy of the student.
 #pragma once
 
-#include <array>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -20,16 +18,10 @@ struct Student {
 };
 using StudentText = std::string Student::*;
 
-// The tables that copy a student's number, name, class and system number; changed and deleted with the student, in this
-// order, by the number alone. Graduates and history keep what they were written with.
-constexpr std::array<std::string_view, 6> dependentTables = {"cjb", "jfjl", "qfjl", "xxfk", "tjs", "zsgl2"};
-
 constexpr int eighteenYears = 6570;  // in days, as the office counts them
 
 constexpr std::string_view notesIndent = "    ";  // stands before the notes wherever they are shown
 
-// The row of a student: an empty set when there is none.
-store::RecordSet loadStudent(store::Store& store, const std::string& xh);
 Student textsOf(store::RecordSet& row);  // as the edit screen shows them
 Student newStudent(base::Date today);    // what an empty screen holds
 
@@ -38,11 +30,6 @@ struct NumberProposal {
   std::string proposal;  // offered when a number has the wrong length; empty in an empty register
 };
 NumberProposal proposeNumber(store::Store& store, base::Date today);
-
-struct ClassPick {
-  std::string zymc, xtbh;
-};
-std::optional<ClassPick> classPicked(store::Store& store, const std::string& bjmc);  // nothing: no such class
 
 // Why a record was not written: told to the person; the focus goes to the field, when it is one field's fault.
 struct Refusal {

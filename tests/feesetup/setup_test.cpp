@@ -1,15 +1,13 @@
 #include "feesetup/setup.h"
 
-#include "edit_desk.h"
 #include "feesetup/class_edit.h"
 #include "feesetup/class_standard_change.h"
-#include "feesetup/class_standard_delete.h"
 #include "feesetup/class_standards.h"
 #include "feesetup/desk_settings.h"
-#include "feesetup/form_standard_delete.h"
 #include "feesetup/form_standards.h"
 #include "feesetup/major_edit.h"
-#include "kit/settings.h"
+#include "feesetup/standard_delete.h"
+#include "support/school.h"
 
 using namespace support;
 using namespace feesetup;
@@ -19,35 +17,22 @@ using store::Connection;
 
 namespace {
 
-struct SetupDesk : EditDesk {
-  // The configuration record, which a new store has.
-  store::RecordSet record() { return {store, "select * from morvanedjpzb where fn='kqd'", Connection::Config}; }
-  void configure(const std::vector<std::pair<std::string_view, store::Value>>& values) {
-    auto row = record();
-    for (const auto& [column, value] : values) row.set(column, value);
-    row.update();
-  }
+struct SetupDesk : School {
   std::string kept(std::string_view columns) { return dump("morvanedjpzb", columns, "", Connection::Config); }
 };
 
-TEST(Setup, OpensAnEditorAtTheRowOfItsGridAndShowsWhatItChanged) {
+TEST(Setup, OpensAnEditorAtTheSelectedRowAndShowsWhatItChangedInAllTabs) {
   SetupDesk desk;
   auto s = opened<Formsz>(desk);
-  desk.told("不存在需要修改的记录！  ");
-  s->majors.modify.press();
-  desk.told("不存在需要删除的记录！  ");
-  s->majors.remove.press();
   for (const char* name : {"计算机", "会计"}) {
     desk.navigator.expect<Formszzymc>([&](Formszzymc& editor) {
       editor.zymc.type(name);
       editor.confirm.press();
     });
-    s->majors.add.press();
+    s->majors.button("add").press();
   }
-  EXPECT_EQ(s->majors.grid.count(), 2);
-  s->majors.modify.press();  // no row is current: nothing opens
-
-  desk.add("bjzl", {{"zybh", "12"}, {"zymc", "会计"}, {"bjdh", "12001"}, {"bjmc", "会计12001班"}});
+  desk.schoolClass("12001", "会计12001班", "会计");
+  desk.major("10", "美术");  // by another desk, above the row that is chosen
   desk.navigator.expect<Formszzymc>([&](Formszzymc& editor) {
     EXPECT_EQ(editor.zymc.text(), "会计");
     editor.zymc.type("财会");
@@ -55,32 +40,49 @@ TEST(Setup, OpensAnEditorAtTheRowOfItsGridAndShowsWhatItChanged) {
     desk.told("选定记录已修改 ！     ");
     editor.confirm.press();
   });
-  s->majors.grid.doubleClick(1);
-  EXPECT_EQ(s->majors.grid.cell(1, 2), "财会");
-  EXPECT_EQ(s->classes.grid.cell(0, 0), "财会") << "the other grids follow";
+  s->majors.list.doubleClick(1);
+  EXPECT_EQ(s->majors.list.cell(2, 2), "财会");
+  EXPECT_EQ(s->majors.list.selected(), 2);
+  EXPECT_EQ(s->classes.list.cell(0, 0), "财会") << "the other lists follow";
+  desk.told("不存在需要修改的记录！  ");
+  s->bands.button("modify").press();
   desk.told("“考试成绩分段设置”尚未开放，将在后续版本中提供。");
-  s->bands.add.press();
+  s->bands.button("add").press();
 }
 
 TEST(Setup, SwitchesTheBasisOfTheStandardsAndFiltersThem) {
   SetupDesk desk;
   desk.configure({{"bjsf1", true}});
-  for (const char* name : {"乙班", "甲班"}) desk.add("bjzl", {{"bjmc", name}, {"bjdh", name}});
+  for (const auto& [code, name] : {std::pair{"11002", "乙班"}, {"11001", "甲班"}})
+    desk.schoolClass(code, name, "计算机");
   desk.add("rxxs", {{"rxxs", "统招"}});
   desk.add("sfbzb", {{"bjmc", "甲班"}, {"sfxmbh", "102"}, {"je", base::Money::yuan(20)}});
   desk.add("sfbzb", {{"bjmc", "乙班"}, {"sfxmbh", "101"}, {"je", base::Money::yuan(30)}});
   desk.add("sfbzb", {{"bjmc", "甲班"}, {"sfxmbh", "101"}, {"je", base::Money::yuan(10)}});
-  desk.add("sfbzbrxxs", {{"rxxs", "统招"}, {"je", base::Money::yuan(5)}});
+  desk.formStandard("统招", "学费", base::Money::yuan(5));
+  desk.formStandard("自考", "学费", base::Money::yuan(5));
   auto s = opened<Formsz>(desk);
-  EXPECT_TRUE(s->sfbzb.visible() && !s->sfbzbrxxs.visible() && desk.session.standard_basis_class);
-  EXPECT_EQ(s->sfbzb.count(), 3);
+  kit::List &byClass = s->classStandards.list, &byForm = s->formStandards.list;
+  const auto press = [&](const char* button) {
+    (byClass.visible() ? s->classStandards : s->formStandards).button(button).press();
+  };
+  EXPECT_TRUE(byClass.visible() && !byForm.visible() && desk.session.standard_basis_class);
+  EXPECT_EQ(byClass.count(), 3);
   s->filter.pick("甲班");
-  EXPECT_EQ(s->sfbzb.count(), 2);
-  EXPECT_EQ(s->sfbzb.cell(0, 5), "10.00");
+  EXPECT_EQ(byClass.count(), 2);
+  EXPECT_EQ(byClass.cell(0, 5), "10.00") << "by the code of the item";
 
-  s->sfbzb.select(0);
-  desk.navigator.expect<Formszsfbz2>([&](Formszsfbz2& change) { EXPECT_EQ(change.after.text(), "10"); });
-  s->modifyStandards.press();
+  byClass.select(0);
+  desk.navigator.expect<Formszsfbz2>([&](Formszsfbz2& change) {
+    EXPECT_EQ(change.after.text(), "10");
+    change.what.choose(1);
+    change.after.type("新");
+    desk.person.answer(true, Box::Ask, "此操作将修改系统中所有收费项目的学年学期信息，您确认继续吗？   ", "批修改提示");
+    desk.told("记录批修改成功！     ");
+    change.confirm.press();
+  });
+  press("modify");
+  EXPECT_EQ(desk.dump("sfbzb", "bjmc|xq"), "甲班|新\n乙班|\n甲班|新\n") << "the rows that the filter shows";
   EXPECT_EQ(s->filter.text(), "甲班") << "stays, as nothing emptied it";
   desk.navigator.expect<Formszsfbz1>([&](Formszsfbz1& removal) {
     removal.what.choose(1);
@@ -88,33 +90,91 @@ TEST(Setup, SwitchesTheBasisOfTheStandardsAndFiltersThem) {
     desk.told("选定班级的记录已删除 ！     ");
     removal.confirm.press();
   });
-  s->sfbzb.select(0);
-  s->removeStandards.press();
+  press("remove");
   EXPECT_EQ(s->filter.text(), "");
-  EXPECT_EQ(s->sfbzb.count(), 1);
-  desk.navigator.expect<Formszsfbz>();
-  s->setStandards.press();
+  EXPECT_EQ(byClass.count(), 1);
+  desk.item("101", "学费");
+  desk.navigator.expect<Formszsfbz>([&](Formszsfbz& more) {
+    more.sfxmmc.pick("学费");
+    more.je.type("5");
+    desk.told("设置完成 ！       ");
+    more.confirm.press();
+    EXPECT_EQ(byClass.count(), 3) << "the list behind follows while the screen stays open";
+  });
+  press("add");
 
   s->basis.choose(1);
-  EXPECT_TRUE(!s->sfbzb.visible() && s->sfbzbrxxs.visible() && !desk.session.standard_basis_class);
-  EXPECT_FALSE(desk.record().get("bjsf1").yes());
+  EXPECT_TRUE(!byClass.visible() && byForm.visible() && !desk.session.standard_basis_class);
+  EXPECT_FALSE(desk.settings().get("bjsf1").yes());
   s->filter.pick("统招");
-  EXPECT_EQ(s->sfbzbrxxs.count(), 1);
+  EXPECT_EQ(byForm.count(), 1);
   s->refresh.press();
   EXPECT_EQ(s->filter.text(), "");
-  s->sfbzbrxxs.select(0);
-  for (auto* button : {&s->setStandards, &s->modifyStandards}) {
-    desk.navigator.expect<Formszsfbz3>(
-        [&](Formszsfbz3&) { EXPECT_EQ(desk.session.EditMode, button == &s->setStandards ? Mode::Add : Mode::Modify); });
-    button->press();
+  byForm.select(1);
+  desk.navigator.expect<Formszsfbz3>([](Formszsfbz3& change) {
+    change.rxxs.pick("统招");
+    EXPECT_EQ(change.lines[0].sfxmmc.text(), "学费");
+  });
+  press("modify");
+  desk.navigator.expect<Formszsfbz3>([](Formszsfbz3& set) {
+    set.rxxs.pick("统招");
+    EXPECT_EQ(set.lines[0].sfxmmc.text(), "");
+  });
+  press("add");
+  desk.navigator.expect<Formszsfbz4>([&](Formszsfbz4& removal) {
+    desk.person.answer(true, Box::Ask, "您确认是要删除选定记录吗 ？    ", "删除提示");
+    desk.told("选定记录已删除 ！     ");
+    removal.confirm.press();
+  });
+  press("remove");
+  EXPECT_EQ(desk.dump("sfbzbrxxs", "rxxs"), "统招\n");
+}
+
+TEST(Setup, TheFilterGoesWithTheNameOfItsClass) {
+  SetupDesk desk;
+  desk.configure({{"bjsf1", true}});
+  desk.schoolClass("11001", "甲班", "计算机");
+  for (const char* name : {"甲班", "乙班"}) desk.standard("旧", name, "学费", 1);
+  auto s = opened<Formsz>(desk);
+  s->filter.pick("甲班");
+  desk.navigator.expect<Formszbjzl>([&](Formszbjzl& edit) {
+    edit.bjmc.type("丙班");
+    desk.person.answer(true, Box::Ask, "您确认要修改记录吗？  ", "修改提示")
+        .answer(true, Box::AskStop, "班级名称被修改，这将修改系统中所有该班级的信息，您确认继续吗？   ", "警告");
+    desk.told("选定记录已修改 ！     ");
+    edit.confirm.press();
+  });
+  s->classes.list.doubleClick(0);
+  EXPECT_EQ(s->filter.text(), "");
+  EXPECT_EQ(s->classStandards.list.count(), 2);
+}
+
+// Of rows b, c, d the second is chosen; before the button is pressed another desk adds one above it, or deletes it.
+TEST(Setup, ADeletedStandardIsTheOneThatWasSelected) {
+  for (const bool gone : {false, true}) {
+    SetupDesk desk;
+    desk.configure({{"bjsf1", true}});
+    for (const char* name : {"b班", "c班", "d班"}) desk.standard("旧", name, "学费", 1);
+    auto s = opened<Formsz>(desk);
+    s->classStandards.list.select(1);
+    if (gone) kit::removeEach(desk.store, "select * from sfbzb where bjmc='c班'");
+    else desk.standard("旧", "a班", "学费", 1);
+    if (gone) desk.told("选定的记录已被其他计算机删除，列表已重新加载。");
+    else
+      desk.navigator.expect<Formszsfbz1>([&](Formszsfbz1& removal) {
+        desk.person.answer(true, Box::Ask, "您确认是要删除选定记录吗 ？    ", "删除提示");
+        desk.told("选定记录已删除 ！     ");
+        removal.confirm.press();
+      });
+    s->classStandards.button("remove").press();
+    EXPECT_EQ(desk.dump("sfbzb", "bjmc"), gone ? "b班\nd班\n" : "b班\nd班\na班\n");
+    EXPECT_EQ(s->classStandards.list.selected(), -1);
   }
-  desk.navigator.expect<Formszsfbz4>();
-  s->removeStandards.press();
 }
 
 TEST(Setup, KeepsTheBasisForTheSessionWithoutARecord) {
   SetupDesk desk;
-  desk.record().remove();
+  desk.settings().remove();
   auto s = opened<Formsz>(desk);
   s->basis.choose(1);
   s->basis.choose(0);
@@ -143,17 +203,17 @@ TEST(Settings, AreCopiedIntoTheSessionAsFarAsTheyMeanSomething) {
   desk.session.open_fee_window = true;
   desk.session.receipt_style = 2;
   desk.session.custom_form = "专用收据";
-  EXPECT_TRUE(kit::loadArrearsSettings(desk.desk));
+  EXPECT_TRUE(school::loadArrearsSettings(desk.desk));
   EXPECT_EQ(desk.session.arrears_item, "学费");
   EXPECT_EQ(desk.session.reminder_days, 0) << "left for the whole load";
-  EXPECT_TRUE(kit::loadSettings(desk.desk));
+  EXPECT_TRUE(school::loadSettings(desk.desk));
   const kit::Session& session = desk.session;
   EXPECT_TRUE(session.print_receipt && session.due_rows_ticked && !session.open_fee_window);
   EXPECT_EQ(session.receipt_style, 2);
   EXPECT_EQ(session.custom_form, "专用收据");
   EXPECT_EQ(session.reminder_days, 5);
-  desk.record().remove();
-  EXPECT_FALSE(kit::loadSettings(desk.desk));
+  desk.settings().remove();
+  EXPECT_FALSE(school::loadSettings(desk.desk));
   EXPECT_EQ(session.reminder_days, 5);
 }
 
@@ -165,8 +225,8 @@ TEST(DeskSettings, StoreEachTickAtOnce) {
     for (const bool on : {!tick->on(), tick->on()}) {
       tick->toggle();
       EXPECT_EQ(tick->on(), on) << tick->name;
-      EXPECT_EQ(desk.session.*kit::flagOf(tick->name), on) << tick->name;
-      EXPECT_EQ(desk.record().get(tick->name).number(), on ? 1 : 0) << tick->name;
+      EXPECT_EQ(desk.session.*school::flagOf(tick->name), on) << tick->name;
+      EXPECT_EQ(desk.settings().get(tick->name).number(), on ? 1 : 0) << tick->name;
     }
   s->fpys.choose(2);
   EXPECT_EQ(desk.session.receipt_style, 3);
@@ -195,7 +255,7 @@ TEST(DeskSettings, StoreTheirFieldsOnTheirButtons) {
 
 TEST(DeskSettings, DoNothingWithoutARecord) {
   SetupDesk desk;
-  desk.record().remove();
+  desk.settings().remove();
   auto s = opened<Formszqt>(desk);
   s->dysz.toggle();
   s->fpys.choose(1);

@@ -1,38 +1,33 @@
-#include "edit_desk.h"
 #include "feesetup/class_standard_change.h"
-#include "feesetup/class_standard_delete.h"
 #include "feesetup/class_standards.h"
-#include "feesetup/form_standard_delete.h"
 #include "feesetup/form_standards.h"
+#include "feesetup/standard_delete.h"
+#include "support/school.h"
 
 using namespace support;
 using namespace feesetup;
 using kit::Box;
 using kit::Mode;
+using store::Sql;
 
 namespace {
 
 const char* const overwrite = "存在相同的收费信息！此操作将覆盖原信息，您确认继续吗？  ";
 const char* const term = "2026学年下学期";
 
-struct StandardDesk : EditDesk {
+struct StandardDesk : School {
   StandardDesk() {
-    add("zymcb", {{"zybh", "11"}, {"zymc", "计算机"}});
-    add("zymcb", {{"zybh", "12"}, {"zymc", "会计"}});
-    add("bjzl", {{"zymc", "会计"}, {"bjdh", "12001"}, {"bjmc", "丙班"}});
-    add("bjzl", {{"zymc", "计算机"}, {"bjdh", "11001"}, {"bjmc", "甲班"}});
-    add("bjzl", {{"zymc", "计算机"}, {"bjdh", "11002"}, {"bjmc", "乙班"}});
-    add("sfxmb", {{"sfxmbh", "102"}, {"sfxmmc", "书费"}});
-    add("sfxmb", {{"sfxmbh", "101"}, {"sfxmmc", "学费"}});
-    add("rxxs", {{"rxxs", "统招"}});
-    add("rxxs", {{"rxxs", "自考"}});
+    major("11", "计算机");
+    major("12", "会计");
+    schoolClass("12001", "丙班", "会计");
+    schoolClass("11001", "甲班", "计算机");
+    schoolClass("11002", "乙班", "计算机");
+    item("102", "书费");
+    item("101", "学费");
+    for (const char* form : {"统招", "自考"}) add("rxxs", {{"rxxs", form}});
   }
-  void standard(const char* xq, const char* bjmc, const char* item, int amount) {
-    add("sfbzb", {{"xq", xq},
-                  {"zymc", bjmc == std::string("丙班") ? "会计" : "计算机"},
-                  {"bjmc", bjmc},
-                  {"sfxmmc", item},
-                  {"je", base::Money::yuan(amount)}});
+  void standard(const char* xq, const char* bjmc, const char* item, int yuan) {
+    School::standard(xq, bjmc, item, yuan, bjmc == std::string("丙班") ? "会计" : "计算机");
   }
   std::string standards() { return dump("sfbzb", "xq|bjmc|sfxmmc|je"); }
   std::string formStandards() { return dump("sfbzbrxxs", "rxxs|sfxmmc|je"); }
@@ -42,6 +37,7 @@ TEST(ClassStandards, RefusesInOrder) {
   StandardDesk desk;
   auto s = opened<Formszsfbz>(desk);
   EXPECT_EQ(s->xq.text(), term);
+  s->sfxmmc.drop();
   EXPECT_EQ(s->sfxmmc.choices(), (std::vector<std::string>{"学费", "书费"}));
   EXPECT_FALSE(s->selection.visible());
   s->scope.choose(2);
@@ -100,15 +96,15 @@ TEST(ClassStandards, WritesTheClassesOfItsScopeOverWhatStood) {
 }
 
 TEST(ClassStandards, AcceptsZeroAndSaysNothingWithoutClasses) {
-  EditDesk desk;
-  desk.add("sfxmb", {{"sfxmbh", "101"}, {"sfxmmc", "学费"}});
+  School desk;
+  desk.item("101", "学费");
   auto s = opened<Formszsfbz>(desk);
   s->sfxmmc.pick("学费");
   s->je.type("0");
   s->je.enter();
   s->confirm.press();
   EXPECT_EQ(desk.dump("sfbzb", "je"), "");
-  desk.add("bjzl", {{"zymc", "会计"}, {"bjmc", "丙班"}});
+  desk.schoolClass("12001", "丙班", "会计");
   desk.told("设置完成 ！       ");
   s->confirm.press();
   EXPECT_EQ(desk.dump("sfbzb", "zymc|bjmc|sfxmbh|je|bsh"), "会计|丙班|101|0|2026-9-7 8:30:05\n");
@@ -121,7 +117,8 @@ struct ChangeDesk : StandardDesk {
     standard("旧", "甲班", "书费", 30);
   }
   std::unique_ptr<Formszsfbz2> change() {
-    return at<Formszsfbz2>(Mode::Modify, "select * from sfbzb where bjmc='甲班'");
+    const Sql shown = "select * from sfbzb where bjmc='甲班'";
+    return opened<Formszsfbz2>(*this, markOf(shown), shown);
   }
 };
 
@@ -174,55 +171,69 @@ TEST(ClassStandardChange, ChangesTheTermOfTheRowsShown) {
   EXPECT_EQ(desk.standards(), "新|甲班|学费|10\n更旧|乙班|学费|20\n新|甲班|书费|30\n");
 }
 
-struct DeleteCase {
-  int what;
-  std::string filter, question, title, report, left;
-};
-
-template <class S>
-void playDeletions(const store::Sql& rows, const std::vector<DeleteCase>& cases, std::string_view table,
-                   std::string_view column) {
-  for (const DeleteCase& one : cases) {
-    SCOPED_TRACE(one.report);
+// Two desks that hold the same standard: the second is told, and another desk's class stays out of it.
+TEST(ClassStandardChange, ARowThatWasChangedOrDeletedMeanwhileIsLeftAlone) {
+  for (const bool changed : {true, false}) {
     ChangeDesk desk;
-    for (const char* form : {"统招", "自考", "统招"}) desk.add("sfbzbrxxs", {{"rxxs", form}});
-    desk.session.standard_filter = one.filter;
-    const std::string before = desk.dump(table, column);
-    auto s = desk.at<S>(Mode::Delete, rows, 1);
-    if (one.what > 0) s->what.choose(one.what);
-    desk.person.answer(false, Box::Ask, one.question, one.title);
+    auto s = desk.change();
+    s->after.type("12.5");
+    store::RecordSet other(desk.store, "select * from sfbzb where bjmc='甲班'");
+    if (changed) kit::writeRow(other, {{"je", 11}});
+    else other.remove();
+    changed ? desk.conflict("收费金额") : desk.gone();
     s->confirm.press();
-    EXPECT_EQ(desk.dump(table, column), before);
-    desk.person.answer(true, Box::Ask, one.question, one.title);
-    desk.told(one.report);
-    s->confirm.press();
-    EXPECT_TRUE(s->closed());
-    EXPECT_EQ(desk.dump(table, column), one.left);
-    EXPECT_EQ(desk.session.standard_filter, one.what == 1 ? "" : one.filter);
+    EXPECT_EQ(desk.standards(),
+              std::string(changed ? "旧|甲班|学费|11\n" : "") + "更旧|乙班|学费|20\n旧|甲班|书费|30\n");
   }
 }
+
+template <class S> struct DeleteCase {
+  int what;
+  std::string filter, question, title, report, left;
+
+  void play(std::string_view table, std::string_view column) const {
+    SCOPED_TRACE(report);
+    ChangeDesk desk;
+    for (const char* form : {"统招", "自考", "统招"}) desk.formStandard(form, "学费", {});
+    const std::string before = desk.dump(table, column);
+    const auto second = [&] {
+      store::RecordSet rows(desk.store, Sql::table(table));
+      rows.next();
+      return rows.mark();
+    };
+    auto s = opened<S>(desk, second(), filter);
+    if (what > 0) s->what.choose(what);
+    desk.person.answer(false, Box::Ask, question, title);
+    s->confirm.press();
+    EXPECT_EQ(desk.dump(table, column), before);
+    desk.person.answer(true, Box::Ask, question, title);
+    desk.told(report);
+    s->confirm.press();
+    EXPECT_TRUE(s->closed());
+    EXPECT_EQ(desk.dump(table, column), left);
+    EXPECT_EQ(s->answer, what == 1);
+  }
+};
 
 TEST(StandardDelete, DeletesOneRowThoseOfTheFilterOrAll) {
   const char* one = "您确认是要删除选定记录吗 ？    ";
   const char* all = "您确认是要清空所有记录吗 ？    ";
   const char* ofClass = "您确认是要删除选定班级的所有记录吗 ？    ";
   const char* ofForm = "您确认是要删除选定入学形式的所有记录吗 ？    ";
-  playDeletions<Formszsfbz1>("select * from sfbzb",
-                             {{0, "甲班", one, "删除提示", "选定记录已删除 ！     ", "甲班\n甲班\n"},
-                              {1, "甲班", ofClass, "删除提示", "选定班级的记录已删除 ！     ", "乙班\n"},
-                              {1, "", ofClass, "删除提示", "选定班级的记录已删除 ！     ", "甲班\n乙班\n甲班\n"},
-                              {2, "甲班", all, "清空提示", "记录已清空 ！     ", ""}},
-                             "sfbzb", "bjmc");
-  playDeletions<Formszsfbz4>("select * from sfbzbrxxs",
-                             {{0, "", one, "删除提示", "选定记录已删除 ！     ", "统招\n统招\n"},
-                              {1, "统招", ofForm, "删除提示", "选定入学形式的记录已删除 ！     ", "自考\n"},
-                              {2, "", all, "清空提示", "记录已清空 ！     ", ""}},
-                             "sfbzbrxxs", "rxxs");
+  for (const auto& by : {DeleteCase<Formszsfbz1>{0, "甲班", one, "删除提示", "选定记录已删除 ！     ", "甲班\n甲班\n"},
+                         {1, "甲班", ofClass, "删除提示", "选定班级的记录已删除 ！     ", "乙班\n"},
+                         {1, "", ofClass, "删除提示", "选定班级的记录已删除 ！     ", "甲班\n乙班\n甲班\n"},
+                         {2, "甲班", all, "清空提示", "记录已清空 ！     ", ""}})
+    by.play("sfbzb", "bjmc");
+  for (const auto& by : {DeleteCase<Formszsfbz4>{0, "", one, "删除提示", "选定记录已删除 ！     ", "统招\n统招\n"},
+                         {1, "统招", ofForm, "删除提示", "选定入学形式的记录已删除 ！     ", "自考\n"},
+                         {2, "", all, "清空提示", "记录已清空 ！     ", ""}})
+    by.play("sfbzbrxxs", "rxxs");
 }
 
 TEST(FormStandards, RefusesInOrder) {
   StandardDesk desk;
-  auto s = desk.adding<Formszsfbz3>();
+  auto s = opened<Formszsfbz3>(desk);
   const auto refuse = [&](const char* message) {
     desk.refused(message);
     s->confirm.press();
@@ -252,9 +263,8 @@ TEST(FormStandards, RefusesInOrder) {
 
 TEST(FormStandards, ReplacesAFormAsAWholeWithoutAsking) {
   StandardDesk desk;
-  for (const char* form : {"统招", "自考"})
-    desk.add("sfbzbrxxs", {{"rxxs", form}, {"sfxmmc", "旧费"}, {"je", base::Money::yuan(1)}});
-  auto s = desk.adding<Formszsfbz3>();
+  for (const char* form : {"统招", "自考"}) desk.formStandard(form, "旧费", base::Money::yuan(1));
+  auto s = opened<Formszsfbz3>(desk);
   s->rxxs.pick("统招");
   std::string lines;
   for (std::size_t i = 0; i < standardLineCount; ++i) {
@@ -269,10 +279,8 @@ TEST(FormStandards, ReplacesAFormAsAWholeWithoutAsking) {
 
 TEST(FormStandards, ModifiesWhatStandsAfterAQuestion) {
   StandardDesk desk;
-  for (int i = 1; i <= 12; ++i)
-    desk.add("sfbzbrxxs", {{"rxxs", "统招"}, {"sfxmmc", "费" + std::to_string(i)}, {"je", base::Money::fen(i * 50)}});
-  desk.session.EditMode = Mode::Modify;
-  auto s = opened<Formszsfbz3>(desk);
+  for (int i = 1; i <= 12; ++i) desk.formStandard("统招", ("费" + std::to_string(i)).c_str(), base::Money::fen(i * 50));
+  auto s = opened<Formszsfbz3>(desk, kit::Editing{Mode::Modify});
   desk.told("不存在需要修改的记录 ！　　");
   s->rxxs.pick("自考");
   EXPECT_EQ(s->rxxs.text(), "");
@@ -286,6 +294,19 @@ TEST(FormStandards, ModifiesWhatStandsAfterAQuestion) {
     EXPECT_EQ(desk.count("select * from sfbzbrxxs"), yes ? 1 : 12);
   }
   EXPECT_EQ(desk.formStandards(), "统招|费1|0.5\n");
+}
+
+TEST(FormStandards, AreNotReplacedWhenAnotherDeskHasChangedThem) {
+  StandardDesk desk;
+  desk.formStandard("统招", "学费", base::Money::yuan(1));
+  auto s = opened<Formszsfbz3>(desk, kit::Editing{Mode::Modify});
+  s->rxxs.pick("统招");
+  s->lines[0].je.type("2");
+  desk.formStandard("统招", "书费", base::Money::yuan(3));
+  desk.person.answer(true, Box::Ask, "此操作将覆盖原有的记录,您确认继续吗？    ", "操作提示");
+  desk.conflict("统招的收费标准");
+  s->confirm.press();
+  EXPECT_EQ(desk.formStandards(), "统招|学费|1\n统招|书费|3\n");
 }
 
 }  // namespace

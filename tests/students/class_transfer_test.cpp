@@ -16,9 +16,13 @@ constexpr const char* accounting = "会计01001班";
 struct TwoClasses : School {
   // A student with a row in every table that copies one.
   void place(const std::string& xh, const std::string& xm, const std::string& bjmc, const std::string& xtbh) {
-    add("xs", {{"xh", xh}, {"xm", xm}, {"bjmc", bjmc}, {"xtbh", xtbh}, {"zymc", "计算机"}});
-    for (const std::string_view table : dependentTables)
-      add(table, {{"xh", xh}, {"xm", xm}, {"bjmc", bjmc}, {"xtbh", xtbh}});
+    student(xh, xm, bjmc, xtbh);
+    for (const std::string_view table : school::studentTables) copyOf(table, xh, xm, bjmc, xtbh);
+  }
+  std::vector<Mover> movers(const std::vector<std::string>& numbers) {
+    std::vector<Mover> all;
+    for (const std::string& xh : numbers) all.push_back({rowOf(xh), stored("xm", xh)});
+    return all;
   }
   std::string classBook() { return dump("xs", "xh|xm|bjmc|zymc|xtbh", "xh"); }
 };
@@ -29,11 +33,11 @@ TEST(ClassTransfer, MovesTheStudentAndAllThatCarriesTheClass) {
   school.place("2", "张三", computing, "11001002");
   school.place("3", "李四", computing, "11001003");
   school.place("9", "王小明", accounting, "01001041");
-  transferStudents(school.store, computing, accounting, {"李四", "无名", "王小明"});
+  transferStudents(school.store, computing, accounting, school.movers({"3", "1"}));
   EXPECT_EQ(school.classBook(),
             "1|王小明|会计01001班|会计|1001043\n2|张三|计算机11001班|计算机|11001002\n"
             "3|李四|会计01001班|会计|1001042\n9|王小明|会计01001班|计算机|01001041\n");
-  for (const std::string_view table : dependentTables)
+  for (const std::string_view table : school::studentTables)
     EXPECT_EQ(school.dump(table, "xh|xm|bjmc|xtbh", "xh"),
               "1|王小明|会计01001班|1001043\n2|张三|计算机11001班|11001002\n3|李四|会计01001班|1001042\n"
               "9|王小明|会计01001班|01001041\n")
@@ -44,27 +48,62 @@ TEST(ClassTransfer, NumbersStartWithTheClassCodeInAnEmptyClass) {
   TwoClasses school;
   school.place("1", "王小明", computing, "11001001");
   school.place("2", "张三", computing, "11001002");
-  transferStudents(school.store, computing, accounting, {"王小明", "张三"});
+  transferStudents(school.store, computing, accounting, school.movers({"1", "2"}));
   EXPECT_EQ(school.dump("xs", "xm|xtbh", "xh"), "王小明|01001001\n张三|1001002\n");
 }
 
-// The first one moves, and the dependent rows of both: they are found by class and name.
-TEST(ClassTransfer, OfTwoOfOneNameTheFirstMovesWithTheRowsOfBoth) {
+// Rows keyed without a number move with a name that stands once; of two of one name the one who was ticked moves.
+TEST(ClassTransfer, OfTwoOfOneNameTheTickedOneMovesWithItsRows) {
   TwoClasses school;
   school.place("1", "张三", computing, "11001001");
   school.place("2", "张三", computing, "11001002");
+  school.place("3", "李四", computing, "11001003");
+  school.copyOf("jfjl", "", "李四", computing, "11001003");
   school.place("9", "王芳", accounting, "01001041");
-  transferStudents(school.store, computing, accounting, {"张三"});
+  transferStudents(school.store, computing, accounting, school.movers({"2", "3"}));
   EXPECT_EQ(school.dump("xs", "xh|bjmc|xtbh", "xh"),
-            "1|会计01001班|1001042\n2|计算机11001班|11001002\n9|会计01001班|01001041\n");
+            "1|计算机11001班|11001001\n2|会计01001班|1001042\n3|会计01001班|1001043\n9|会计01001班|01001041\n");
   EXPECT_EQ(school.dump("jfjl", "xh|bjmc|xtbh", "xh"),
-            "1|会计01001班|1001042\n2|会计01001班|1001042\n9|会计01001班|01001041\n");
+            "|会计01001班|1001043\n1|计算机11001班|11001001\n2|会计01001班|1001042\n3|会计01001班|1001043\n"
+            "9|会计01001班|01001041\n");
+}
+
+// Another desk renames or deletes the to-class, or takes one of the ticked students out of the from-class, while the
+// screen stands: nobody moves, and the screen shows the class as it is now.
+TEST(ClassTransfer, WhatAnotherDeskHasChangedIsToldAndNobodyMoves) {
+  const std::string left = "学生“张三”已不在“计算机11001班”", noClass = "班级“会计01001班”已被其他计算机改名或删除";
+  const struct {
+    std::string told;
+    store::Sql rows;
+    const char* column;  // null: the row is deleted
+  } cases[] = {{noClass, "select * from bjzl where bjdh='01001'", "bjmc"},
+               {noClass, "select * from bjzl where bjdh='01001'", nullptr},
+               {left, "select * from xs where xh='2'", "bjmc"},
+               {left, "select * from xs where xh='2'", "xm"},
+               {left, "select * from xs where xh='2'", nullptr}};
+  for (const auto& one : cases) {
+    TwoClasses school;
+    school.place("1", "王小明", computing, "11001001");
+    school.place("2", "张三", computing, "11001002");
+    auto s = opened<Formtb>(school);
+    s->fromClass.pick(computing);
+    s->toClass.pick(accounting);
+    s->tickAll.press();
+    one.column ? kit::setEach(school.store, one.rows, one.column, "另") : kit::removeEach(school.store, one.rows);
+    const std::string before = school.everything();
+    s->confirm.press();
+    school.failed(one.told + "，没有调班，请重新选择班级和学生后再操作！");
+    s->timer.tick();
+    EXPECT_EQ(school.everything(), before);
+    EXPECT_TRUE(s->confirm.enabled() && !s->boxes[0].on() && !school.progress.shown);
+    EXPECT_EQ(s->boxes[1].visible(), one.told == noClass || (one.column && one.column == std::string_view("xm")));
+  }
 }
 
 TEST(ClassTransfer, WithoutAToClassTheValuesAreBlank) {
   TwoClasses school;
   school.place("1", "王小明", computing, "11001001");
-  transferStudents(school.store, computing, "", {"王小明"});
+  transferStudents(school.store, computing, "", school.movers({"1"}));
   EXPECT_EQ(school.classBook(), "1|王小明|||\n");
   EXPECT_EQ(school.dump("qfjl", "xh|xm|bjmc|xtbh"), "1|王小明||\n");
 }

@@ -1,19 +1,20 @@
 // A small school for the tests of the register.
 #pragma once
 
+#include "register/students.h"
 #include "students/student_records.h"
-#include "support/test_desk.h"
+#include "support/school.h"
 
 namespace students {
 
-struct School : support::TestDesk {
+struct School : support::School {
   static constexpr const char* number = "20260001010001";
 
   School() {
     session.ComputerName = "收费一号机";
     add("rxxs", {{"rxxs", "统招"}});
-    add("bjzl", {{"bjmc", "计算机11001班"}, {"bjdh", "11001"}, {"zymc", "计算机"}});
-    add("bjzl", {{"bjmc", "会计01001班"}, {"bjdh", "01001"}, {"zymc", "会计"}});
+    schoolClass("11001", "计算机11001班", "计算机");
+    schoolClass("01001", "会计01001班", "会计");
   }
 
   // A student of the school in every table that copies one, and in the tables of graduates.
@@ -32,13 +33,19 @@ struct School : support::TestDesk {
                {"bsh", "2024-9-2 8:00:00"},
                {"xp", toBytes("GIF89a old")}});
     for (const std::string_view table : {"cjb", "jfjl", "qfjl", "xxfk", "tjs", "zsgl2", "bys_xs", "bys_jfjl"})
-      for (int row = 0; row < 2; ++row)
-        add(table, {{"xh", xh}, {"xm", xm}, {"bjmc", "计算机11001班"}, {"xtbh", "11001001"}});
+      for (int row = 0; row < 2; ++row) copyOf(table, xh, xm, "计算机11001班", "11001001");
+  }
+  std::int64_t rowOf(const std::string& xh = number) { return school::loadStudent(store, xh).mark(); }
+  Student asShown(const std::string& xh = number) {
+    auto row = school::loadStudent(store, xh);
+    return textsOf(row);
   }
   std::string stored(std::string_view column, const std::string& xh = number) {
     return value(store::Sql("select * from xs where xh='") + xh + "'", column);
   }
-  std::string photo(const std::string& xh = number) { return fromBytes(loadStudent(store, xh).get("xp").bytes()); }
+  std::string photo(const std::string& xh = number) {
+    return fromBytes(school::loadStudent(store, xh).get("xp").bytes());
+  }
   std::string file(const std::string& name, const std::string& bytes) {
     const auto path = desktop.programFolder() / name;
     platform::writeFile(path, bytes);

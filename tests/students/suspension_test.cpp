@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "students/school.h"
+#include "students/student_card.h"
 #include "students/suspension_edit.h"
 #include "students/suspension_list.h"
 #include "students/suspension_query.h"
@@ -9,184 +10,234 @@ namespace students {
 namespace {
 
 using kit::Box;
+using kit::Mode;
 using support::opened;
 
+const char* const computing = "计算机11001班";
+const char* const accounting = "会计01001班";
+
+// Two students of one name in different classes.
 struct Suspensions : School {
   Suspensions() {
     session.Rights.fill(true);
-    for (const auto& [xh, xm] : {std::pair("1001", "王小明"), std::pair("1002", "张三")})
-      add("xs", {{"xh", xh}, {"xm", xm}, {"bjmc", "计算机11001班"}, {"xtbh", "11001001"}});
-    add("xs", {{"xh", "1003"}, {"xm", "张三"}, {"bjmc", "会计01001班"}, {"xtbh", "01001001"}});
+    student("1003", "张三", accounting, "01001001");
+    student("1001", "王小明", computing, "11001001");
+    student("1002", "张三", computing, "11001002");
   }
   void suspend(const char* xh, const char* xm, const char* bjmc, const char* fksj = "") {
     add("xxfk",
         {{"xh", xh}, {"xm", xm}, {"bjmc", bjmc}, {"xxsj", base::Date{2026, 3, 2}}, {"fksj", fksj}, {"xtbh", "x"}});
   }
   void suspendThree() {
-    suspend("1003", "张三", "会计01001班");
-    suspend("1002", "张三", "计算机11001班", "2026-6-1");
-    suspend("1001", "王小明", "计算机11001班");
+    suspend("1003", "张三", accounting);
+    suspend("1002", "张三", computing, "2026-6-1");
+    suspend("1001", "王小明", computing);
   }
-  std::string stored() { return dump("xxfk", "xh|xm|bjmc|xxsj|fksj"); }
+  std::string stored() { return dump("xxfk", "xh|xm|bjmc|xxsj|fksj|xtbh"); }
+  void query(Formxxfk& s, const char* bjmc, const char* xm) {
+    navigator.expect<Formxxfk2>([=](Formxxfk2& query) {
+      query.bjmc.type(bjmc);
+      query.xm.type(xm);
+      query.confirm.press();
+    });
+    s.suspensions.query->press();
+  }
 };
+
+std::string listed(const Formxxfk& s) {
+  std::string numbers = s.suspensions.count->text() + ":";
+  for (long long row = 0; row < s.suspensions.list.count(); ++row)
+    numbers.append(" ").append(s.suspensions.list.cell(row, 0));
+  return numbers;
+}
 
 TEST(Suspension, TheNoticeOpensTheListAndCloses) {
   Suspensions test;
   auto notice = opened<Formxxfk3>(test);
-  EXPECT_EQ(notice->text.text(), "正在加载相关设置，请稍等...");
   test.navigator.expect<Formxxfk>();
   notice->timer.tick();
   EXPECT_TRUE(notice->closed());
 }
 
-TEST(Suspension, RightsSettleTheButtons) {
+TEST(Suspension, RightsGateTheButtons) {
   Suspensions test;
-  const struct {
-    int right;
-    std::vector<kit::Action Formxxfk::*> opens;
-  } gates[] = {{-1, {}},
-               {40, {&Formxxfk::resume}},
-               {41, {&Formxxfk::remove}},
-               {42, {&Formxxfk::clearAll}},
-               {43, {&Formxxfk::query, &Formxxfk::print, &Formxxfk::toSheet}}};
-  for (const auto& gate : gates) {
+  const std::pair<int, std::vector<const char*>> gates[] = {
+      {99, {}}, {40, {"resume"}}, {41, {"remove"}}, {42, {"clearAll"}}, {43, {"query", "print", "toSheet"}}};
+  for (const auto& [right, opens] : gates) {
     test.session.Rights.fill(false);
-    if (gate.right >= 0) test.session.Rights[static_cast<std::size_t>(gate.right)] = true;
+    test.session.Rights[static_cast<std::size_t>(right)] = true;
     auto s = opened<Formxxfk>(test);
-    EXPECT_TRUE(s->add.enabled() && s->back.enabled());
-    for (auto action : {&Formxxfk::resume, &Formxxfk::remove, &Formxxfk::clearAll, &Formxxfk::query, &Formxxfk::print,
-                        &Formxxfk::toSheet})
-      EXPECT_EQ((s.get()->*action).enabled(), std::ranges::count(gate.opens, action) == 1) << gate.right;
+    for (const kit::Node& node : s->suspensions.actions())
+      EXPECT_EQ(node.member->enabled(), node.member->name == "add" || std::ranges::count(opens, node.member->name) == 1)
+          << right << node.member->name;
   }
 }
 
 TEST(Suspension, AddsARowForTheStudentWhoWasChosen) {
   Suspensions test;
-  test.suspend("1002", "张三", "计算机11001班");
+  test.suspend("1002", "张三", computing, "2026-6-1");
   auto s = opened<Formxxfk>(test);
+  EXPECT_EQ(readStudentCard(test.store, "1002")->status, "在读");
   test.navigator.expect<Formxxfk1>([&](Formxxfk1& edit) {
     EXPECT_TRUE(edit.what.chosen() == 0 && !edit.what.enabled());
     EXPECT_EQ(edit.day.label() + edit.day.text(), "休学日期2026-9-7");
+    edit.bjmc.pick(accounting);
+    edit.xm.pick("张三");
+    EXPECT_EQ(edit.xh.text(), "1003");
+    edit.bjmc.pick(computing);
+    EXPECT_EQ(edit.xm.text() + edit.xh.text(), "");
     test.person.expect(Box::Stop, "请先选择班级，再选择该班级中的学生！     ", "操作提示");
     edit.confirm.press();
-    edit.bjmc.pick("会计01001班");
-    EXPECT_EQ(edit.bjmc.choices(), (std::vector<std::string>{"会计01001班", "计算机11001班"}));
-    edit.bjmc.pick("计算机11001班");
-    EXPECT_EQ(edit.xm.choices(), (std::vector<std::string>{"王小明", "张三"}));
     edit.xm.pick("张三");
-    EXPECT_EQ(edit.xh.text(), "1002");
+    EXPECT_EQ(edit.xm.choices(), (std::vector<std::string>{"王小明", "张三"}));
     edit.day.type("2026-13-1");
-    test.person.expect(Box::Stop, "日期格式不正确，应该是 yyyy-m-d 格式！   ", "错误提示");
+    test.refused("日期格式不正确，应该是 yyyy-m-d 格式！   ");
     edit.confirm.press();
     edit.day.type("2026-09-08");
     edit.confirm.press();
     EXPECT_TRUE(edit.closed());
   });
-  s->add.press();
-  EXPECT_EQ(test.stored(), "1002|张三|计算机11001班|2026-3-2|\n1002|张三|计算机11001班|2026-9-8|\n");
+  s->suspensions.button("add").press();
+  EXPECT_EQ(test.stored(), "1002|张三|计算机11001班|2026-3-2|2026-6-1|x\n1002|张三|计算机11001班|2026-9-8||11001002\n");
   EXPECT_EQ(test.value("select * from xxfk where xxsj=#2026-9-8#", "bsh"), "2026-9-7 8:30:05");
-  EXPECT_EQ(test.value("select * from xxfk where xxsj=#2026-9-8#", "xtbh"), "11001001");
-  EXPECT_EQ(s->count.text(), "记录个数： 2");
+  EXPECT_EQ(readStudentCard(test.store, "1002")->status, "休学中");
+  EXPECT_EQ(listed(*s), "记录个数： 2: 1002 1002");
 }
 
-TEST(Suspension, ResumesAndDeletesTheSelectedRow) {
+TEST(Suspension, ResumesAndDeletesTheSelectedRowAmongThoseOfOneStudent) {
   Suspensions test;
   auto s = opened<Formxxfk>(test);
-  test.person.expect(Box::Information, "不存在需要复课的休学记录！  ", "信息提示")
-      .expect(Box::Information, "不存在需要删除的记录！  ", "信息提示");
-  s->resume.press();
-  s->remove.press();
+  const auto press = [&](const char* button) { s->suspensions.button(button).press(); };
+  test.told("不存在需要复课的休学记录！  ");
+  test.told("不存在需要删除的记录！  ");
+  press("resume");
+  press("remove");
 
   test.suspendThree();
+  test.suspend("1002", "张三", computing);
   s = opened<Formxxfk>(test);
-  s->resume.press();  // none selected: nothing opens
-  s->suspensions.select(1);
+  EXPECT_EQ(listed(*s), "记录个数： 4: 1001 1002 1002 1003");
+  press("resume");  // none selected: nothing opens
+  s->suspensions.list.select(2);
+  test.suspend("1000", "李四", computing);  // another desk, above it
   test.navigator.expect<Formxxfk1>([](Formxxfk1& edit) {
     EXPECT_EQ(edit.what.chosen(), 1);
-    EXPECT_EQ(edit.day.label() + "|" + edit.bjmc.text() + "|" + edit.xm.text() + "|" + edit.xh.text(),
-              "复课日期|计算机11001班|张三|1002");
-    EXPECT_FALSE(edit.bjmc.enabled() || edit.xm.enabled());
+    EXPECT_EQ(edit.day.label() + edit.day.text(), "复课日期2026-9-7");
+    EXPECT_EQ(edit.bjmc.text() + edit.xm.text() + edit.xh.text(), "计算机11001班张三1002");
+    EXPECT_FALSE(edit.bjmc.enabled() || edit.xm.enabled() || edit.what.enabled());
+    edit.day.type("2026/9/9");
     edit.confirm.press();
   });
-  s->resume.press();
-  EXPECT_EQ(s->suspensions.cell(1, 4), "2026-9-7");  // over the day that stood there
+  press("resume");
+  EXPECT_EQ(s->suspensions.list.selected(), 3) << "the same row";
+  EXPECT_EQ(s->suspensions.list.cell(3, 4), "2026-9-9");
+  EXPECT_EQ(s->suspensions.list.cell(2, 4), "2026-6-1");
 
+  s->suspensions.list.select(2);
   test.person.answer(false, Box::Ask, "您确认是要删除记录吗？      ", "警告")
-      .answer(true, Box::Ask, "您确认是要删除记录吗？      ", "警告")
-      .expect(Box::Information, "记录已删除 ！        ", "信息提示");
+      .answer(true, Box::Ask, "您确认是要删除记录吗？      ", "警告");
+  test.told("记录已删除 ！        ");
   test.navigator.expect<Formxxfk1>([](Formxxfk1& edit) {
+    EXPECT_EQ(edit.day.text(), "2026-6-1") << "the row's own day";
+    EXPECT_FALSE(edit.day.enabled());
     edit.confirm.press();
     EXPECT_FALSE(edit.closed());
     edit.confirm.press();
   });
-  s->remove.press();
-  EXPECT_EQ(test.stored(), "1003|张三|会计01001班|2026-3-2|\n1001|王小明|计算机11001班|2026-3-2|\n");
+  press("remove");
+  EXPECT_EQ(test.stored(),
+            "1003|张三|会计01001班|2026-3-2||x\n1001|王小明|计算机11001班|2026-3-2||x\n"
+            "1002|张三|计算机11001班|2026-3-2|2026-9-9|x\n1000|李四|计算机11001班|2026-3-2||x\n");
 }
 
-TEST(Suspension, QueriesFilterTheListAndItsPrint) {
+// Another desk resumes, deletes, renames or moves what this one has open.
+TEST(Suspension, WhatAnotherDeskHasChangedIsToldAndLeftAlone) {
+  for (const Mode mode : {Mode::Modify, Mode::Delete})
+    for (const bool gone : {false, true}) {
+      Suspensions test;
+      test.suspendThree();
+      auto s = test.at<Formxxfk1>(mode, "select * from xxfk order by xh");
+      store::RecordSet other(test.store, "select * from xxfk order by xh");
+      if (gone) other.remove();
+      else kit::writeRow(other, {{"fksj", "2026-9-1"}});
+      const std::string before = test.stored();
+      if (mode == Mode::Delete) test.person.answer(true, Box::Ask, "您确认是要删除记录吗？      ", "警告");
+      gone ? test.gone() : test.conflict("复课日期");
+      s->confirm.press();
+      EXPECT_EQ(test.stored(), before);
+    }
+  for (const char* column : {"xh", "xm", "bjmc", ""}) {
+    Suspensions test;
+    auto s = test.adding<Formxxfk1>();
+    s->bjmc.pick(computing);
+    s->xm.pick("王小明");
+    if (*column) kit::setEach(test.store, "select * from xs where xh='1001'", column, "另");
+    else kit::removeEach(test.store, "select * from xs where xh='1001'");
+    test.person.expect(Box::Stop, "该生学籍资料已被其他计算机修改，没有保存，请重新选择学生！     ", "操作提示");
+    s->confirm.press();
+    EXPECT_EQ(test.stored(), "") << column;
+  }
+}
+
+TEST(Suspension, AQueryFiltersTheListItsPrintAndItsExport) {
   Suspensions test;
   test.suspendThree();
   auto s = opened<Formxxfk>(test);
   const struct {
-    const char* bjmc;
-    const char* xm;
-    const char* where;
-    const char* found;
-  } queries[] = {{"计算机11001班", "张三", " where bjmc='计算机11001班' and xm='张三'", "记录个数: 1"},
-                 {"计算机11001班", "", " where bjmc='计算机11001班'", "记录个数: 2"},
-                 {"", "", "", "记录个数： 3"},
-                 {"", "张三", " where xm='张三'", "记录个数: 2"}};
+    const char *bjmc, *xm, *listed;
+  } queries[] = {{computing, "张三", "记录个数: 1: 1002"},
+                 {computing, "", "记录个数: 2: 1002 1001"},
+                 {"", "", "记录个数: 3: 1001 1002 1003"},
+                 {"", "张三", "记录个数: 2: 1003 1002"}};
   for (const auto& one : queries) {
-    test.navigator.expect<Formxxfk2>([&](Formxxfk2& query) {
-      query.bjmc.type(one.bjmc);
-      query.xm.type(one.xm);
-      query.confirm.press();
-    });
-    s->query.press();
-    EXPECT_EQ(s->filter_.where.text(), one.where);
-    EXPECT_EQ(s->count.text(), one.found);
+    test.query(*s, one.bjmc, one.xm);
+    EXPECT_EQ(listed(*s), one.listed);
   }
-  test.navigator.expect<Formxxfk2>([](Formxxfk2& query) { query.cancel.press(); });
-  s->query.press();
-  EXPECT_EQ(s->count.text(), "记录个数: 2");
+  test.navigator.expect<Formxxfk2>([](Formxxfk2& query) {
+    query.bjmc.drop();
+    query.xm.drop();
+    EXPECT_EQ(query.bjmc.choices().size(), 2u);
+    EXPECT_EQ(query.xm.choices(), (std::vector<std::string>{"王小明", "张三", "张三"}));
+    query.xm.type("王小明");
+    query.cancel.press();
+  });
+  s->suspensions.query->press();
+  EXPECT_EQ(listed(*s), "记录个数: 2: 1003 1002") << "left without asking";
 
   test.person.answer(
       true, Box::AskWarning,
       "要打印休学复课记录吗？请确认打印机连接正常、打印纸准备就绪！ \n点“是”继续；否则，点“否”撤销此操作！ ",
       "信息提示");
-  s->print.press();
+  s->suspensions.button("print").press();
   EXPECT_EQ(test.dump("dy_xxfk", "xtbh|xh|xm|bjmc|xxsj|fksj"),
             "x|1003|张三|会计01001班|2026-3-2|\nx|1002|张三|计算机11001班|2026-3-2|2026-6-1\n");
   EXPECT_EQ(test.printer.shown.size(), 1u);
+  test.person.answer(true, Box::Ask, "此操作将导出学生的休学复课记录为EXCEL格式表，您确认继续吗？      ", "信息提示");
+  test.told("“按查询条件导出的学生休学复课记录”已导出，共 2 条记录，文件保存在：\n" +
+            (test.desktop.exportFolder() / "按查询条件导出的学生休学复课记录 2026-09-07.xlsx").string());
+  s->suspensions.button("toSheet").press();
+  ASSERT_EQ(test.sheets.kept.size(), 1u);
+  EXPECT_EQ(test.sheets.kept[0].rows.size(), 2u);
+  EXPECT_EQ(listed(*opened<Formxxfk>(test)), "记录个数： 3: 1001 1002 1003") << "a list that is opened shows all";
 }
 
 TEST(Suspension, ClearsAllRowsWhateverTheFilter) {
   Suspensions test;
   test.suspendThree();
   auto s = opened<Formxxfk>(test);
-  test.navigator.expect<Formxxfk2>([](Formxxfk2& query) {
-    query.xm.type("王小明");
-    query.confirm.press();
-  });
-  s->query.press();
-  const auto answered = [&](bool yes) {
+  test.query(*s, "", "王小明");
+  for (const bool yes : {false, true, true}) {
+    const bool rows = !test.stored().empty();
     test.person.answer(true, Box::AskStop, "您确认是要清空系统中所有的休学复课记录吗？   ", "警告")
         .answer(yes, Box::AskStop,
                 "休学复课记录清空后不可恢复！您确认继续吗？    \n\n选择“是”继续；否则，点“否”撤销此操作！   ",
                 "再次警告");
-  };
-  answered(false);
-  s->clearAll.press();
-  EXPECT_EQ(test.count("select * from xxfk"), 3);
-  answered(true);
-  test.person.expect(Box::Information, "休学复课记录已全部清空 ！        ", "信息提示");
-  s->clearAll.press();
-  EXPECT_EQ(test.count("select * from xxfk"), 0);
-  answered(true);
-  test.person.expect(Box::Information, "不存在需要清空的记录！  ", "信息提示");
-  s->clearAll.press();
-  test.person.expect(Box::Information, "不存在能够打印的休学复课记录！   ", "信息提示");
-  s->print.press();
+    if (yes) test.told(rows ? "休学复课记录已全部清空 ！        " : "不存在需要清空的记录！  ");
+    s->suspensions.clearAll->press();
+    EXPECT_EQ(test.count("select * from xxfk"), yes ? 0 : 3);
+  }
+  test.told("不存在能够打印的休学复课记录！   ");
+  s->suspensions.button("print").press();
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "kit/settings.h"
+#include "register/settings.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -7,7 +7,11 @@
 
 #include "store/record_set.h"
 
-namespace kit {
+namespace school {
+
+using kit::Desk;
+using kit::Session;
+
 namespace {
 
 enum class Form {
@@ -107,6 +111,6 @@ bool settingIsOn(Desk& desk, std::string_view column) {
   return !row.empty() && row.get(column).number() == 1;
 }
 
-bool Session::*flagOf(std::string_view column) { return std::get<bool Session::*>(settingOf(column).copy); }
+bool kit::Session::*flagOf(std::string_view column) { return std::get<bool Session::*>(settingOf(column).copy); }
 
-}  // namespace kit
+}  // namespace school

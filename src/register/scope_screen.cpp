@@ -1,10 +1,11 @@
-#include "kit/scope_screen.h"
+#include "register/scope_screen.h"
 
 #include "kit/rows.h"
 #include "kit/validation.h"
 
-namespace kit {
+namespace school {
 
+using namespace kit;
 using store::Sql;
 
 ScopeScreen::ScopeScreen(Desk& all, std::string own, std::string words, Sql terms)
@@ -20,8 +21,8 @@ ScopeScreen::ScopeScreen(Desk& all, std::string own, std::string words, Sql term
     of.setChoices(scope.chosen() == Major ? columnTexts(desk.store, "select * from zymcb order by zybh", "zymc")
                                           : columnTexts(desk.store, "select * from bjzl order by bjdh", "bjmc"));
   });
-  xq.onDrop([this, terms = std::move(terms)] { xq.setChoices(columnTexts(desk.store, terms, "xq")); });
-  sfxm.onDrop([this] { sfxm.setChoices(columnTexts(desk.store, "select * from sfxmb order by sfxmbh", "sfxmmc")); });
+  xq.offers(std::move(terms), "xq");
+  sfxm.offers("select * from sfxmb order by sfxmbh", "sfxmmc");
   confirm.onPress([this] {
     if (valid()) query();
   });
@@ -71,4 +72,4 @@ Layout ScopeScreen::scopeLayout(Nodes between) {
           .width = 560};
 }
 
-}  // namespace kit
+}  // namespace school
