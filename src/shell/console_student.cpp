@@ -181,8 +181,7 @@ void Formzct::refreshCard() {
 students::Formzctxs::Collect Formzct::collectFrom() {
   return [this](const std::string& current_xh) {
     desk.session.current_xh = current_xh;
-    desk.session.fee_normal_mode = true;
-    open<collection::Formzctsf4>();
+    open<collection::Formzctsf4>(collection::FeeWindowFor{current_xh});
   };
 }
 
