@@ -33,6 +33,7 @@ Formzctsf31::Formzctsf31(kit::Desk& all) : QueryScreen(all, "Formzctsf31", "æ‰“å
   offer(sfxm, "sfxm", [] { return Sql("select sfxm from jfjl group by sfxm"); });
   offer(jffs, "jffs", [] { return Sql("select jffs from jfjl group by jffs"); });
   offer(rxxs, "rxxs", [] { return Sql("select * from rxxs"); });
+  offer(skr, "skr", [] { return Sql("select skr from jfjl group by skr"); });
   wireConditions();
   scope.onPress([this] {
     close();
@@ -41,7 +42,7 @@ Formzctsf31::Formzctsf31(kit::Desk& all) : QueryScreen(all, "Formzctsf31", "æ‰“å
 }
 
 std::vector<kit::Field*> Formzctsf31::conditionFields() {
-  return {&xq, &bjmc, &xh, &xm, &sfxm, &from, &to, &jffs, &rxxs};
+  return {&xq, &bjmc, &xh, &xm, &sfxm, &from, &to, &jffs, &rxxs, &skr};
 }
 
 std::optional<std::vector<Condition>> Formzctsf31::conditions() {
@@ -61,9 +62,10 @@ std::optional<std::vector<Condition>> Formzctsf31::conditions() {
     const Sql between = Sql("jfrq>=#") + first->plain() + "# and jfrq<=#";
     days = {last->plain(), between, between, "#"};
   }
-  return std::vector{kit::equals("xq", xq.text()),     kit::equals("bjmc", bjmc.text()), kit::equals("xh", xh.text()),
-                     kit::equals("xm", xm.text()),     kit::equals("sfxm", sfxm.text()), days,
-                     kit::equals("jffs", jffs.text()), kit::equals("rxxs", rxxs.text())};
+  return std::vector{
+      kit::equals("xq", xq.text()),     kit::equals("bjmc", bjmc.text()), kit::equals("xh", xh.text()),
+      kit::equals("xm", xm.text()),     kit::equals("sfxm", sfxm.text()), days,
+      kit::equals("jffs", jffs.text()), kit::equals("rxxs", rxxs.text()), kit::equals("skr", skr.text())};
 }
 
 // What opens the clause, up to the period.

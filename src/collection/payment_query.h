@@ -15,7 +15,7 @@ class Formzctsf31 : public kit::QueryScreen {  // 打开交费记录信息设置
       xh{*this, "xh", "学号"}, xm{*this, "xm", "姓名", kit::Entry::Pick},
       sfxm{*this, "sfxm", "收费项目", kit::Entry::Pick}, from{*this, "from", "交费日期从", kit::Entry::Date},
       to{*this, "to", "到", kit::Entry::Date}, jffs{*this, "jffs", "交费方式", kit::Entry::Pick},
-      rxxs{*this, "rxxs", "入学形式", kit::Entry::Pick};
+      rxxs{*this, "rxxs", "入学形式", kit::Entry::Pick}, skr{*this, "skr", "收款人", kit::Entry::Pick};
   kit::Action scope{*this, "scope", "按范围查询", "list-filter"};  // the other screen instead
   std::optional<kit::Filter> answer;
 

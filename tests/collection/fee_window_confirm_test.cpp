@@ -1,6 +1,7 @@
 #include "collection/receipt_notes.h"
 #include "collection/receipt_print.h"
 #include "fee_desk.h"
+#include "kit/fault.h"
 
 namespace {
 
@@ -98,7 +99,7 @@ TEST(FeeWindowConfirm, ClosesOnceTheRowsAreInWhateverFailsThen) {
   window->allLines.toggle();
   desk.expectSaved(true);
   desk.navigator.expect<Formzctsf8>([](Formzctsf8&) { throw store::StoreError(store::Fault::Busy, "忙"); });
-  desk.person.expect(Box::Stop, "忙", "错误提示");
+  desk.person.expect(Box::Stop, "忙\n" + std::string(kit::savedBefore), "错误提示");
   window->confirm.press();
   EXPECT_TRUE(window->closed());
   EXPECT_EQ(desk.count("select * from jfjl"), 3);

@@ -102,11 +102,9 @@ void World::begin(kit::Mode mode) {
   session.Rights.fill(true);
   session.auto_load_lists = true;
   session.EditMode = mode;
-  session.current_xh = session.student_selection = session.summary_xh = "20260001";
-  session.payment_selection = session.arrears_selection = "2026901001";
-  session.current_xq = session.print_xq = "2026下";
-  session.print_fpbh = "10000001";
-  session.print_xh = "20260001";
+  session.current_xh = session.summary_xh = "20260001";
+  session.arrears_selection = "2026901001";
+  session.current_xq = "2026下";
   session.print_jfrq = "2026-09-01";
   session.statement_year = 2026;
   session.statement_month = 9;

@@ -7,7 +7,7 @@ namespace collection {
 using namespace kit;
 
 Layout Formzctsf31::layout() {
-  return {.root = column({queryNode(form({xq, bjmc, xh, xm, sfxm, jffs, from, to, rxxs}, 2)),
+  return {.root = column({queryNode(form({xq, bjmc, xh, xm, sfxm, jffs, from, to, rxxs, skr}, 2)),
                           buttons({scope, clearAll, confirm, cancel})}),
           .confirm = &confirm,
           .cancel = &cancel,
