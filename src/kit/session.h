@@ -41,34 +41,11 @@ struct Session {
 
   // The console.
   Panel ConsolePanel = Panel::None;
-  std::string arrears_selection;
   std::string summary_xh;  // the student whose payments the summary adds up
   int payment_list_mode = 5;
 
   // The student card.
   std::string current_xh, current_xq;
-
-  // The import of amounts due: what the settings screen chose, and whether the import then came to its end.
-  struct DueImport {
-    enum class Range { School, Major, Class, Form };
-    Range range = Range::School;
-    std::string value;                // the class or the enrolment form
-    std::string major_code;           // the first two characters of its students' system numbers
-    std::optional<std::string> item;  // nothing: all items
-    std::string term, lead, deadline;
-  } due_import;
-  bool due_import_ended = false;
-
-  // The income statement: the period that is asked for, and what the worker computed last.
-  int statement_year = 0, statement_month = 0;
-  struct IncomeLine {
-    std::string item;
-    base::Money month, year;
-  };
-  struct Income {
-    int year = 0, month = 0;
-    std::vector<IncomeLine> lines;
-  } income;
 
   // Of the receipt that was printed last: a reprint shows them again.
   std::string print_jffs, print_jfrq;

@@ -153,7 +153,7 @@ void ArrearsFrame::addRow(RecordSet& row, base::Money balance) {
   for (const kit::ListColumn& column : arrearsColumns)
     cells.push_back(column.column.empty() ? base::paddedAmount(balance)
                                           : kit::formatted(row.get(column.column), column.format));
-  list.addRow(cells);
+  list.addRow(cells, row.mark());
 }
 
 void ArrearsFrame::clear() {
