@@ -57,13 +57,13 @@ class Term {
       "where (p.je is null or p.je < b.je) and not exists "
       "(select 1 from qfjl q where q.xh = s.xh and q.sfxm = b.sfxmmc and q.xq = '2030') "
       "order by s.xtbh, s.row_no, b.sfxmbh, b.row_no";
-  const kit::Session::DueImport everything{.range = kit::Session::DueImport::Range::School,
-                                           .value = "",
-                                           .major_code = "",
-                                           .item = std::nullopt,
-                                           .term = "2030",
-                                           .lead = "7",
-                                           .deadline = "2026-10-1"};
+  const arrears::DueImport everything{.range = arrears::DueImport::Range::School,
+                                      .value = "",
+                                      .major_code = "",
+                                      .item = std::nullopt,
+                                      .term = "2030",
+                                      .lead = "7",
+                                      .deadline = "2026-10-1"};
   static void silent(const std::string&, long long, long long) {}
 
   void check() {

@@ -118,7 +118,7 @@ Measure unpaidList(Office& office) {
            term + "', '" + item + "', '2026-9-7 8:30:05' from xs where xh not in (select xh from jfjl where " +
            paymentsOfTerm() + ")"},
       [&office] {
-        return arrears::listUnpaid(office.store, {"", term, item, {}, {}}, now, {});
+        return arrears::listUnpaid(office.store, {"", term, item, {}, {}}, now, {}).value();
       });
 }
 
@@ -136,7 +136,8 @@ Measure comparison(Office& office) {
        "delete from qfjl_je where sjje >= yjje"},
       [&office] {
         return arrears::listByPaid(office.store, {"", term, item, {}, {}}, base::Money::yuan(5000),
-                                   arrears::PaidAs::Less, now, {});
+                                   arrears::PaidAs::Less, now, {})
+            .value();
       });
 }
 

@@ -51,7 +51,21 @@ namespace app {
 namespace {
 
 template <class S> Entry screen(const char* name) {
-  return {name, [](kit::Desk& desk) { return std::make_unique<S>(desk); }};
+  return {name, [](kit::Desk& desk, const Opening& with) {
+            if constexpr (std::is_constructible_v<S, kit::Desk&, kit::Editing>)
+              return std::make_unique<S>(desk, with.editing);
+            else if constexpr (std::is_constructible_v<S, kit::Desk&, collection::FeeWindowFor>)
+              return std::make_unique<S>(desk, collection::FeeWindowFor{with.xh});
+            else if constexpr (std::is_constructible_v<S, kit::Desk&, collection::ReceiptPrint>)
+              return std::make_unique<S>(desk, collection::ReceiptPrint{.print_fpbh = with.fpbh, .print_xh = with.xh});
+            else if constexpr (std::is_constructible_v<S, kit::Desk&, arrears::ArrearsFor>)
+              return std::make_unique<S>(desk, arrears::ArrearsFor{.current_xh = with.xh});
+            else if constexpr (std::is_constructible_v<S, kit::Desk&, std::int64_t>)
+              return std::make_unique<S>(desk, with.editing.row);
+            else if constexpr (std::is_constructible_v<S, kit::Desk&, std::string>)
+              return std::make_unique<S>(desk, with.xh);
+            else return std::make_unique<S>(desk);
+          }};
 }
 
 }  // namespace

@@ -6,13 +6,20 @@
 #include <string>
 #include <vector>
 
+#include "kit/editing.h"
 #include "kit/screen.h"
 
 namespace app {
 
+// What screens are opened with where nobody opens them: each takes of it what it asks for.
+struct Opening {
+  kit::Editing editing;
+  std::string xh, fpbh;
+};
+
 struct Entry {
   std::string name;  // the class's name
-  std::function<std::unique_ptr<kit::Screen>(kit::Desk&)> make;
+  std::function<std::unique_ptr<kit::Screen>(kit::Desk&, const Opening&)> make;
 };
 
 const std::vector<Entry>& screens();

@@ -1,6 +1,5 @@
 #include "arrears/arrears_delete.h"
 
-#include "arrears/arrears_ledger.h"
 #include "base/text.h"
 #include "kit/rows.h"
 
@@ -8,7 +7,8 @@ namespace arrears {
 
 constexpr const char* selectedGone = "选定记录已删除！      ";
 
-Formqfcl5::Formqfcl5(kit::Desk& all) : Screen(all, "Formqfcl5", "删除选项") {
+Formqfcl5::Formqfcl5(kit::Desk& all, const kit::Editing& editing)
+    : Screen(all, "Formqfcl5", "删除选项"), selected_(editing.row) {
   confirm.onPress([this] {
     switch (option.chosen()) {
       case 0: return deleteSelected();
@@ -20,33 +20,31 @@ Formqfcl5::Formqfcl5(kit::Desk& all) : Screen(all, "Formqfcl5", "删除选项") 
 }
 
 void Formqfcl5::deleteSelected() {
-  const std::string lsh = base::trim(desk.session.arrears_selection);
-  if (rows(rowOf(lsh)).empty()) return;
-  remove(rowOf(lsh), "您确认要删除标识号为：" + lsh + " 的这条欠费记录吗？     ", selectedGone);
+  const std::string lsh = kit::rowAt(desk.store, "qfjl", selected_).get("lsh").trimmed();
+  remove({desk.store, selected_}, "您确认要删除标识号为：" + lsh + " 的这条欠费记录吗？     ", selectedGone);
 }
 
 void Formqfcl5::deleteStudent() {
-  store::RecordSet selected = rows(rowOf(base::trim(desk.session.arrears_selection)));
-  if (selected.empty()) return;
-  const store::Sql all = rowsOfStudent(selected.get("xh").trimmed());
-  remove(
-      all,
-      "您确认要删除" + selected.get("xm").trimmed() + "的" + base::caption(rows(all).count()) + "条欠费记录吗？     ",
-      selectedGone);
+  store::RecordSet selected = kit::rowAt(desk.store, "qfjl", selected_);
+  AskedArrears all(desk.store, rowsOfStudent(selected.get("xh").trimmed()));
+  const std::string count = base::caption(all.count());
+  remove(std::move(all), "您确认要删除" + selected.get("xm").trimmed() + "的" + count + "条欠费记录吗？     ",
+         selectedGone);
 }
 
 void Formqfcl5::deleteSettled() {
-  const long long count = rows(settledRows()).count();
-  if (count == 0) return inform("不存在已结清记录！      ", "信息提示");
-  remove(settledRows(), "您确认要删除后台数据库中的" + base::caption(count) + "条已结清的欠费记录吗？     ",
+  AskedArrears settled(desk.store, "select * from qfjl where clfs='结清'");
+  if (settled.count() == 0) return inform("不存在已结清记录！      ", "信息提示");
+  const std::string count = base::caption(settled.count());
+  remove(std::move(settled), "您确认要删除后台数据库中的" + count + "条已结清的欠费记录吗？     ",
          "后台所有已结清欠费记录被删除！      ");
 }
 
-void Formqfcl5::remove(const store::Sql& chosen, const std::string& question, const std::string& done) {
+void Formqfcl5::remove(AskedArrears chosen, const std::string& question, const std::string& done) {
   if (!askStop(question, "警告")) return;
-  kit::removeEach(desk.store, chosen);
-  inform(done, "信息提示");
+  const bool removed = chosen.each([](store::RecordSet& row) { row.remove(); });
   close();
+  inform(removed ? done : changedMeanwhile, "信息提示");
 }
 
 }  // namespace arrears

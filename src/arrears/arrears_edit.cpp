@@ -2,30 +2,38 @@
 
 #include "arrears/arrears_ledger.h"
 #include "base/text.h"
-#include "kit/rows.h"
-#include "kit/validation.h"
 
 namespace arrears {
 
-Formqf::Formqf(kit::Desk& all) : Screen(all, "Formqf", "欠费信息编辑") {
+using kit::Format;
+using store::Fault;
+using store::StoreError;
+
+Formqf::Formqf(kit::Desk& all, const kit::Editing& editing)
+    : RecordEdit(all, "Formqf", "欠费信息编辑", "qfjl", editing) {
+  confirm.setCaption("保存");
   bjje.rightAligned = sbjje.rightAligned = true;
-  clfs.onDrop([this] {
-    auto states = kit::columnTexts(desk.store, "select clfs from qfjl group by clfs", "clfs");
-    std::erase(states, "");
-    clfs.setChoices(std::move(states));
-  });
-  confirm.onPress([this] { save(); });
-  cancel.onPress([this] { close(); });
+  clfs.offers("select clfs from qfjl group by clfs", "clfs");
+}
+
+std::vector<kit::RecordEdit::Bound> Formqf::bound() {
+  return {{xh, 10},
+          {xm, 8},
+          {bjmc, 14},
+          {lsh, 12},
+          {sfxm, 14},
+          {qfrq, 12, Format::Date},
+          {xq, 14},
+          {bjrq, 12, Format::Date},
+          {bjje, 14, Format::Money},
+          {sbjrq, 12, Format::Date},
+          {sbjje, 14, Format::Money},
+          {clfs, 12}};
 }
 
 void Formqf::load() {
-  selected_ = base::trim(desk.session.arrears_selection);
-  store::RecordSet row = rows(rowOf(selected_));
-  if (desk.session.EditMode != kit::Mode::Modify || selected_.empty() || row.empty()) return close();
-  for (kit::Field* field : {&xh, &xm, &bjmc, &lsh, &sfxm, &xq, &clfs}) field->set(row.get(field->name).trimmed());
-  for (kit::Field* field : {&qfrq, &bjrq, &sbjrq}) field->set(kit::formatted(row.get(field->name), kit::Format::Date));
-  for (kit::Field* field : {&bjje, &sbjje}) field->set(kit::formatted(row.get(field->name), kit::Format::Money));
-  sfxm.focus();
+  if (EditMode == kit::Mode::Modify) RecordEdit::load();
+  else close();
 }
 
 bool Formqf::valid() {
@@ -40,39 +48,35 @@ bool Formqf::valid() {
     return [this, &field] { return !clfs.blank() && field.blank(); };
   };
   // All three dates are refused in the words of the first: the operators know the message.
-  const std::vector<kit::Rule> rules = {
-      {&qfrq, kit::blank(qfrq), noDate, fault},
-      {&qfrq, kit::notDate(qfrq), badDate, fault},
-      {&bjrq, kit::blank(bjrq), noDate, fault},
-      {&bjrq, kit::notDate(bjrq), badDate, fault},
-      {&sbjrq, kit::filledNotDate(sbjrq), badDate, fault},
-      {&bjje, kit::filledNotAmount(bjje), "补交金额应该是数字 ！     ", fault},
-      {&sbjje, kit::filledNotAmount(sbjje), "实交金额应该是数字 ！     ", fault},
-      {&clfs, unknownState, "处理进度只能以“结清”“不足”“减免”来表示 ！  ", "操作提示"},
-      {&sbjrq, missingWithState(sbjrq), "实交日期不能为空！    ", fault},
-      {&sbjje, missingWithState(sbjje), "实交金额不能为空！    ", fault},
-  };
-  return kit::holds(desk.person, rules);
+  return kit::holds(desk.person, {{&qfrq, kit::blank(qfrq), noDate, fault},
+                                  {&qfrq, kit::notDate(qfrq), badDate, fault},
+                                  {&bjrq, kit::blank(bjrq), noDate, fault},
+                                  {&bjrq, kit::notDate(bjrq), badDate, fault},
+                                  {&sbjrq, kit::filledNotDate(sbjrq), badDate, fault},
+                                  {&bjje, kit::filledNotAmount(bjje), "补交金额应该是数字 ！     ", fault},
+                                  {&sbjje, kit::filledNotAmount(sbjje), "实交金额应该是数字 ！     ", fault},
+                                  {&clfs, unknownState, "处理进度只能以“结清”“不足”“减免”来表示 ！  ", "操作提示"},
+                                  {&sbjrq, missingWithState(sbjrq), "实交日期不能为空！    ", fault},
+                                  {&sbjje, missingWithState(sbjje), "实交金额不能为空！    ", fault},
+                                  {&lsh, kit::blank(lsh), "记录标识号不能为空！    ", fault},
+                                  {&lsh, kit::holdsQuote(lsh), "记录标识号中不能含有单引号（'）！    ", fault}});
 }
 
-void Formqf::save() {
-  if (!ask("您确认是要修改欠费记录吗？     ", "操作提示") || !valid()) return;
-  const auto paid = base::Date::parse(sbjrq.trimmed());
-  editArrears(desk.store, selected_,
-              {{"xh", xh.trimmed()},
-               {"xm", xm.trimmed()},
-               {"bjmc", bjmc.trimmed()},
-               {"lsh", lsh.trimmed()},
-               {"sfxm", sfxm.trimmed()},
-               {"qfrq", base::Date::parse(qfrq.trimmed()).value()},
-               {"xq", xq.trimmed()},
-               {"bjrq", base::Date::parse(bjrq.trimmed()).value()},
-               {"bjje", bjje.trimmed()},
-               {"sbjrq", paid ? store::Value(*paid) : store::Value("")},
-               {"sbjje", sbjje.trimmed()},
-               {"clfs", clfs.trimmed()}});
-  close();
-  inform("记录修改成功！     ", "信息提示");
+void Formqf::modify() {
+  if (ask("您确认是要修改欠费记录吗？     ", "操作提示") && valid()) RecordEdit::modify();
+}
+
+void Formqf::modifying(store::RecordSet& row) {
+  if (changed(lsh) && !rows(store::Sql("select lsh from qfjl where lsh='") + lsh.trimmed() + "'").empty())
+    throw StoreError(Fault::Other, "记录标识号“" + lsh.trimmed() + "”已被另一条欠费记录使用，请改用其他标识号！");
+  // The amounts and the state say one thing together: who corrects one of them has looked at all.
+  const std::initializer_list<kit::Field*> balance{&bjje, &sbjrq, &sbjje, &clfs};
+  if (std::ranges::none_of(balance, [this](const kit::Field* one) { return changed(*one); })) return;
+  for (const Bound& one : bound()) {
+    const bool looked = std::ranges::find(balance, &one.field) != balance.end() && !changed(one.field);
+    if (looked && base::trim(kit::formatted(row.get(one.field.name), one.format)) != former(one.field))
+      throw StoreError(Fault::RowGone, "该欠费记录的交费情况已被其他计算机修改，请撤销后重新打开该记录再修改！");
+  }
 }
 
 }  // namespace arrears

@@ -1,13 +1,13 @@
 // Corrects one arrears row, its state included.
 #pragma once
 
-#include "kit/screen.h"
+#include "kit/record_edit.h"
 
 namespace arrears {
 
-class Formqf : public kit::Screen {  // 欠费信息编辑
+class Formqf : public kit::RecordEdit {  // 欠费信息编辑
  public:
-  explicit Formqf(kit::Desk& desk);
+  explicit Formqf(kit::Desk& desk, const kit::Editing& editing = {});
   void load() override;
   kit::Layout layout() override;
 
@@ -23,12 +23,16 @@ class Formqf : public kit::Screen {  // 欠费信息编辑
   kit::Field sbjrq{*this, "sbjrq", "实交日期", kit::Entry::Date};
   kit::Field sbjje{*this, "sbjje", "实交金额"};
   kit::Field clfs{*this, "clfs", "处理进度", kit::Entry::Pick};
-  kit::Action confirm{*this, "confirm", "保存", "save"}, cancel{*this, "cancel", "撤销", "x"};
 
  private:
-  void save();
+  std::vector<Bound> bound() override;
+  Words words() override {
+    return {.modify = {}, .remove = {}, .added = "", .modified = "记录修改成功！     ", .removed = ""};
+  }
+  void shown(store::RecordSet&) override { sfxm.focus(); }
+  void modify() override;
+  void modifying(store::RecordSet& row) override;
   bool valid();
-  std::string selected_;  // the row that is worked on: its number can be edited
 };
 
 }  // namespace arrears

@@ -95,7 +95,7 @@ std::array<std::string, 10> Formqfcl::reminders() const {
 
 void Formqfcl::save() {
   if (!valid()) return;
-  addArrears(desk.store, entry(), desk.clock.today());
+  addArrears(desk.store, entry(), desk.clock);
   answer = {true, reminders()};
   close();
   inform("欠费信息录入成功 ！     ", "信息提示");

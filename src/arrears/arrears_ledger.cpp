@@ -8,38 +8,44 @@ namespace arrears {
 using store::RecordSet;
 using store::Sql;
 
-std::string nextArrearsNumber(store::Store& store, base::Date today) {
-  RecordSet ledger(store, "select * from qfjl order by lsh");
-  return kit::numberOfDay(ledger, "lsh", today.digits(), "001");
+namespace {
+
+// How many numbers an entry runs through: every instalment has one, and an item without any leaves one free.
+std::size_t numbersOf(const ArrearsEntry& entry) {
+  std::size_t count = entry.debts.size();
+  for (const Debt& debt : entry.debts) count += debt.instalments.size() - 1;
+  return count;
 }
 
-void addArrears(store::Store& store, const ArrearsEntry& entry, base::Date today) {
+}  // namespace
+
+void addArrears(store::Store& store, const ArrearsEntry& entry, platform::Clock& clock) {
   store::Unit unit(store);
-  const std::string first = nextArrearsNumber(store, today);
-  RecordSet ledger(store, "select * from qfjl");
-  int counter = 0;
+  const base::Date today = clock.today();
+  RecordSet ledger(store, "select * from qfjl order by lsh");
+  const std::string first = kit::numberOfDay(ledger, "lsh", today.digits(), "001");
+  const auto numbers = kit::freeNumbers(store, "qfjl", "lsh", first, numbersOf(entry));
+  std::size_t counter = 0;
   for (const Debt& debt : entry.debts) {
     for (std::size_t place = 0; place < debt.instalments.size(); ++place) {
       const auto& instalment = debt.instalments[place];
       if (!instalment) continue;
       if (place > 0) ++counter;
-      ledger.addNew();
-      ledger.set("lsh", base::nextNumber(first, counter));
-      ledger.set("xh", entry.xh);
-      ledger.set("xm", entry.xm);
-      ledger.set("bjmc", entry.bjmc);
-      ledger.set("xtbh", entry.xtbh);
-      ledger.set("sfxm", debt.sfxm);
-      ledger.set("qfrq", today);
-      ledger.set("xq", entry.xq);
-      ledger.set("bjrq", instalment->bjrq);
-      ledger.set("bjje", instalment->bjje);
-      ledger.set("sbjje", base::Money());
-      ledger.set("clfs", "");
-      ledger.set("qfts", entry.qfts);
-      ledger.set("skr", entry.skr);
-      ledger.set("bsh", entry.bsh);
-      ledger.update();
+      kit::addRow(ledger, {{"lsh", numbers[counter]},
+                           {"xh", entry.xh},
+                           {"xm", entry.xm},
+                           {"bjmc", entry.bjmc},
+                           {"xtbh", entry.xtbh},
+                           {"sfxm", debt.sfxm},
+                           {"qfrq", today},
+                           {"xq", entry.xq},
+                           {"bjrq", instalment->bjrq},
+                           {"bjje", instalment->bjje},
+                           {"sbjje", base::Money()},
+                           {"clfs", ""},
+                           {"qfts", entry.qfts},
+                           {"skr", entry.skr},
+                           {"bsh", entry.bsh}});
     }
     ++counter;  // an item without a row leaves its number free
   }
@@ -82,17 +88,38 @@ void settleArrears(store::Store& store, std::span<const ArrearsPayment> payments
   for (std::size_t index = 0; index < rows.size(); ++index) addPayment(rows[index], payments[index].paid, today);
 }
 
-void editArrears(store::Store& store, const std::string& lsh,
-                 const std::vector<std::pair<std::string_view, store::Value>>& columns) {
-  store::Unit unit(store);
-  RecordSet row(store, rowOf(lsh));
-  for (const auto& [column, value] : columns) row.set(column, value);
-  row.update();
-  unit.finish();
+Sql rowsOfStudent(const std::string& xh) { return Sql("select * from qfjl where xh='") + xh + "'"; }
+
+AskedArrears::AskedArrears(store::Store& store, std::int64_t mark) : store_(store), mark_(mark), asked_(standing()) {}
+AskedArrears::AskedArrears(store::Store& store, Sql rows) : store_(store), rows_(std::move(rows)), asked_(standing()) {}
+
+void AskedArrears::walk(const std::function<void(RecordSet&)>& visit) {
+  if (mark_ == 0) {
+    RecordSet set(store_, rows_);
+    return store::forEach(set, visit);
+  }
+  RecordSet row(store_, "select * from qfjl");
+  if (row.goTo(mark_)) visit(row);
 }
 
-Sql rowOf(const std::string& lsh) { return Sql("select * from qfjl where lsh='") + lsh + "'"; }
-Sql rowsOfStudent(const std::string& xh) { return Sql("select * from qfjl where xh='") + xh + "'"; }
-Sql settledRows() { return "select * from qfjl where clfs='结清'"; }
+std::string AskedArrears::standing() {
+  std::string all;
+  count_ = 0;
+  walk([&](RecordSet& row) {
+    ++count_;
+    all += std::to_string(row.mark());
+    for (const char* column : {"lsh", "xh", "bjje", "sbjje", "clfs"}) all += '|' + row.get(column).text();
+    all += '\n';
+  });
+  return all;
+}
+
+bool AskedArrears::each(const std::function<void(RecordSet&)>& visit) {
+  store::Unit unit(store_);
+  const bool same = standing() == asked_;
+  if (same) walk(visit);
+  unit.finish();
+  return same;
+}
 
 }  // namespace arrears

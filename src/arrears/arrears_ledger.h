@@ -3,12 +3,13 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "platform/clock.h"
 #include "store/record_set.h"
 
 namespace arrears {
@@ -36,11 +37,8 @@ struct ArrearsEntry {
   std::vector<Debt> debts;
 };
 
-// The number that follows the last row. Good only inside the unit of work that writes it.
-std::string nextArrearsNumber(store::Store& store, base::Date today);
-
-// Writes a row for each instalment, in one unit of work that also takes the numbers.
-void addArrears(store::Store& store, const ArrearsEntry& entry, base::Date today);
+// Writes a row for each instalment, in one unit of work that also takes the day and the numbers.
+void addArrears(store::Store& store, const ArrearsEntry& entry, platform::Clock& clock);
 
 // An open row as a person saw it.
 struct OpenRow {
@@ -58,13 +56,28 @@ struct ArrearsPayment {
 // words and before anything is written, when another desk has paid, waived or changed one of the rows meanwhile.
 void settleArrears(store::Store& store, std::span<const ArrearsPayment> payments, base::Date today);
 
-// Writes the columns given of the row with this number; raises Fault::RowGone when it is gone meanwhile.
-void editArrears(store::Store& store, const std::string& lsh,
-                 const std::vector<std::pair<std::string_view, store::Value>>& columns);
-
-// The rows that a deletion takes.
-store::Sql rowOf(const std::string& lsh);
 store::Sql rowsOfStudent(const std::string& xh);
-store::Sql settledRows();
+
+// The arrears that a person is asked about, as they stood at the question: the row of a mark, or those of a statement.
+class AskedArrears {
+ public:
+  AskedArrears(store::Store& store, std::int64_t mark);
+  AskedArrears(store::Store& store, store::Sql rows);
+  long long count() const { return count_; }
+  // Visits them in one unit of work. False, and nothing is done, when they are not the same any more: a row has come or
+  // gone, was paid, waived or corrected at another desk.
+  bool each(const std::function<void(store::RecordSet&)>& visit);
+
+ private:
+  void walk(const std::function<void(store::RecordSet&)>& visit);
+  std::string standing();
+  store::Store& store_;
+  std::int64_t mark_ = 0;
+  store::Sql rows_;
+  long long count_ = 0;
+  std::string asked_;
+};
+constexpr const char* changedMeanwhile =
+    "所选欠费记录刚刚被其他计算机修改或删除，本次操作没有进行，列表已重新加载，请核对后再操作！";
 
 }  // namespace arrears

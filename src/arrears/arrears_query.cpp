@@ -1,7 +1,7 @@
 #include "arrears/arrears_query.h"
 
+#include "base/text.h"
 #include "kit/notice.h"
-#include "kit/rows.h"
 #include "kit/validation.h"
 #include "register/classes.h"
 
@@ -102,26 +102,20 @@ std::optional<PaymentQuestion> Formqfcl11::asked(QuestionFields& fields) {
     return std::nullopt;
   }
   if (question.from && *question.to < *question.from) return refuse("起始日期不能大于截止日期！ ");
-  if (!hasStudents(desk.store, question)) {
-    inform("不存在需要查询的学生信息！    ", "信息提示");
-    return std::nullopt;
-  }
   return question;
 }
 
 void Formqfcl11::showUnpaid() {
   const auto question = asked(unpaid);
   if (!question) return;
-  long long found = 0;
+  std::optional<long long> found;
   {
     kit::Notice notice(desk.progress, "开始搜索 ...");
     found = listUnpaid(desk.store, *question, desk.clock.now(), [&](const std::string&, long long so_far) {
-      notice.show("已搜索到" + std::to_string(so_far) + "条记录 ...");
+      notice.show("已搜索到" + base::caption(so_far) + "条记录 ...");
     });
   }
-  if (found == 0) return inform("相关记录不存在！    ", "信息提示");
-  inform("信息搜索完毕！    ", "信息提示");
-  show(reports::List::Unpaid);
+  show(reports::List::Unpaid, found, "信息搜索完毕！    ", "相关记录不存在！    ");
 }
 
 void Formqfcl11::showCompared() {
@@ -130,7 +124,7 @@ void Formqfcl11::showCompared() {
     return;
   const auto question = asked(compared);
   if (!question) return;
-  long long found = 0;
+  std::optional<long long> found;
   {
     kit::Notice notice(desk.progress, "开始搜索相关记录，请稍等 ...");
     found = listByPaid(desk.store, *question, base::Money::leading(due.text()), static_cast<PaidAs>(wanted.chosen()),
@@ -138,19 +132,20 @@ void Formqfcl11::showCompared() {
                        [&](const std::string& name, long long) { notice.show("正在加载" + name + "的信息 ..."); });
     notice.show("正在筛选已加载的信息 ...");
   }
-  if (found == 0) return inform("不存在相匹配记录！ ", "信息提示");
-  inform("信息搜索完毕！ ", "信息提示");
-  show(reports::List::Comparison);
+  show(reports::List::Comparison, found, "信息搜索完毕！ ", "不存在相匹配记录！ ");
 }
 
-void Formqfcl11::show(reports::List computed) {
+void Formqfcl11::show(reports::List computed, std::optional<long long> found, const char* done, const char* none) {
+  if (!found) return inform("不存在需要查询的学生信息！    ", "信息提示");
+  if (found == 0) return inform(none, "信息提示");
+  inform(done, "信息提示");
   answer = ArrearsFilter{{}, computed};
   close();
 }
 
 Formqfcl1::Formqfcl1(kit::Desk& all)
     : ScopeScreen(all, "Formqfcl1", "欠费记录查询条件设置", "select xq from qfjl group by xq order by xq") {
-  clfs.onDrop([this] { clfs.setChoices(kit::columnTexts(desk.store, "select clfs from qfjl group by clfs", "clfs")); });
+  clfs.offers("select clfs from qfjl group by clfs", "clfs");
 }
 
 void Formqfcl1::query() {

@@ -51,7 +51,7 @@ class Formqfcl11 : public kit::QueryScreen {  // 打开欠费信息
   std::optional<PaymentQuestion> asked(QuestionFields& fields);
   void showUnpaid();
   void showCompared();
-  void show(reports::List computed);
+  void show(reports::List computed, std::optional<long long> found, const char* done, const char* none);
 };
 
 class Formqfcl1 : public school::ScopeScreen {  // 欠费记录查询条件设置

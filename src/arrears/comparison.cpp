@@ -29,7 +29,10 @@ std::unordered_map<std::string, Money> paidBy(store::Store& store, const Payment
   }
   std::unordered_map<std::string, Money> paid;
   RecordSet payments(store, Sql("select xh,je from jfjl") + kit::chain(conditions));
-  store::forEach(payments, [&](RecordSet& row) { paid[base::upper(row.get("xh").text())] += row.get("je").money(); });
+  store::forEach(payments, [&](RecordSet& row) {
+    const store::Value xh = row.get("xh");  // Null is nobody's number, also not of a student whose number is empty
+    if (!xh.isNull()) paid[base::upper(xh.text())] += row.get("je").money();
+  });
   return paid;
 }
 
@@ -40,8 +43,9 @@ std::string periodOf(const PaymentQuestion& question) {
 }
 
 // Walks the students; decide sees what each has paid (null: nothing) and says whether a row is written.
-long long fill(store::Store& store, const char* table, const PaymentQuestion& question, base::DateTime now,
-               const Seen& seen, const std::function<bool(const Money* paid, RecordSet& row)>& decide) {
+std::optional<long long> fill(store::Store& store, const char* table, const PaymentQuestion& question,
+                              base::DateTime now, const Seen& seen,
+                              const std::function<bool(const Money* paid, RecordSet& row)>& decide) {
   store::Unit unit(store);
   RecordSet target(store, Sql::table(table));
   target.removeAll();
@@ -64,21 +68,18 @@ long long fill(store::Store& store, const char* table, const PaymentQuestion& qu
     if (++walked % betweenNotices == 0 && seen) seen(student.get("xm").trimmed(), found);
   });
   unit.finish();
-  return found;
+  return walked == 0 ? std::nullopt : std::optional(found);
 }
 
 }  // namespace
 
-bool hasStudents(store::Store& store, const PaymentQuestion& question) {
-  return !RecordSet(store, studentsOf(question)).empty();
-}
-
-long long listUnpaid(store::Store& store, const PaymentQuestion& question, base::DateTime now, const Seen& seen) {
+std::optional<long long> listUnpaid(store::Store& store, const PaymentQuestion& question, base::DateTime now,
+                                    const Seen& seen) {
   return fill(store, "qfjl_wjf", question, now, seen, [](const Money* paid, RecordSet&) { return paid == nullptr; });
 }
 
-long long listByPaid(store::Store& store, const PaymentQuestion& question, Money due, PaidAs wanted, base::DateTime now,
-                     const Seen& seen) {
+std::optional<long long> listByPaid(store::Store& store, const PaymentQuestion& question, Money due, PaidAs wanted,
+                                    base::DateTime now, const Seen& seen) {
   return fill(store, "qfjl_je", question, now, seen, [&](const Money* paid, RecordSet& row) {
     const Money sum = paid ? *paid : Money();
     if (wanted == PaidAs::Less ? sum >= due : wanted == PaidAs::Exactly ? sum != due : sum <= due) return false;

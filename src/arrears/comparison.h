@@ -22,11 +22,11 @@ enum class PaidAs { Less, Exactly, More };
 
 using Seen = std::function<void(const std::string& xm, long long found)>;  // now and then, for the notice
 
-bool hasStudents(store::Store& store, const PaymentQuestion& question);
-// Both empty their table first and give back the rows that are in it then.
-long long listUnpaid(store::Store& store, const PaymentQuestion& question, base::DateTime now,
-                     const Seen& seen);  // qfjl_wjf
-long long listByPaid(store::Store& store, const PaymentQuestion& question, base::Money due, PaidAs wanted,
-                     base::DateTime now, const Seen& seen);  // qfjl_je
+// Both empty their table first and give back the rows that are in it then; nothing when there are no students to ask
+// about.
+std::optional<long long> listUnpaid(store::Store& store, const PaymentQuestion& question, base::DateTime now,
+                                    const Seen& seen);  // qfjl_wjf
+std::optional<long long> listByPaid(store::Store& store, const PaymentQuestion& question, base::Money due,
+                                    PaidAs wanted, base::DateTime now, const Seen& seen);  // qfjl_je
 
 }  // namespace arrears

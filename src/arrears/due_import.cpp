@@ -16,11 +16,10 @@ namespace {
 using base::Money;
 using store::RecordSet;
 using store::Sql;
-using Chosen = kit::Session::DueImport;
-using Range = Chosen::Range;
+using Range = DueImport::Range;
 
 constexpr int mostRows = std::numeric_limits<std::int16_t>::max();
-constexpr int rowsOfUnit = 5000;  // a tenth of a second: no other desk waits noticeably longer
+constexpr std::size_t rowsOfUnit = 5000;  // a tenth of a second: no other desk waits noticeably longer
 
 struct Student {
   std::string xh, xm, bjmc, xtbh, rxxs;
@@ -33,12 +32,11 @@ struct Standard {
 
 // What is the same in every row.
 struct Common {
-  base::Date today;
   std::string term, deadline, operatorName;
   double lead;
 };
 
-Sql studentsOf(const Chosen& chosen) {
+Sql studentsOf(const DueImport& chosen) {
   Sql sql("select xh, xm, bjmc, xtbh, rxxs from xs");
   if (chosen.range == Range::Major) sql += Sql(" where left(xtbh,2)='") + chosen.major_code + "'";
   if (chosen.range == Range::Class) sql += Sql(" where bjmc='") + chosen.value + "'";
@@ -46,7 +44,7 @@ Sql studentsOf(const Chosen& chosen) {
   return sql + " order by xtbh";
 }
 
-std::vector<Student> readStudents(store::Store& store, const Chosen& chosen) {
+std::vector<Student> readStudents(store::Store& store, const DueImport& chosen) {
   std::vector<Student> students;
   RecordSet set(store, studentsOf(chosen));
   store::forEach(set, [&](RecordSet& row) {
@@ -59,7 +57,7 @@ std::vector<Student> readStudents(store::Store& store, const Chosen& chosen) {
 // The standards of each class or enrolment form, read when its first student comes.
 class Standards {
  public:
-  Standards(store::Store& store, const Chosen& chosen, bool byClass)
+  Standards(store::Store& store, const DueImport& chosen, bool byClass)
       : store_(store), chosen_(chosen), byClass_(byClass) {}
 
   const std::vector<Standard>& of(const Student& student) {
@@ -84,7 +82,7 @@ class Standards {
   }
 
   store::Store& store_;
-  const Chosen& chosen_;
+  const DueImport& chosen_;
   const bool byClass_;
   std::unordered_map<std::string, std::vector<Standard>> read_;
 };
@@ -92,15 +90,25 @@ class Standards {
 // One student and one item, written so that equal keys are what a statement would find equal.
 std::string pairKey(const std::string& xh, const std::string& sfxm) { return base::upper(xh + '\n' + sfxm); }
 
-// What stands for the term already, by student and item.
+// What stands for the term, by student and item. Read anew when another desk has added a payment or arrears since. What
+// it changes or takes away during the import is as if it came after it.
 class Booked {
  public:
-  Booked(store::Store& store, const std::string& term) : store_(store), term_(term) {
-    RecordSet payments(store, Sql("select xh, sfxm, je from jfjl where xq='") + term + "'");
+  Booked(store::Store& store, const std::string& term) : store_(store), term_(term) {}
+
+  // Inside the unit that writes what follows from it.
+  void read() {
+    const auto last = std::pair(lastMark("select xh from jfjl"), lastMark("select xh from qfjl"));
+    if (last == readTo_) return;
+    readTo_ = last;
+    paid_.clear();
+    owed_.clear();
+    RecordSet payments(store_, Sql("select xh, sfxm, je from jfjl where xq='") + term_ + "'");
     eachPair(payments, [&](RecordSet& row, std::string key) { paid_[std::move(key)] += row.get("je").money(); });
-    RecordSet arrears(store, Sql("select xh, sfxm from qfjl where xq='") + term + "'");
+    RecordSet arrears(store_, Sql("select xh, sfxm from qfjl where xq='") + term_ + "'");
     eachPair(arrears, [&](RecordSet&, std::string key) { owed_.insert(std::move(key)); });
   }
+  void ownRow(std::int64_t mark) { readTo_.second = mark; }
 
   // Nothing when there is no payment at all.
   std::optional<Money> paid(const std::string& xh, const std::string& sfxm) const {
@@ -122,52 +130,80 @@ class Booked {
       if (!xh.isNull() && !sfxm.isNull()) visit(row, pairKey(xh.text(), sfxm.text()));
     });
   }
+  // Rises with every row that is added, and never falls: no mark is given twice.
+  std::int64_t lastMark(const Sql& table) {
+    RecordSet rows(store_, table);
+    if (rows.empty()) return 0;
+    rows.last();
+    return rows.mark();
+  }
 
   store::Store& store_;
   const std::string& term_;
+  std::pair<std::int64_t, std::int64_t> readTo_{-1, -1};
   std::unordered_map<std::string, Money> paid_;
   std::unordered_set<std::string> owed_;
 };
 
 // The month stands as it is, the day with two digits: in the months 1 to 9 an import's numbers are one digit shorter
-// than those of the entry screen and start anew at each import, as in all the office's books so far.
+// than those of the entry screen, and each import begins at the day's first number that is free.
 std::string firstNumber(store::Store& store, base::Date today) {
   RecordSet ledger(store, "select * from qfjl order by lsh");
   const std::string day = (today.day < 10 ? "0" : "") + std::to_string(today.day);
   return kit::numberOfDay(ledger, "lsh", std::to_string(today.year) + std::to_string(today.month) + day, "001");
 }
 
-// The rows on their way into the book.
+// The rows on their way into the book, in units of some thousands.
 class Entries {
  public:
   Entries(kit::Desk& desk, Common common)
       : desk_(desk), common_(std::move(common)), ledger_(desk.store, "select * from qfjl") {}
 
   int count() const { return count_; }
+  bool underWay() const { return unit_.has_value(); }
 
-  void add(const Student& student, const Standard& standard, std::optional<Money> paid) {
-    if (count_ == mostRows) tooMany();
-    if (!unit_) begin();
-    ledger_.addNew();
-    ledger_.set("xh", student.xh);
-    ledger_.set("xm", student.xm);
-    ledger_.set("bjmc", student.bjmc);
-    ledger_.set("xtbh", student.xtbh);
-    ledger_.set("sfxm", standard.sfxmmc);
-    ledger_.set("qfrq", common_.today);
-    ledger_.set("xq", common_.term);
-    ledger_.set("bjrq", common_.deadline);
-    ledger_.set("bjje", standard.je - paid.value_or(Money()));
-    ledger_.set("sbjrq", paid ? store::Value("") : store::Value());
-    ledger_.set("sbjje", Money());
-    ledger_.set("clfs", paid ? partlyPaid : "");
-    ledger_.set("qfts", common_.lead);
-    ledger_.set("skr", common_.operatorName);
-    ledger_.set("bsh", desk_.clock.now().plain());
-    ledger_.set("lsh", base::nextNumber(first_, count_));
-    ledger_.update();
+  void begin() {
+    unit_.emplace(desk_.store);
+    moment_ = desk_.clock.now();
+    const std::string first =
+        count_ == 0 ? firstNumber(desk_.store, moment_.date) : base::nextNumber(numbers_[used_ - 1]);
+    numbers_ = kit::freeNumbers(desk_.store, "qfjl", "lsh", first, rowsOfUnit);
+    used_ = 0;
+    bsh_ = moment_.plain();
+  }
+
+  // Gives back the new row's mark.
+  std::int64_t add(const Student& student, const Standard& standard, std::optional<Money> paid) {
+    if (count_ == mostRows)
+      throw store::StoreError(store::Fault::Other,
+                              "一次最多只能导入" + std::to_string(mostRows) +
+                                  "条应交费记录，超出的部分没有导入！已导入的记录有效，请再次导入以补齐其余记录。");
+    kit::addRow(ledger_, {{"xh", student.xh},
+                          {"xm", student.xm},
+                          {"bjmc", student.bjmc},
+                          {"xtbh", student.xtbh},
+                          {"sfxm", standard.sfxmmc},
+                          {"qfrq", moment_.date},
+                          {"xq", common_.term},
+                          {"bjrq", common_.deadline},
+                          {"bjje", standard.je - paid.value_or(Money())},
+                          {"sbjrq", paid ? store::Value("") : store::Value()},
+                          {"sbjje", Money()},
+                          {"clfs", paid ? partlyPaid : ""},
+                          {"qfts", common_.lead},
+                          {"skr", common_.operatorName},
+                          {"bsh", bsh_},
+                          {"lsh", numbers_[used_++]}});
     ++count_;
-    if (count_ % rowsOfUnit == 0) finish();
+    const std::int64_t mark = ledger_.mark();
+    if (used_ == rowsOfUnit) finish();
+    return mark;
+  }
+
+  void finish() {
+    if (!unit_) return;
+    unit_->finish();
+    unit_.reset();
   }
 
   // What stands before a fault stays: a repeat goes on from there.
@@ -178,35 +214,21 @@ class Entries {
     }
   }
 
-  void finish() {
-    if (!unit_) return;
-    unit_->finish();
-    unit_.reset();
-  }
-
  private:
-  void begin() {
-    unit_.emplace(desk_.store);
-    if (count_ == 0) first_ = firstNumber(desk_.store, common_.today);
-  }
-
-  [[noreturn]] void tooMany() {
-    throw store::StoreError(store::Fault::Other,
-                            "一次最多只能导入" + std::to_string(mostRows) +
-                                "条应交费记录，超出的部分没有导入！已导入的记录有效，请再次导入以补齐其余记录。");
-  }
-
   kit::Desk& desk_;
   const Common common_;
   RecordSet ledger_;
   std::optional<store::Unit> unit_;
-  std::string first_;
+  base::DateTime moment_;
+  std::string bsh_;
+  std::vector<std::string> numbers_;  // of the unit
+  std::size_t used_ = 0;
   int count_ = 0;
 };
 
 }  // namespace
 
-std::optional<int> importDue(kit::Desk& desk, const Chosen& chosen, const ImportProgress& tell) {
+std::optional<int> importDue(kit::Desk& desk, const DueImport& chosen, const ImportProgress& tell) {
   constexpr const char* scanning = "检测数据完整性 ...";
   const std::vector<Student> students = readStudents(desk.store, chosen);
   if (students.empty()) return std::nullopt;
@@ -214,16 +236,16 @@ std::optional<int> importDue(kit::Desk& desk, const Chosen& chosen, const Import
   tell(scanning, 0, total);
   Booked booked(desk.store, chosen.term);
   Standards standards(desk.store, chosen, desk.session.standard_basis_class);
-  Entries entries(desk, {desk.clock.today(), chosen.term, chosen.deadline, desk.session.SessionUser,
-                         base::leadingNumber(chosen.lead)});
+  Entries entries(desk, {chosen.term, chosen.deadline, desk.session.SessionUser, base::leadingNumber(chosen.lead)});
   long long done = 0;
   try {
     for (const Student& student : students) {
       const int before = entries.count();
       for (const Standard& standard : standards.of(student)) {
+        if (!entries.underWay()) entries.begin(), booked.read();
         const std::optional<Money> paid = booked.paid(student.xh, standard.sfxmmc);
         if (paid && *paid >= standard.je) continue;
-        if (booked.takePlace(student.xh, standard.sfxmmc)) entries.add(student, standard, paid);
+        if (booked.takePlace(student.xh, standard.sfxmmc)) booked.ownRow(entries.add(student, standard, paid));
       }
       tell(entries.count() > before ? "正在导入" + student.xm + "的应交费记录 ..." : scanning, ++done, total);
     }

@@ -48,9 +48,8 @@ Formqfcl2::Formqfcl2(kit::Desk& all)
     const RangeWords& words = wordsOf(range);
     value.setChoices(kit::columnTexts(desk.store, words.values, words.column));
   });
-  item.onDrop(
-      [this] { item.setChoices(kit::columnTexts(desk.store, "select * from sfxmb order by sfxmbh", "sfxmmc")); });
-  xq.onDrop([this] { xq.setChoices(kit::columnTexts(desk.store, "select xq from jfjl group by xq", "xq")); });
+  item.offers("select * from sfxmb order by sfxmbh", "sfxmmc");
+  xq.offers("select xq from jfjl group by xq", "xq");
   confirm.onPress([this] { import(); });
   cancel.onPress([this] { close(); });
 }
@@ -89,14 +88,14 @@ std::vector<kit::Rule> Formqfcl2::rules() {
       {&bjrq, kit::notDate(bjrq), "补交日期格式不正确，请输入正确的格式 yyyy-m-d  ！  ", "操作提示"}};
 }
 
-kit::Session::DueImport Formqfcl2::chosen() {
-  kit::Session::DueImport result{.range = chosenRange(),
-                                 .value = value.trimmed(),
-                                 .major_code = "",
-                                 .item = std::nullopt,
-                                 .term = xq.trimmed(),
-                                 .lead = qfts.trimmed(),
-                                 .deadline = bjrq.trimmed()};
+DueImport Formqfcl2::chosen() {
+  DueImport result{.range = chosenRange(),
+                   .value = value.trimmed(),
+                   .major_code = "",
+                   .item = std::nullopt,
+                   .term = xq.trimmed(),
+                   .lead = qfts.trimmed(),
+                   .deadline = bjrq.trimmed()};
   if (onlyOneItem()) result.item = item.trimmed();
   if (result.range == Range::Major) {
     store::RecordSet major = rows(Sql("select * from zymcb where zymc='") + result.value + "'");
@@ -107,13 +106,8 @@ kit::Session::DueImport Formqfcl2::chosen() {
 
 void Formqfcl2::import() {
   if (!kit::holds(desk.person, rules())) return;
-  kit::Session& session = desk.session;
-  session.current_xq = xq.trimmed();
   if (!ask("导入可能需要一定的时间，导入中请不要进行其它操作！您确认继续吗？      ", "操作提示")) return;
-  session.due_import = chosen();
-  session.due_import_ended = false;
-  open<Formqfcl3>();
-  if (session.due_import_ended) close();
+  if (open<Formqfcl3>(chosen())) close();
 }
 
 }  // namespace arrears

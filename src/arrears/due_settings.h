@@ -1,6 +1,7 @@
 // What the import of amounts due shall cover: which students, which items, which term, due by when.
 #pragma once
 
+#include "arrears/due_import.h"
 #include "kit/screen.h"
 #include "kit/validation.h"
 
@@ -22,13 +23,13 @@ class Formqfcl2 : public kit::Screen {  // 应交费学生信息导入设置
   kit::Action confirm{*this, "confirm", "确认", "check"}, cancel{*this, "cancel", "撤销", "x"};
 
  private:
-  using Range = kit::Session::DueImport::Range;
+  using Range = DueImport::Range;
   Range chosenRange() const { return static_cast<Range>(range.chosen()); }
   bool onlyOneItem() const { return items.chosen() == 1; }
   void rangeChanged();
   void itemsChanged();
   std::vector<kit::Rule> rules();
-  kit::Session::DueImport chosen();
+  DueImport chosen();
   void import();
 };
 

@@ -1,6 +1,7 @@
 #include "arrears/waiver.h"
 
 #include "arrears/arrears_ledger.h"
+#include "kit/rows.h"
 
 namespace arrears {
 namespace {
@@ -8,67 +9,52 @@ namespace {
 using kit::Box;
 using store::RecordSet;
 
-// A waived row shows as fully paid; the word in clfs alone tells it from one that brought money in.
-void waive(RecordSet& row, base::Date today) {
-  row.set("sbjrq", today.iso());
-  row.set("sbjje", row.get("bjje"));
-  row.set("clfs", waived);
-  row.update();
+bool refuse(kit::Desk& desk, const char* text, const char* title = "信息提示") {
+  desk.person.tell(Box::Information, text, title);
+  return false;
+}
+
+// Nothing selected, or the row has gone, which is told.
+bool nothing(kit::Desk& desk, std::int64_t selected) {
+  if (selected == 0) return true;
+  return !kit::standsStill(desk.store, "qfjl", selected) && !refuse(desk, changedMeanwhile);
 }
 
 bool decided(RecordSet& row) { return row.get("clfs").trimmed() == waived || row.get("clfs").trimmed() == settled; }
 
-// Asks, waives the rows that the list may waive, and tells. What was settled at another desk while the question stood
-// stays settled on the overview.
-bool askAndWaive(kit::Desk& desk, const store::Sql& rows, WaivedFrom list, const char* question) {
+// A waived row shows as fully paid; the word in clfs alone tells it from one that brought money in.
+bool askAndWaive(kit::Desk& desk, AskedArrears chosen, const char* question) {
   if (!desk.person.ask(Box::Ask, question, "操作提示")) return false;
-  bool any = false;
-  store::Unit unit(desk.store);
-  RecordSet set(desk.store, rows);
-  store::forEach(set, [&](RecordSet& row) {
-    if (list == WaivedFrom::Overview && decided(row)) return;
-    waive(row, desk.clock.today());
-    any = true;
+  const bool done = chosen.each([&](RecordSet& row) {
+    kit::writeRow(row, {{"sbjrq", desk.clock.today().iso()}, {"sbjje", row.get("bjje")}, {"clfs", waived}});
   });
-  unit.finish();
-  if (any) desk.person.tell(Box::Information, "减免操作成功！     ", "信息提示");
-  return any;
-}
-
-// The overview's tests of a single row.
-bool mayWaive(kit::Desk& desk, RecordSet& row) {
-  const std::string state = row.get("clfs").trimmed();
-  if (state == waived || state == settled) {
-    desk.person.tell(Box::Information, state == waived ? "这已经是减免的记录！     " : "这是一条已结清的记录！     ",
-                     "信息提示");
-    return false;
-  }
-  return row.get("sbjje").money() < row.get("bjje").money();
+  desk.person.tell(Box::Information, done ? "减免操作成功！     " : changedMeanwhile, "信息提示");
+  return true;
 }
 
 }  // namespace
 
-bool waiveOne(kit::Desk& desk, const std::string& lsh, WaivedFrom list) {
-  RecordSet row(desk.store, rowOf(lsh));
-  if (row.empty()) return false;
-  if (list == WaivedFrom::Overview && !mayWaive(desk, row)) return false;
-  return askAndWaive(desk, rowOf(lsh), list, "您确认是要减免此笔欠费吗？     ");
+bool waiveOne(kit::Desk& desk, std::int64_t selected, WaivedFrom list) {
+  if (nothing(desk, selected)) return selected != 0;
+  RecordSet row = kit::rowAt(desk.store, "qfjl", selected);
+  if (list == WaivedFrom::Overview) {
+    if (decided(row))
+      return refuse(desk,
+                    row.get("clfs").trimmed() == waived ? "这已经是减免的记录！     " : "这是一条已结清的记录！     ");
+    if (row.get("sbjje").money() >= row.get("bjje").money()) return false;
+  }
+  return askAndWaive(desk, {desk.store, selected}, "您确认是要减免此笔欠费吗？     ");
 }
 
-bool waiveAll(kit::Desk& desk, const std::string& lsh, WaivedFrom list) {
-  RecordSet row(desk.store, rowOf(lsh));
-  if (row.empty()) return false;
-  const store::Sql all = rowsOfStudent(row.get("xh").trimmed());
-  if (list == WaivedFrom::Overview) {
-    bool any = false;
-    RecordSet rows(desk.store, all);
-    store::forEach(rows, [&](RecordSet& one) { any = any || decided(one); });
-    if (any) {
-      desk.person.tell(Box::Information, "您操作的记录中存在减免或结清记录，请单笔进行操作！     ", "操作提示");
-      return false;
-    }
-  }
-  return askAndWaive(desk, all, list, "您确认是要减免该生全部欠费吗？     ");
+bool waiveAll(kit::Desk& desk, std::int64_t selected, WaivedFrom list) {
+  if (nothing(desk, selected)) return selected != 0;
+  const store::Sql all = rowsOfStudent(kit::rowAt(desk.store, "qfjl", selected).get("xh").trimmed());
+  bool any = false;
+  RecordSet rows(desk.store, all);
+  store::forEach(rows, [&](RecordSet& row) { any = any || decided(row); });
+  if (any && list == WaivedFrom::Overview)
+    return refuse(desk, "您操作的记录中存在减免或结清记录，请单笔进行操作！     ", "操作提示");
+  return askAndWaive(desk, {desk.store, all}, "您确认是要减免该生全部欠费吗？     ");
 }
 
 }  // namespace arrears

@@ -1,7 +1,7 @@
 // Waiving arrears, from the console's two lists.
 #pragma once
 
-#include <string>
+#include <cstdint>
 
 #include "kit/desk.h"
 
@@ -11,8 +11,9 @@ namespace arrears {
 // overview lists every row, and refuses those that are settled or waived already.
 enum class WaivedFrom { Card, Overview };
 
-// The row with this number, or all rows of its student: tests, asks, waives, tells. True: something was waived.
-bool waiveOne(kit::Desk& desk, const std::string& lsh, WaivedFrom list);
-bool waiveAll(kit::Desk& desk, const std::string& lsh, WaivedFrom list);
+// The row that is selected (its mark; 0: none), or all rows of its student: tests, asks, waives, tells. True: the list
+// is to be read again.
+bool waiveOne(kit::Desk& desk, std::int64_t selected, WaivedFrom list);
+bool waiveAll(kit::Desk& desk, std::int64_t selected, WaivedFrom list);
 
 }  // namespace arrears

@@ -104,10 +104,7 @@ bool Formzctsf9::submitted(const std::vector<std::int64_t>& counted, base::Money
 
 void Formzctsf9::printMine() {
   if (!kit::may(desk, kit::Collect)) return kit::refuse(desk);
-  const Sql mine = unsubmitted(desk) + " order by lsh";
-  if (rows(mine).empty()) return inform("前台不存在您的未提交记录！      ", "信息提示");
-  reports::refill(desk, "dy_jfjl", mine, reports::columnsOf("dy_jfjl"));
-  reports::showReport(desk, "bbdy_jfjl");
+  reports::printList(desk, reports::Print::Unsubmitted, unsubmitted(desk, {}) + " order by lsh");
 }
 
 }  // namespace collection

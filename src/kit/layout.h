@@ -32,8 +32,9 @@ struct Node {
   std::vector<Node> children;
   std::vector<std::string> headings;
   int columns = 1;
-  int span = 1;   // how many pairs of a form's row it takes
-  int width = 0;  // wished width in Chinese characters; 0: its own
+  int span = 1;               // how many pairs of a form's row it takes
+  int width = 0;              // wished width in Chinese characters; 0: its own
+  Action* confirm = nullptr;  // Enter in the last field of this part presses it, not the window's default button
 
   Node(kit::Member& one) : member(&one) {}
   Node(Kind kind, std::string text, std::vector<Node> children = {})
@@ -75,6 +76,11 @@ inline Node wide(Node node, int characters) {
 }
 inline Node spanning(Node node, int pairs) {
   node.span = pairs;
+  return node;
+}
+
+inline Node ending(Node node, Action& confirm) {
+  node.confirm = &confirm;
   return node;
 }
 

@@ -67,7 +67,7 @@ std::optional<Condition> QueryScreen::dated(DateCondition& field, std::string_vi
 }
 
 Node QueryScreen::queryNode(Node conditions) {
-  return column({group("查询范围", {period, hint}), group("自定义信息", {std::move(conditions)}),
+  return column({group("查询范围", {period, hint}), ending(group("自定义信息", {std::move(conditions)}), confirm),
                  group("关键字查询", {row({form({wide(key, 16)}), search, stretch()})})});
 }
 

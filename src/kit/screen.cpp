@@ -13,6 +13,14 @@ void collect(const Node& node, std::vector<Member*>& order) {
   for (const Node& child : node.children) collect(child, order);
 }
 
+// The innermost part around the member that has a confirm action of its own; without one, the member's own node.
+const Node* partOf(const Member& member, const Node& node) {
+  if (node.member == &member) return &node;
+  for (const Node& child : node.children)
+    if (const Node* part = partOf(member, child)) return part->confirm || !node.confirm ? part : &node;
+  return nullptr;
+}
+
 bool takesEntry(const Member& member) {
   return member.reachable() && member.kind == MemberKind::Field &&
          static_cast<const Field&>(member).entry != Entry::Shown;
@@ -76,12 +84,16 @@ bool Screen::attempt(const Handler& step, bool tells) {
 void Screen::moveOnFrom(const Member& member) {
   if (closed_) return;
   const Layout plan = layout();
-  const auto order = readingOrder(plan);
+  const Node* part = partOf(member, plan.root);
+  const bool ends = part && part->confirm;
+  Action* const confirm = ends ? part->confirm : plan.confirm;
+  std::vector<Member*> order;
+  collect(ends ? *part : plan.root, order);
   const auto here = std::find(order.begin(), order.end(), &member);
   const auto next =
       here == order.end() ? here : std::find_if(here + 1, order.end(), [](Member* m) { return takesEntry(*m); });
   if (next != order.end()) (*next)->focus();
-  else if (plan.confirm) plan.confirm->invoke();
+  else if (confirm) confirm->invoke();
 }
 
 }  // namespace kit

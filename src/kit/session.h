@@ -1,15 +1,9 @@
-// The session: process-wide plain values that screens hand to one another, grouped by the screen that receives them.
-// Nothing of it outlives the program.
+// The session: who works where, and the settings of the desk. What one screen hands to another is no part of it: that
+// goes to the constructor of the receiver, and comes back as its answer.
 #pragma once
 
 #include <array>
-#include <optional>
 #include <string>
-#include <vector>
-
-#include "base/money.h"
-#include "kit/editing.h"
-#include "store/record_set.h"
 
 namespace kit {
 
@@ -36,35 +30,6 @@ struct Session {
   bool standard_basis_class = false;     // bjsf1
 
   bool first_user_added = false;  // the first-run screen did its work; the program starts anew for the login
-
-  Mode EditMode = Mode::Add;  // what an edit screen is opened for
-
-  std::string arrears_selection;
-
-  // The student card.
-  std::string current_xh, current_xq;
-
-  // The import of amounts due: what the settings screen chose, and whether the import then came to its end.
-  struct DueImport {
-    enum class Range { School, Major, Class, Form };
-    Range range = Range::School;
-    std::string value;                // the class or the enrolment form
-    std::string major_code;           // the first two characters of its students' system numbers
-    std::optional<std::string> item;  // nothing: all items
-    std::string term, lead, deadline;
-  } due_import;
-  bool due_import_ended = false;
-
-  // The income statement: the period that is asked for, and what the worker computed last.
-  int statement_year = 0, statement_month = 0;
-  struct IncomeLine {
-    std::string item;
-    base::Money month, year;
-  };
-  struct Income {
-    int year = 0, month = 0;
-    std::vector<IncomeLine> lines;
-  } income;
 
   // Of the receipt that was printed last: a reprint shows them again.
   std::string print_jffs, print_jfrq;

@@ -84,10 +84,7 @@ void show(kit::Desk& desk, const std::string& title, const std::filesystem::path
 
 }  // namespace
 
-const Export& exportOf(List list) {
-  const auto& all = allExports();
-  return *std::find_if(all.begin(), all.end(), [list](const Export& one) { return one.list == list; });
-}
+const Export& exportOf(List list) { return *std::ranges::find(allExports(), list, &Export::list); }
 
 void exportToSheet(kit::Desk& desk, const std::string& sheetTitle, const Sql& sql, const std::vector<Heading>& headings,
                    const std::set<std::size_t>& dates) {
@@ -113,6 +110,10 @@ void exportList(kit::Desk& desk, List list, const Sql& filter) {
     return desk.person.tell(Box::Information, "不存在需要导出的数据！     ", "信息提示");
   exportToSheet(desk, filter.empty() ? what.all : what.byCondition, sql,
                 what.payItems ? withPayItems(desk, what.headings) : what.headings, what.dates);
+}
+
+std::function<void(kit::Desk&, const kit::Filter&)> exporting(List list) {
+  return [list](kit::Desk& desk, const kit::Filter& filter) { exportList(desk, list, filter.where); };
 }
 
 }  // namespace reports

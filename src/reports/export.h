@@ -1,12 +1,14 @@
 // How every list becomes a sheet in the person's spreadsheet program: a question, one statement, a row a record.
 #pragma once
 
+#include <functional>
 #include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "kit/desk.h"
+#include "kit/filter.h"
 
 namespace reports {
 
@@ -60,6 +62,8 @@ constexpr long long mostRows = 32767;
 
 // Asks, then exports what the filter leaves (" where ...", or nothing for all) and tells where the sheet is.
 void exportList(kit::Desk& desk, List list, const store::Sql& filter = {});
+// The same as what a button does with the rows of its list.
+std::function<void(kit::Desk&, const kit::Filter&)> exporting(List list);
 
 // The rows of a statement as a sheet; says so when there are none, or more than a sheet takes.
 void exportToSheet(kit::Desk& desk, const std::string& sheetTitle, const store::Sql& sql,

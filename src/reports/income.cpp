@@ -3,10 +3,10 @@
 #include <map>
 
 #include "base/text.h"
+#include "store/record_set.h"
 
 namespace reports {
 
-using kit::Session;
 using store::RecordSet;
 
 namespace {
@@ -15,15 +15,14 @@ struct Sums {
   base::Money month, year;
 
   void add(base::Money amount, base::Date day, Period period) {
-    if (day.month == period.month) month += amount;
-    if (day.year == period.year && day.month <= period.month) year += amount;
+    if (day.month == period.statement_month) month += amount;
+    if (day.year == period.statement_year && day.month <= period.statement_month) year += amount;
   }
 };
 
 }  // namespace
 
-std::vector<Session::IncomeLine> computeIncome(store::Store& store, Period period,
-                                               const std::function<void(const std::string& item)>& onItem) {
+Income computeIncome(store::Store& store, Period period, const std::function<void(const std::string& item)>& onItem) {
   std::map<std::string, Sums> sums;  // by the stored item, without regard to case
   RecordSet payments(store, "select sfxm,jfrq,je from jfjl");
   store::forEach(payments, [&](RecordSet& row) {
@@ -32,15 +31,15 @@ std::vector<Session::IncomeLine> computeIncome(store::Store& store, Period perio
     if (day && !item.isNull()) sums[base::upper(item.text())].add(row.get("je").money(), *day, period);
   });
   // An item is asked for by its trimmed name, so items that differ in blanks alone all show the plain one's amounts.
-  std::vector<Session::IncomeLine> lines;
+  Income income{period, {}};
   RecordSet items(store, "select sfxm from jfjl group by sfxm");
   store::forEach(items, [&](RecordSet& row) {
     const std::string item = row.get("sfxm").trimmed();
     onItem(item);
     const Sums& found = sums[base::upper(item)];
-    lines.push_back({item, found.month, found.year});
+    income.lines.push_back({item, found.month, found.year});
   });
-  return lines;
+  return income;
 }
 
 std::string incomeCell(base::Money amount) {

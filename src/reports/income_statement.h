@@ -2,32 +2,37 @@
 #pragma once
 
 #include "kit/screen.h"
+#include "reports/income.h"
 
 namespace reports {
 
-// What the worker is opened for; it takes its order from the session's EditMode.
+// What the worker is opened for.
 constexpr kit::Mode openStatement{1}, refreshStatement{2}, printStatement{3};
 
 class Formkh1 : public kit::Screen {  // 经营情况统计的计算窗口
  public:
-  explicit Formkh1(kit::Desk& desk);
-  void load() override;
+  // Without a period: this month's.
+  explicit Formkh1(kit::Desk& desk, kit::Mode order = openStatement, Period period = {});
+  void load() override { timer.start(); }
   kit::Layout layout() override;
   bool mayClose() override { return false; }  // it leaves by itself
 
   kit::Field notice{*this, "notice", "", kit::Entry::Shown};
   kit::Timer timer{*this, "timer", std::chrono::milliseconds(200)};
+  std::optional<Income> answer;  // nothing when a fault ended the work
 
  private:
   void work();
   void compute();
   void print();
+  const kit::Mode EditMode;
+  const Period period_;
 };
 
 class Formkh : public kit::Screen {  // 学校经营情况统计分析
  public:
-  explicit Formkh(kit::Desk& desk);
-  void load() override;
+  explicit Formkh(kit::Desk& desk, Income income = {});
+  void load() override { show(); }
   kit::Layout layout() override;
 
   kit::Field period{*this, "period", "", kit::Entry::Shown};
@@ -38,10 +43,11 @@ class Formkh : public kit::Screen {  // 学校经营情况统计分析
   kit::Action print{*this, "print", "打印", "printer"}, back{*this, "back", "返回", "undo-2"};
 
  private:
-  void work(kit::Mode order);
   void show();
   void toPrevious();
   void toNext();
+  void refresh(Period period);
+  Income income_;
 };
 
 }  // namespace reports

@@ -4,34 +4,48 @@
 #include <functional>
 
 #include "kit/desk.h"
+#include "kit/filter.h"
 #include "reports/report.h"
 
 namespace reports {
 
-// What a screen asks before it prints, and says when there is nothing to print.
-struct Question {
-  std::string text;
-  std::string none = "不存在需要打印的数据！  ";
-  std::string noneTitle = "信息提示";
+enum class Print {
+  Students,  // of the console, as the next seven
+  StudentForms,
+  Payments,
+  PaymentDetails,
+  ArrearsDue,
+  ArrearsProgress,
+  Unpaid,
+  Comparison,
+  Unsubmitted,  // Formzctsf9
+  Suspensions,  // Formxxfk
 };
 
 // Values of a printed row that are not copied: sees the row that is read and the one that is written.
 using Also = std::function<void(store::RecordSet& from, store::RecordSet& to)>;
 
-// Empties the print table and copies the columns of each row of the source into it, in one unit. Gives back the count.
-long long refill(kit::Desk& desk, const char* table, const store::Sql& source,
-                 const std::vector<std::string_view>& columns, const Also& also = {});
+struct PrintPlan {
+  Print print;
+  const char* report;  // its table takes the rows
+  const char* from;    // the table that they come from; null: the report's table is printed as it stands
+  const char* object;  // in the question; null: nothing is asked
+  const char* none = "不存在需要打印的数据！  ";
+  bool asksFirst = false;  // and looks, before the table is filled; without the blank that ends the others' question
+  std::function<Also(kit::Desk&)> also{};
+};
 
-// All columns of a table, for those whose print table is alike.
-std::vector<std::string_view> columnsOf(std::string_view table);
+const std::vector<PrintPlan>& allPrints();
+
+// The whole road: copies what the filter leaves (" where ...", or nothing for all), says that there is nothing or asks,
+// and shows the report. A No leaves the print table filled.
+void printList(kit::Desk& desk, Print what, const store::Sql& filter = {});
+// The same as what a button does with the rows of its list.
+std::function<void(kit::Desk&, const kit::Filter&)> printing(Print what);
 
 bool mayPrint(kit::Desk& desk, const std::string& question, const std::string& title = "信息提示");
 
 // A preview of the report over its table as it stands; nothing when the table has no rows.
-void showReport(kit::Desk& desk, std::string_view name);
-
-// The whole road: fill, say that there is nothing or ask, show. A No leaves the print table filled.
-void printList(kit::Desk& desk, const std::function<long long()>& fill, std::string_view report,
-               const Question& question);
+void showReport(kit::Desk& desk, const Report& report);
 
 }  // namespace reports

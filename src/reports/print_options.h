@@ -1,8 +1,9 @@
-// The small screens on which an office list's report is chosen and printed, and what each prints.
+// The small screens on which an office list's report is chosen and printed.
 #pragma once
 
 #include "kit/screen.h"
 #include "reports/export.h"
+#include "reports/print.h"
 
 namespace reports {
 
@@ -14,11 +15,12 @@ class PrintOptions : public kit::Screen {
   kit::Action print{*this, "print", "打印", "printer"}, back{*this, "back", "返回", "undo-2"};
 
  protected:
-  PrintOptions(kit::Desk& desk, std::string name, std::string title, store::Sql where, std::vector<std::string> options,
+  struct Option {
+    std::string caption;
+    Print prints;
+  };
+  PrintOptions(kit::Desk& desk, std::string name, std::string title, store::Sql where, std::vector<Option> options,
                std::string prompt = "");
-  virtual void printChosen() = 0;
-
-  const store::Sql where;  // of the list that is printed
 
  private:
   const std::string prompt_;
@@ -27,17 +29,11 @@ class PrintOptions : public kit::Screen {
 class Formzctxsdy : public PrintOptions {  // 学籍资料打印选项
  public:
   explicit Formzctxsdy(kit::Desk& desk, store::Sql student_where = {});
-
- private:
-  void printChosen() override;
 };
 
 class Formzctjfjldy : public PrintOptions {  // 交费记录打印选项
  public:
   explicit Formzctjfjldy(kit::Desk& desk, store::Sql payment_where = {});
-
- private:
-  void printChosen() override;
 };
 
 class Formzctqfjldy : public PrintOptions {  // 学生欠费信息打印选项
@@ -45,10 +41,7 @@ class Formzctqfjldy : public PrintOptions {  // 学生欠费信息打印选项
   explicit Formzctqfjldy(kit::Desk& desk, store::Sql arrears_where = {}, List arrears_list_mode = List::Arrears);
 
  private:
-  void printChosen() override;
-  void printArrears();
-  long long copyArrears();
-  const List arrears_list_mode_;
+  static std::vector<Option> optionsOf(List arrears_list_mode);
 };
 
 }  // namespace reports

@@ -61,10 +61,7 @@ void Formzct::load() {
 
 void Formzct::wireMenu() {
   const auto opens = [this](kit::Action& entry, auto open) { entry.onPress(open); };
-  opens(cd11, [this] {
-    desk.session.EditMode = reports::openStatement;
-    open<reports::Formkh1>();
-  });
+  opens(cd11, [this] { open<reports::Formkh1>(); });
   opens(cd13, [this] { leaveProgram(); });
   opens(cd14, [this] { open<students::Formtb>(); });
   opens(cd21, [this] {

@@ -185,16 +185,15 @@ void Formzct::addArrears() {
 
 void Formzct::editArrears(kit::Mode mode) {
   if (arrears_overview.list.selected() < 0) return;
-  desk.session.arrears_selection = arrears_overview.list.key();
-  desk.session.EditMode = mode;
-  if (mode == kit::Mode::Modify) open<arrears::Formqf>();
-  else open<arrears::Formqfcl5>();
+  const kit::Editing selected{mode, arrears_overview.list.mark()};
+  if (mode == kit::Mode::Modify) open<arrears::Formqf>(selected);
+  else open<arrears::Formqfcl5>(selected);
   fillAgain(arrears_overview);
 }
 
 void Formzct::waiveInOverview(bool all) {
   const auto waive = all ? arrears::waiveAll : arrears::waiveOne;
-  if (waive(desk, arrears_overview.list.key(), arrears::WaivedFrom::Overview)) fillAgain(arrears_overview);
+  if (waive(desk, arrears_overview.list.mark(), arrears::WaivedFrom::Overview)) fillAgain(arrears_overview);
 }
 
 }  // namespace shell

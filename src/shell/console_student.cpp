@@ -157,7 +157,7 @@ void Formzct::showDueArrears() {
 
 void Formzct::waiveOnCard(bool all) {
   const auto waive = all ? arrears::waiveAll : arrears::waiveOne;
-  if (waive(desk, arrears.list.key(), arrears::WaivedFrom::Card)) showArrears();
+  if (waive(desk, arrears.list.mark(), arrears::WaivedFrom::Card)) showArrears();
 }
 
 void Formzct::refreshCard() {

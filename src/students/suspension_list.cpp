@@ -14,19 +14,6 @@ using store::Sql;
 
 namespace {
 
-void print(kit::Desk& desk, const kit::Filter& filter) {
-  const auto fill = [&] {
-    return reports::refill(desk, "dy_xxfk", Sql("select * from xxfk ") + filter.where, reports::columnsOf("dy_xxfk"));
-  };
-  reports::printList(
-      desk, fill, "bbdy_xxfk",
-      {"要打印休学复课记录吗？请确认打印机连接正常、打印纸准备就绪！ ", "不存在能够打印的休学复课记录！   "});
-}
-
-void toSheet(kit::Desk& desk, const kit::Filter& filter) {
-  reports::exportList(desk, reports::List::Suspensions, filter.where);
-}
-
 // Any operator of the desk may enter a suspension.
 const kit::RecordDeskPlan plan{
     .table = "xxfk",
@@ -41,8 +28,8 @@ const kit::RecordDeskPlan plan{
                 {"resume", "复课", "pencil", Mode::Modify, "不存在需要复课的休学记录！  ", {kit::Resume}},
                 {"remove", "删除", "trash-2", Mode::Delete, "不存在需要删除的记录！  ", {kit::SuspensionDelete}}},
     .queryBy = {kit::SuspensionQuery},
-    .others = {{"print", "打印", "printer", {kit::SuspensionQuery}, print},
-               {"toSheet", "导出", "file-spreadsheet", {kit::SuspensionQuery}, toSheet}},
+    .others = {{"print", "打印", "printer", {kit::SuspensionQuery}, reports::printing(reports::Print::Suspensions)},
+               {"toSheet", "导出", "file-spreadsheet", {kit::SuspensionQuery}, reports::exporting(reports::List::Suspensions)}},
     .emptying = {{"您确认是要清空系统中所有的休学复课记录吗？   ",
                   "休学复课记录清空后不可恢复！您确认继续吗？    ",
                   {"xxfk"},

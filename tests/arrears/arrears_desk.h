@@ -9,6 +9,18 @@ using base::Date;
 using base::Money;
 using kit::Box;
 
+// Says yes to everything, after something has happened at another desk; keeps what was told.
+struct Meanwhile : kit::Person {
+  std::function<void()> happens;
+  std::string told;
+  void tell(Box, const std::string& text, const std::string&) override { told += text; }
+  bool ask(Box, const std::string&, const std::string&) override {
+    happens();
+    return true;
+  }
+  std::optional<std::string> chooseFile(const std::string&, const std::string&) override { return {}; }
+};
+
 struct ArrearsDesk : support::TestDesk {
   ArrearsDesk() {
     session.SessionUser = "李芳";
@@ -35,6 +47,15 @@ struct ArrearsDesk : support::TestDesk {
                  {"bjje", bjje},
                  {"sbjje", sbjje},
                  {"clfs", clfs}});
+  }
+  std::int64_t mark(const std::string& lsh) {
+    return store::RecordSet(store, store::Sql("select * from qfjl where lsh='") + lsh + "'").mark();
+  }
+  void set(const std::string& lsh, std::string_view column, store::Value value) {
+    store::RecordSet(store, store::Sql("select * from qfjl where lsh='") + lsh + "'").setAll(column, value);
+  }
+  kit::Desk with(kit::Person& other) {
+    return {session, store, other, navigator, clock, printer, sheets, desktop, progress};
   }
   std::string states() { return dump("qfjl", "lsh|sbjrq|sbjje|clfs", "lsh"); }
 };

@@ -12,58 +12,100 @@ using support::opened;
 
 struct EditDesk : ArrearsDesk {
   EditDesk() {
-    session.EditMode = kit::Mode::Modify;
-    session.arrears_selection = "1";
     owe("1", "20260001", Money::yuan(100), Money::yuan(40), "不足");
     owe("2", "20260001", Money::yuan(50), Money::yuan(50), "结清");
     owe("3", "20260002", Money::yuan(30), Money::yuan(30), "结清");
+    for (const char* lsh : {"2", "3"}) set(lsh, "sbjrq", Date{2026, 9, 2});
   }
+  kit::Editing editing(const std::string& lsh) { return {kit::Mode::Modify, mark(lsh)}; }
   void question() { person.answer(true, Box::Ask, "您确认是要修改欠费记录吗？     ", "操作提示"); }
+  void saves(Formqf& s) {
+    question();
+    person.expect(Box::Information, "记录修改成功！     ", "信息提示");
+    s.confirm.press();
+    EXPECT_TRUE(s.closed());
+  }
+  void refused(Formqf& s, const std::string& words) {
+    question();
+    person.expect(Box::Stop, words, "错误提示");
+    s.confirm.press();
+  }
+  std::string row(const std::string& lsh) {
+    const std::string all = dump("qfjl", "lsh|xh|qfrq|bjje|sbjrq|sbjje|clfs");
+    const auto at = ("\n" + all).find("\n" + lsh + "|");
+    return all.substr(at, all.find('\n', at) - at);
+  }
 };
 
 TEST(ArrearsEdit, ShowsAndWritesTheRow) {
   EditDesk desk;
-  auto s = opened<Formqf>(desk);
-  EXPECT_EQ(
-      s->xh.text() + s->xm.text() + s->bjmc.text() + s->qfrq.text() + s->bjje.text() + s->sbjrq.text() + s->clfs.text(),
-      "20260001王小明计算机1班2026-9-1100.00不足");
+  desk.set("1", "bjje", "33.3333");
+  auto s = opened<Formqf>(desk, desk.editing("1"));
+  EXPECT_EQ(base::join({s->xh.text(), s->xm.text(), s->bjmc.text(), s->qfrq.text(), s->bjje.text(), s->sbjrq.text(),
+                        s->clfs.text()},
+                       "|"),
+            "20260001|王小明|计算机1班|2026-9-1|33.33||不足");
   s->clfs.drop();
   EXPECT_EQ(base::join(s->clfs.choices(), " "), "不足 结清");
-  s->lsh.type("2");  // nothing guards against a number that exists
-  s->bjje.type("");
+  s->lsh.type("9");
   s->sbjrq.type("2026/9/05");
   s->clfs.type("结清");
   desk.person.answer(false, Box::Ask, "您确认是要修改欠费记录吗？     ", "操作提示");
   s->confirm.press();
   EXPECT_FALSE(s->closed());
-  desk.question();
-  desk.person.expect(Box::Information, "记录修改成功！     ", "信息提示");
-  s->confirm.press();
-  const std::string ledger = desk.dump("qfjl", "lsh|xh|qfrq|bjje|sbjrq|sbjje|clfs");
-  EXPECT_EQ(ledger.substr(0, ledger.find('\n')), "2|20260001|2026-9-1||2026-9-5|40|结清");
+  desk.saves(*s);
+  EXPECT_EQ(desk.row("9"), "9|20260001|2026-9-1|33.3333|2026-9-5|40|结清");  // what was not touched keeps its places
 
-  desk.session.arrears_selection = "3";  // back to nothing paid; the amount stays
-  auto back = opened<Formqf>(desk);
+  auto back = opened<Formqf>(desk, desk.editing("3"));  // back to nothing paid: an emptied amount is no amount
   back->clfs.type("");
-  desk.question();
-  desk.person.expect(Box::Information, "记录修改成功！     ", "信息提示");
-  back->confirm.press();
-  EXPECT_EQ(desk.value("select * from qfjl where lsh='3'", "sbjje"), "30");
-  EXPECT_EQ(desk.count("select * from qfjl where lsh='3' and clfs='' and sbjrq=''"), 1);
+  back->sbjrq.type("");
+  back->sbjje.type(" ");
+  desk.saves(*back);
+  EXPECT_EQ(desk.row("3"), "3|20260002|2026-9-1|30||0|");
+  EXPECT_EQ(desk.count("select * from qfjl where bjje>sbjje and clfs<>'减免' and lsh='3'"), 1);
 }
 
 TEST(ArrearsEdit, OpensOnlyForARowToChange) {
   EditDesk desk;
-  desk.session.arrears_selection = "9";
-  EXPECT_TRUE(opened<Formqf>(desk)->closed());
-  desk.session.arrears_selection = "1";
-  desk.session.EditMode = kit::Mode::Delete;
-  EXPECT_TRUE(opened<Formqf>(desk)->closed());
+  EXPECT_TRUE(opened<Formqf>(desk, kit::Editing{kit::Mode::Modify, 999})->closed());
+  EXPECT_TRUE(opened<Formqf>(desk, kit::Editing{kit::Mode::Delete, desk.mark("1")})->closed());
+}
+
+TEST(ArrearsEdit, KeepsNumbersApart) {
+  EditDesk desk;
+  auto s = opened<Formqf>(desk, desk.editing("2"));
+  const std::pair<const char*, const char*> wrong[] = {
+      {" ", "记录标识号不能为空！    "},
+      {"2'", "记录标识号中不能含有单引号（'）！    "},
+      {"1", "记录标识号“1”已被另一条欠费记录使用，请改用其他标识号！"}};
+  for (const auto& [typed, words] : wrong) {
+    s->lsh.type(typed);
+    desk.refused(*s, words);
+  }
+  EXPECT_EQ(desk.row("2"), "2|20260001|2026-9-1|50|2026-9-2|50|结清");
+}
+
+// Of two rows with one number the selected one is changed; what another desk has changed meanwhile is not written over.
+TEST(ArrearsEdit, ChangesTheSelectedRowAloneAndNothingThatWasChangedMeanwhile) {
+  EditDesk desk;
+  auto s = opened<Formqf>(desk, desk.editing("2"));
+  desk.set("1", "lsh", "2");
+  s->xq.type("2027学年上学期");
+  desk.saves(*s);
+  EXPECT_EQ(desk.dump("qfjl", "xq|sbjje", "lsh"), "2026学年下学期|40\n2027学年上学期|50\n2026学年下学期|30\n");
+
+  auto amount = opened<Formqf>(desk, desk.editing("3")), term = opened<Formqf>(desk, desk.editing("3"));
+  desk.set("3", "sbjje", Money::yuan(10));  // paid, waived or corrected at another desk
+  amount->bjje.type("31");
+  desk.refused(*amount, "该欠费记录的交费情况已被其他计算机修改，请撤销后重新打开该记录再修改！");
+  term->xq.type("2027学年上学期");
+  desk.saves(*term);
+  EXPECT_EQ(desk.row("3"), "3|20260002|2026-9-1|30|2026-9-2|10|结清");
 }
 
 TEST(ArrearsEdit, StopsAtTheFirstFailure) {
   EditDesk desk;
-  auto s = opened<Formqf>(desk);
+  auto s = opened<Formqf>(desk, desk.editing("1"));
   s->qfrq.type(""), s->bjrq.type(" "), s->sbjrq.type("x"), s->bjje.type("x"), s->sbjje.type("y"), s->clfs.type("欠");
   const std::string blank = "欠费日期不能为空 ！     ", bad = "欠费日期数据有误，应该是：yyyy-mm-dd 格式 ！     ";
   struct {
@@ -102,7 +144,7 @@ TEST(ArrearsDelete, TakesWhatTheOptionSays) {
   };
   for (const auto& one : cases) {
     EditDesk desk;
-    auto s = opened<Formqfcl5>(desk);
+    auto s = opened<Formqfcl5>(desk, kit::Editing{kit::Mode::Delete, desk.mark("1")});
     if (one.option > 0) s->option.choose(one.option);
     desk.person.answer(false, Box::AskStop, one.question, "警告").answer(true, Box::AskStop, one.question, "警告");
     s->confirm.press();
@@ -114,12 +156,36 @@ TEST(ArrearsDelete, TakesWhatTheOptionSays) {
   }
 }
 
+TEST(ArrearsDelete, TakesTheSelectedRowOfTwoWithOneNumber) {
+  EditDesk desk;
+  desk.set("3", "lsh", "1");  // of another student
+  store::RecordSet rows(desk.store, "select * from qfjl where xh='20260002'");
+  auto s = opened<Formqfcl5>(desk, kit::Editing{kit::Mode::Delete, rows.mark()});
+  desk.person.answer(true, Box::AskStop, "您确认要删除标识号为：1 的这条欠费记录吗？     ", "警告")
+      .expect(Box::Information, "选定记录已删除！      ", "信息提示");
+  s->confirm.press();
+  EXPECT_EQ(desk.dump("qfjl", "lsh|xh", "lsh"), "1|20260001\n2|20260001\n");
+}
+
+TEST(ArrearsDelete, WhatChangedDuringTheQuestionStays) {
+  for (int option = 0; option < 3; ++option) {
+    EditDesk desk;
+    Meanwhile person;
+    kit::Desk at = desk.with(person);
+    Formqfcl5 s(at, {kit::Mode::Delete, desk.mark("2")});
+    person.happens = [&] { desk.set("2", "clfs", "减免"); };
+    if (option > 0) s.option.choose(option);
+    s.confirm.press();
+    EXPECT_EQ(person.told, changedMeanwhile);
+    EXPECT_TRUE(s.closed());
+    EXPECT_EQ(desk.count("select * from qfjl"), 3);
+  }
+}
+
 TEST(ArrearsDelete, NothingToDelete) {
   ArrearsDesk desk;
-  desk.session.arrears_selection = "9";
-  auto s = opened<Formqfcl5>(desk);
-  s->confirm.press();
-  s->option.choose(1);
+  auto s = opened<Formqfcl5>(desk, kit::Editing{kit::Mode::Delete, 999});
+  desk.person.expect(Box::Stop, "选定的记录已被其他计算机删除，请刷新列表后重新选择！", "错误提示");
   s->confirm.press();
   desk.person.expect(Box::Information, "不存在已结清记录！      ", "信息提示");
   s->option.choose(2);

@@ -26,6 +26,7 @@ TEST(ArrearsLedger, NumbersGoOnWithTheDayAndLeaveOnePerItemWithoutRows) {
        "20260907013 1|20260907015 2|"},
       {"20260906044", {{"学费", {std::nullopt, due(11, 1)}}}, "20260907002 1|"},
       {"20260908001", {{"学费", {due(10, 1)}}}, "20260907001 1|"},  // a clock that was set back
+      {"2026907012", {{"学费", {due(10, 1), due(11, 2)}}}, "20260907001 1|20260907002 2|"},  // an import's last row
   };
   for (const auto& one : cases) {
     support::TestDesk desk;
@@ -33,12 +34,14 @@ TEST(ArrearsLedger, NumbersGoOnWithTheDayAndLeaveOnePerItemWithoutRows) {
     ArrearsEntry entry;
     entry.xh = "20260001";
     entry.debts = one.debts;
-    addArrears(desk.store, entry, today);
+    addArrears(desk.store, entry, desk.clock);
     std::string numbers;
     store::RecordSet added(desk.store, "select * from qfjl where xh='20260001'");
     store::forEach(
         added, [&](store::RecordSet& row) { numbers += row.get("lsh").text() + " " + row.get("bjje").text() + "|"; });
     EXPECT_EQ(numbers, one.numbers);
+    for (int again = 0; again < 2; ++again) addArrears(desk.store, entry, desk.clock);
+    EXPECT_EQ(desk.count("select lsh from qfjl group by lsh"), desk.count("select * from qfjl")) << one.last;
   }
 }
 
@@ -82,15 +85,16 @@ constexpr const char* all = "您确认是要减免该生全部欠费吗？     "
 
 TEST(Waiver, TheCardTestsNothing) {
   WaiverDesk desk;
-  EXPECT_FALSE(waiveOne(desk.desk, "", WaivedFrom::Card));
-  EXPECT_FALSE(waiveOne(desk.desk, "9", WaivedFrom::Card));
+  EXPECT_FALSE(waiveOne(desk.desk, 0, WaivedFrom::Card));
+  desk.person.expect(Box::Information, changedMeanwhile, "信息提示");
+  EXPECT_TRUE(waiveOne(desk.desk, 999, WaivedFrom::Card));  // gone: the list is to be read again
   desk.waives(false, one);
-  EXPECT_FALSE(waiveOne(desk.desk, "1", WaivedFrom::Card));
+  EXPECT_FALSE(waiveOne(desk.desk, desk.mark("1"), WaivedFrom::Card));
   desk.waives(true, one);
-  EXPECT_TRUE(waiveOne(desk.desk, "2", WaivedFrom::Card));
+  EXPECT_TRUE(waiveOne(desk.desk, desk.mark("2"), WaivedFrom::Card));
   EXPECT_EQ(desk.states(), "1||40|不足\n2|2026-9-7|50|减免\n3||30|减免\n4||25|\n5||0|\n6||0.5|不足\n");
   desk.waives(true, all);
-  EXPECT_TRUE(waiveAll(desk.desk, "1", WaivedFrom::Card));
+  EXPECT_TRUE(waiveAll(desk.desk, desk.mark("1"), WaivedFrom::Card));
   EXPECT_EQ(desk.states(),
             "1|2026-9-7|100|减免\n2|2026-9-7|50|减免\n3|2026-9-7|30|减免\n4|2026-9-7|20|减免\n"
             "5||0|\n6||0.5|不足\n");
@@ -102,18 +106,35 @@ TEST(Waiver, TheOverviewRefusesWhatIsDecided) {
   desk.person.expect(Box::Information, "这已经是减免的记录！     ", "信息提示")
       .expect(Box::Information, "这是一条已结清的记录！     ", "信息提示")
       .expect(Box::Information, "您操作的记录中存在减免或结清记录，请单笔进行操作！     ", "操作提示");
-  EXPECT_FALSE(waiveOne(desk.desk, "3", WaivedFrom::Overview));
-  EXPECT_FALSE(waiveOne(desk.desk, "2", WaivedFrom::Overview));
-  EXPECT_FALSE(waiveOne(desk.desk, "4", WaivedFrom::Overview));  // nothing is owed: without a word
-  EXPECT_FALSE(waiveAll(desk.desk, "1", WaivedFrom::Overview));
+  EXPECT_FALSE(waiveOne(desk.desk, desk.mark("3"), WaivedFrom::Overview));
+  EXPECT_FALSE(waiveOne(desk.desk, desk.mark("2"), WaivedFrom::Overview));
+  EXPECT_FALSE(waiveOne(desk.desk, desk.mark("4"), WaivedFrom::Overview));  // nothing is owed: without a word
+  EXPECT_FALSE(waiveAll(desk.desk, desk.mark("1"), WaivedFrom::Overview));
   EXPECT_EQ(desk.states(), before);
   desk.waives(true, one);
-  EXPECT_TRUE(waiveOne(desk.desk, "1", WaivedFrom::Overview));
+  EXPECT_TRUE(waiveOne(desk.desk, desk.mark("1"), WaivedFrom::Overview));
   desk.waives(true, all);
-  EXPECT_TRUE(waiveAll(desk.desk, "6", WaivedFrom::Overview));
+  EXPECT_TRUE(waiveAll(desk.desk, desk.mark("6"), WaivedFrom::Overview));
   EXPECT_EQ(desk.states(),
             "1|2026-9-7|100|减免\n2||50|结清\n3||30|减免\n4||25|\n5|2026-9-7|70|减免\n"
             "6|2026-9-7|10.5|减免\n");
+}
+
+// Of two rows with one number the selected one alone; nothing when it is not the row any more that was asked about.
+TEST(Waiver, TakesTheSelectedRowAsItWasAskedAbout) {
+  WaiverDesk desk;
+  const std::int64_t selected = desk.mark("1");
+  desk.set("5", "lsh", "1");
+  desk.waives(true, one);
+  EXPECT_TRUE(waiveOne(desk.desk, selected, WaivedFrom::Overview));
+  EXPECT_EQ(desk.dump("qfjl", "clfs", "lsh"), "减免\n\n结清\n减免\n\n不足\n");
+
+  Meanwhile person;
+  kit::Desk at = desk.with(person);
+  person.happens = [&] { desk.set("6", "sbjje", Money::yuan(5)); };
+  for (const auto waive : {waiveOne, waiveAll}) EXPECT_TRUE(waive(at, desk.mark("6"), WaivedFrom::Card));
+  EXPECT_EQ(person.told, std::string(changedMeanwhile) + "减免操作成功！     ");  // the second time nothing is new
+  EXPECT_EQ(desk.count("select * from qfjl where xh='20260002' and clfs='减免'"), 2);
 }
 
 }  // namespace

@@ -102,6 +102,8 @@ struct School : TestDesk {
                  {"xm", "学生" + std::to_string(i)},
                  {"bjmc", any({"一班", "二班"})},
                  {"sjhm", "138"}});
+    add("xs", {{"xh", ""}, {"xm", "没有学号"}, {"bjmc", "一班"}});
+    add("jfjl", {{"xq", "上"}, {"sfxm", "学费"}, {"jfrq", "2026-9-1"}, {"je", "7"}});  // and no number either
     for (int i = 0; i < 90; ++i)
       add("jfjl", {{"xh", (random() % 2 ? "a" : "A") + std::to_string(random() % 40)},
                    {"xq", any({"上", "下"})},
@@ -140,6 +142,8 @@ TEST(Comparison, AgreesWithAStatementForEveryStudent) {
         if (sum > Money::yuan(100)) more += line;
       });
       const base::DateTime now{{2026, 9, 7}, 8, 0, 0};
+      EXPECT_FALSE(listUnpaid(school.store, {"三班", "", "", {}, {}}, now, {}));  // nobody to ask about: emptied
+      EXPECT_EQ(school.count("select * from qfjl_wjf"), 0);
       listUnpaid(school.store, question, now, {});
       EXPECT_EQ(school.dump("qfjl_wjf", "xh"), unpaid);
       listByPaid(school.store, question, Money::yuan(100), PaidAs::Less, now, {});
@@ -147,6 +151,23 @@ TEST(Comparison, AgreesWithAStatementForEveryStudent) {
       listByPaid(school.store, question, Money::yuan(100), PaidAs::More, now, {});
       EXPECT_EQ(school.dump("qfjl_je", "xh|sjje|ce"), more);
     }
+}
+
+// Enter in the last field of a tab does what the tab is for, not what another one is.
+TEST(ArrearsQuery, EnterEndsTheTabThatItIsIn) {
+  School school(1);
+  auto s = opened<Formqfcl11>(school);
+  school.person.expect(Box::Information, "相关记录不存在，请检查条件设置是否正确！    ", "信息提示");
+  s->sbjrq.day.enter();
+  s->unpaid.bjmc.type("没有这个班");
+  school.person.expect(Box::Information, "不存在需要查询的学生信息！    ", "信息提示");
+  s->unpaid.to.enter();
+  school.person.expect(Box::Stop, "应交金额不能为空！ ", "错误提示");
+  s->due.enter();
+  s->due.type("5000");
+  school.person.expect(Box::Information, "信息搜索完毕！ ", "信息提示");
+  s->due.enter();
+  EXPECT_EQ(s->answer->arrears_list_mode, reports::List::Comparison);
 }
 
 TEST(Comparison, TellsThePeriodAndItsResult) {
@@ -182,7 +203,7 @@ TEST(Comparison, TellsThePeriodAndItsResult) {
   again->compare.press();
   ASSERT_TRUE(again->answer);
   EXPECT_EQ(again->answer->arrears_list_mode, reports::List::Comparison);
-  EXPECT_EQ(school.count("select * from qfjl_je where yjje=5000 and xqrq='上'"), 40);
+  EXPECT_EQ(school.count("select * from qfjl_je where yjje=5000 and xqrq='上'"), 41);
 }
 
 }  // namespace

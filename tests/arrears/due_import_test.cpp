@@ -2,7 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include "arrears/arrears_ledger.h"
 #include "arrears/due_school.h"
+#include "kit/rows.h"
 #include "store/error.h"
 
 namespace {
@@ -133,6 +135,63 @@ TEST(DueImport, firstNumberOfTheDay) {
     EXPECT_EQ(import(test, dueOf(Range::School)), 1);
     EXPECT_EQ(test.value("select * from qfjl where xh='1001'", "lsh"), one.expected);
   }
+}
+
+// Class after class, entries between them, on a day of a month with one digit: no number is given twice.
+TEST(DueImport, numbersPassOverThoseThatStand) {
+  for (const int month : {9, 11, 1}) {
+    OneClass test;
+    test.clock.moment.date = {2026, month, 7};
+    for (const char* item : {"学费", "书本费", "住宿费"}) {
+      if (item != std::string("学费")) test.standard(item, 300);
+      arrears::ArrearsEntry entry;
+      entry.debts = {{"补考费", {arrears::Instalment{{2026, 12, 1}, Money::yuan(5)}}}};
+      arrears::addArrears(test.store, entry, test.clock);
+      EXPECT_EQ(import(test, onlyItem(dueOf(Range::School), item)), 1);
+      arrears::addArrears(test.store, entry, test.clock);
+    }
+    EXPECT_EQ(test.count("select lsh from qfjl group by lsh"), 9) << month;
+  }
+}
+
+// The other desk imports while the first one lets go of the store between two of its units.
+TEST(DueImport, twoDesksBillNobodyTwice) {
+  support::FakeDesktop computer;
+  store::Store first(computer.programFolder()), second(computer.programFolder());
+  for (store::Store* one : {&first, &second})
+    one->connect(store::Connection::Main, store::connectionText(computer.programFolder(),
+                                                                "\\mv_Database\\morvanegxgl.mdb", store::mainPassword));
+  OneClass test;
+  kit::Desk here{test.session, first,       test.person,  test.navigator, test.clock,
+                 test.printer, test.sheets, test.desktop, test.progress};
+  kit::Desk there{test.session, second,      test.person,  test.navigator, test.clock,
+                  test.printer, test.sheets, test.desktop, test.progress};
+  {
+    store::Unit unit(first);
+    store::RecordSet students(first, "select * from xs"), standards(first, "select * from sfbzb");
+    for (int i = 0; i < 52; ++i)
+      kit::addRow(students,
+                  {{"xh", std::to_string(1001 + i)}, {"bjmc", "会计1班"}, {"xtbh", std::to_string(1001 + i)}});
+    for (int i = 0; i < 100; ++i)
+      kit::addRow(standards, {{"bjmc", "会计1班"}, {"xq", term}, {"sfxmmc", "项目" + std::to_string(i)}, {"je", 1}});
+    unit.finish();
+  }
+  const Due all = dueOf(Range::School);
+  const auto quietly = [](const std::string&, long long, long long) {};
+  std::optional<int> other;
+  const auto added = arrears::importDue(here, all, [&](const std::string&, long long done, long long) {
+    if (done == 0 || other || store::Unit::openIn(first)) return;
+    first.settle();
+    other = arrears::importDue(there, all, quietly);
+    store::RecordSet payment(second, "select * from jfjl");  // and somebody pays something
+    kit::addRow(payment, {{"xh", "1052"}, {"sfxm", "项目0"}, {"xq", term}, {"je", 1}});
+  });
+  EXPECT_EQ(added.value() + other.value(), 5200);
+  EXPECT_EQ(other, 200);
+  store::RecordSet ledger(first, "select xh,sfxm from qfjl group by xh,sfxm"),
+      numbers(first, "select lsh from qfjl group by lsh");
+  EXPECT_EQ(ledger.count(), 5200);
+  EXPECT_EQ(numbers.count(), 5200);
 }
 
 TEST(DueImport, stopsAtTheCountsLimitAndKeepsItsRows) {

@@ -5,11 +5,12 @@
 #include <string>
 #include <vector>
 
+#include "arrears/due_import.h"
 #include "support/test_desk.h"
 
 namespace arrears_tests {
 
-using Due = kit::Session::DueImport;
+using Due = arrears::DueImport;
 
 void fillSchool(support::TestDesk& test, unsigned seed);
 int importPlainly(support::TestDesk& test, const Due& chosen);  // rows added; -1 when there are no students

@@ -12,7 +12,6 @@ using arrears_tests::ArrearsDesk;
 using base::Money;
 using kit::Box;
 using support::opened;
-using Range = kit::Session::DueImport::Range;
 
 constexpr const char* question = "导入可能需要一定的时间，导入中请不要进行其它操作！您确认继续吗？      ";
 
@@ -154,8 +153,9 @@ TEST(DueSettings, staysWhenTheImportCouldNotEnd) {
 
 TEST(DueProgress, refusesABlankItem) {
   DueDesk test;
-  test.session.due_import.item = "";
-  auto s = opened<Formqfcl3>(test);
+  arrears::DueImport blank;
+  blank.item = "";
+  auto s = opened<Formqfcl3>(test, blank);
   test.person.expect(Box::Stop, "请设置要导入的收费项目！ ", "错误提示");
   run(*s);
 }

@@ -26,12 +26,16 @@ struct PrintDesk : support::TestDesk {
 
 TEST(PrintOptions, ArrearsTakeTheTelephoneFromTheStudent) {
   PrintDesk desk;
+  desk.add("dy_qfjl", {{"xh", "old"}});
   auto s = opened<Formzctqfjldy>(desk);
-  desk.asked("要打印欠费应交学生名单吗？请确认打印机连接正常、打印纸准备就绪！ ");
+  desk.asked("要打印欠费应交学生名单吗？请确认打印机连接正常、打印纸准备就绪！ ", false);
   s->print.press();
   EXPECT_EQ(desk.dump("dy_qfjl", "xh|lxdh|sjhm|bsh"),
             "1001|0791-1|138|2026-9-7 8:30:05\n1002|||2026-9-7 8:30:05\n1009|||2026-9-7 "
             "8:30:05\n1001|0791-1|138|2026-9-7 8:30:05\n");
+  EXPECT_EQ(desk.lastTitle(), "");  // a No leaves the table filled
+  desk.asked("要打印欠费应交学生名单吗？请确认打印机连接正常、打印纸准备就绪！ ");
+  s->print.press();
   EXPECT_EQ(desk.lastTitle(), "应交费学生名单");
   s->what.choose(1);
   desk.asked("要打印欠费清交进度表吗？请确认打印机连接正常、打印纸准备就绪！ ");
@@ -68,6 +72,31 @@ TEST(PrintOptions, StudentsAndPaymentsFollowTheConsolesFilter) {
   EXPECT_EQ(desk.lastTitle(), "交费记录打印");
   desk.person.expect(Box::Information, "不存在需要打印的数据！  ", "信息提示");
   opened<Formzctjfjldy>(desk, " where xh='9'")->print.press();
+}
+
+TEST(Prints, EveryListFillsWhatItsReportShows) {
+  for (const PrintPlan& plan : allPrints()) {
+    if (!plan.from) continue;
+    PrintDesk desk;
+    store::RecordSet(desk.store, store::Sql::table(plan.from)).removeAll();
+    std::vector<std::pair<std::string_view, store::Value>> full;
+    for (const store::Column& column : store::findTable(plan.from)->columns)
+      if (column.type != store::Type::Bytes)
+        full.emplace_back(column.name, column.type == store::Type::Date ? store::Value(base::Date{2026, 9, 7}) : "1001");
+    desk.add("xs", {{"xh", "1001"}, {"lxdh", "1"}, {"sjhm", "2"}});
+    desk.add(plan.from, full);
+    if (plan.object)
+      desk.asked(std::string("要打印") + plan.object + "吗？请确认打印机连接正常、打印纸准备就绪！" +
+                 (plan.asksFirst ? "" : " "));
+    printList(desk.desk, plan.print, " where xh='1001'");
+    const Report& report = reportNamed(plan.report);
+    EXPECT_EQ(desk.lastTitle(), report.title);
+    store::RecordSet printed(desk.store, store::Sql::table(report.table));
+    printed.last();
+    for (const auto* line : {&report.columns, &report.secondLine})
+      for (const Column& column : *line)
+        EXPECT_FALSE(*column.column && printed.get(column.column).empty()) << report.name << " " << column.column;
+  }
 }
 
 }  // namespace

@@ -3,13 +3,11 @@
 #include <set>
 
 #include "reports/drawing.h"
-#include "reports/print.h"
 #include "support/test_desk.h"
 
 namespace reports {
 namespace {
 
-using kit::Box;
 using platform::Align;
 using support::TestDesk;
 
@@ -136,44 +134,6 @@ TEST(Reports, FurnitureDiffers) {
 
   const auto compared = drawn(desk, reportNamed("bbdy_qf4"));
   EXPECT_TRUE(shows(compared.pages[1], "应交总额：103.50") && shows(compared.pages[1], "应交与实交差额：103.50"));
-}
-
-struct Listing : TestDesk {
-  Listing() {
-    add("xs", {{"xh", "1002"}, {"xm", "张三"}});
-    add("xs", {{"xh", "1001"}, {"xm", "王小明"}});
-    add("dy_xs", {{"xh", "old"}});
-  }
-  void print(const store::Sql& where) {
-    printList(desk,
-              [&] {
-                return refill(desk, "dy_xs", store::Sql("select * from xs ") + where, {"xh", "xm"});
-              },
-              "bbdy_xs1", {"要打印吗？"});
-  }
-  Listing& asked(bool yes) {
-    person.answer(yes, Box::AskWarning, "要打印吗？\n点“是”继续；否则，点“否”撤销此操作！ ", "信息提示");
-    return *this;
-  }
-};
-
-TEST(PrintList, RefillsAsksAndShows) {
-  Listing listing;
-  listing.asked(false).print("order by xh");
-  EXPECT_EQ(listing.dump("dy_xs", "xh|xm"), "1001|王小明\n1002|张三\n");
-  EXPECT_TRUE(listing.printer.shown.empty());
-  listing.asked(true).print("where xh='1002'");
-  EXPECT_EQ(listing.dump("dy_xs", "xh|xm"), "1002|张三\n");
-  ASSERT_EQ(listing.printer.shown.size(), 1u);
-  EXPECT_TRUE(shows(listing.printer.shown[0].pages[0], "张三"));
-}
-
-TEST(PrintList, SaysThatThereIsNothing) {
-  Listing listing;
-  listing.person.expect(Box::Information, "不存在需要打印的数据！  ", "信息提示");
-  listing.print("where xh='9'");
-  EXPECT_EQ(listing.count("select * from dy_xs"), 0);
-  EXPECT_FALSE(listing.progress.shown);
 }
 
 }  // namespace

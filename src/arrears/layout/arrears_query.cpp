@@ -15,11 +15,14 @@ Layout Formqfcl11::layout() {
       {form({xq, bjmc, xh, xm, sfxm, clfs}, 2), row({qfrq.node(), bjrq.node()}), row({sbjrq.node(), stretch()})});
   Nodes comparison = question(compared);
   comparison.push_back(due);
-  return {.root = column({tabs({group("欠费记录", {queryNode(own), buttons({byScope, clearAll, confirm})}),
-                                group("未交费学生名单", {form(question(unpaid)), stretch(), buttons({searchUnpaid})}),
-                                group("应交实交金额对比", {form(std::move(comparison)), group("对比结果", {wanted}),
-                                                           stretch(), buttons({compare})})}),
-                          buttons({cancel})}),
+  return {.root = column(
+              {tabs({group("欠费记录", {queryNode(own), buttons({byScope, clearAll, confirm})}),
+                     ending(group("未交费学生名单", {form(question(unpaid)), stretch(), buttons({searchUnpaid})}),
+                            searchUnpaid),
+                     ending(group("应交实交金额对比", {form(std::move(comparison)), group("对比结果", {wanted}),
+                                                       stretch(), buttons({compare})}),
+                            compare)}),
+               buttons({cancel})}),
           .confirm = &confirm,
           .cancel = &cancel,
           .width = 860};
