@@ -6,6 +6,7 @@
 
 #include "kit/session.h"
 #include "platform/drawing.h"
+#include "store/record_set.h"
 
 namespace collection {
 

@@ -7,6 +7,7 @@
 
 #include "kit/action.h"
 #include "kit/desk.h"
+#include "kit/editing.h"
 #include "kit/field.h"
 #include "kit/layout.h"
 #include "kit/list.h"

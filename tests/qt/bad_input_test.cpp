@@ -66,7 +66,6 @@ TEST_P(EveryField, TakesIt) {
     support::TestDesk test;
     test.session.Rights.fill(true);
     test.session.SessionUser = "李强";
-    test.session.current_xh = "1001";
     platform::writeFile(test.desktop.programFolder() / "Screen.txt", "1366\n");
     test.add("xs", {{"xh", "1001"}, {"xm", "王小明"}, {"bjmc", "甲班"}, {"rxxs", "统招"}});
     test.add("bjzl", {{"bjmc", "甲班"}, {"zybh", "11"}, {"bjdh", "11001"}});
@@ -75,9 +74,8 @@ TEST_P(EveryField, TakesIt) {
     PassingNavigator navigator;
     kit::Desk desk{test.session, test.store,  person,       navigator,    test.clock,
                    test.printer, test.sheets, test.desktop, test.progress};
-    test.session.EditMode = kit::Mode::Modify;
 
-    const auto screen = entry.make(desk);
+    const auto screen = entry.make(desk, {.editing = {kit::Mode::Modify, 1}, .xh = "1001", .fpbh = "10000001"});
     screen->start();
     const auto usable = [&](const kit::Member* member) {
       return member->enabled() && member->visible() && !screen->closed();

@@ -21,9 +21,9 @@ class EveryScreen : public testing::TestWithParam<app::Entry> {};
 
 TEST_P(EveryScreen, isAWholeWindow) {
   support::WindowDesk desk;
-  std::unique_ptr<kit::Screen> screen = GetParam().make(desk.desk);
+  std::unique_ptr<kit::Screen> screen = GetParam().make(desk.desk, {});
   screen->start();
-  if (screen->closed()) screen = GetParam().make(desk.desk);  // without data there is nothing for it to show
+  if (screen->closed()) screen = GetParam().make(desk.desk, {});  // without data there is nothing for it to show
   EXPECT_EQ(screen->name, GetParam().name);
   qt::ScreenWindow window(*screen, app::views());
   window.present();

@@ -58,7 +58,7 @@ TEST(ConsoleFaults, AnOverviewThatDoesNotOpenIsToldAndOpensTheNextTime) {
   s->timer1.tick();
   school.failures.off();
   EXPECT_FALSE(school.progress.shown);
-  EXPECT_EQ(school.session.ConsolePanel, kit::Panel::None);
+  EXPECT_EQ(s->ConsolePanel, kit::Panel::None);
   s->k9.press();  // no panel is open: nothing is emptied
   s->k2.press();
   s->timer1.tick();

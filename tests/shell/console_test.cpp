@@ -88,7 +88,6 @@ TEST(Console, RightsSettleTheMenuOnce) {
 TEST(Console, TheMenuLeadsToStatementSuspensionsAndClearing) {
   Office office;
   auto s = opened<Formzct>(office);
-  office.session.EditMode = kit::Mode::Delete;
   office.navigator.expect<reports::Formkh1>([](reports::Formkh1& worker) { worker.timer.tick(); });
   office.navigator.expect<reports::Formkh>();  // the worker was told to open the statement, whatever was edited before
   s->cd11.press();
@@ -125,7 +124,7 @@ TEST(Console, ABatchBorrowsTheNumberOfTheStudentOnTheCard) {
   s->card.xh.enter();
   office.navigator.expect<collection::Formzctsf7>([](collection::Formzctsf7& batch) { batch.classes.doubleClick(0); });
   s->k20.press();
-  EXPECT_EQ(office.session.current_xh, "1001");
+  EXPECT_EQ(s->current_xh, "1001");
   EXPECT_EQ(s->card.xm.text(), "王小明");
   office.navigator.expect<students::Formtb>();
   s->cd14.press();
@@ -157,7 +156,7 @@ TEST(Console, SearchMessages) {
   byName("张三");
   office.navigator.expect<collection::Formzctsf4>();
   byName("王小明");
-  EXPECT_EQ(office.session.current_xh, "1001");
+  EXPECT_EQ(s->current_xh, "1001");
 }
 
 TEST(Console, ClassPanelLeadsToTheFeeWindowThroughTheTimer) {
@@ -170,10 +169,10 @@ TEST(Console, ClassPanelLeadsToTheFeeWindowThroughTheTimer) {
   EXPECT_EQ(s->classes.students.count(), 3);
   s->classes.students.doubleClick(0);
   EXPECT_FALSE(s->classes.frame.visible());
-  EXPECT_EQ(office.session.ConsolePanel, kit::Panel::FeeWindow);
+  EXPECT_EQ(s->ConsolePanel, kit::Panel::FeeWindow);
   office.navigator.expect<collection::Formzctsf4>();
   s->timer1.tick();
-  EXPECT_EQ(office.session.ConsolePanel, kit::Panel::None);
+  EXPECT_EQ(s->ConsolePanel, kit::Panel::None);
   s->classes.opensFeeWindow.set(false);
   EXPECT_FALSE(office.session.open_fee_window);
 }
@@ -195,7 +194,7 @@ TEST(Console, OverviewsFillOnlyWhenTheSettingSaysSo) {
     EXPECT_EQ(s->students_overview.list.count(), loads ? 3 : 0);
     s->students_overview.button("返回").press();
     EXPECT_FALSE(s->students_overview.frame.visible());
-    EXPECT_EQ(office.session.ConsolePanel, kit::Panel::None);
+    EXPECT_EQ(s->ConsolePanel, kit::Panel::None);
   }
 }
 
@@ -235,7 +234,7 @@ TEST(Console, ExportsTheListInFrontUnderItsFilter) {
                  {kit::Panel::Arrears, List::Unpaid, "未交费学生名单", "未交费学生名单导出", 1},
                  {kit::Panel::Arrears, List::Comparison, "应交与实交对比结果", "应交与实交对比结果导出", 1}};
   for (const auto& one : exports) {
-    office.session.ConsolePanel = one.panel;
+    s->ConsolePanel = one.panel;
     s->arrears_overview.holds = one.holds;
     const std::string title = one.title, file = (office.desktop.exportFolder() / (title + " 2026-09-07.xlsx")).string();
     office.person
@@ -385,7 +384,7 @@ TEST(Console, EditsArrearsFromTheOverview) {
   overview.button("添加").press();
   EXPECT_EQ(overview.list.count(), 1);
   EXPECT_EQ(overview.list.cell(0, 3), "书本费");
-  EXPECT_EQ(office.session.current_xh, "1002");  // the card's student
+  EXPECT_EQ(s->current_xh, "1002");  // the card's student
 
   overview.button("返回").press();
   EXPECT_EQ(office.count("select * from qfjl where bsh='收费一号机'"), 0);

@@ -31,8 +31,8 @@ class Try {
   bool play(World& world, const std::function<void()>& arm = {}) {
     world.store.off();
     world.computer.off();
-    world.begin(mode_);
-    screen_ = entry_.make(world.desk);
+    world.begin();
+    screen_ = entry_.make(world.desk, World::opening(mode_));
     if (deed_) {
       screen_->start();
       if (!screen_->closed()) prepare(*screen_);
@@ -147,8 +147,8 @@ TEST_P(EveryScreen, TellsEachFaultOnceAndGoesOn) {
   for (const kit::Mode mode : {kit::Mode::Add, kit::Mode::Modify, kit::Mode::Delete}) {
     SCOPED_TRACE("mode " + std::to_string(static_cast<int>(mode)));
     sweep({GetParam(), mode, nullptr});
-    world().begin(mode);
-    for (const Deed& deed : deedsOf(*GetParam().make(world().desk))) {
+    world().begin();
+    for (const Deed& deed : deedsOf(*GetParam().make(world().desk, World::opening(mode)))) {
       SCOPED_TRACE(deed.name);
       sweep({GetParam(), mode, &deed});
     }

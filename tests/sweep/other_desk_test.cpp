@@ -133,7 +133,7 @@ class OtherDesk {
   // What the deed touches while the other desk does this at that moment; nothing: it cannot be played here.
   std::optional<std::set<RowId>> play(const Interference* other, Moment moment) {
     World world;
-    world.begin(kit::Mode::Modify);
+    world.begin();
     AskedPerson person(world.parts.store);
     ConfirmingNavigator navigator;
     kit::Desk desk{world.parts.session, world.parts.store,  person,              navigator,         world.parts.clock,
@@ -187,7 +187,7 @@ class EveryList : public testing::TestWithParam<app::Entry> {};
 
 std::unique_ptr<kit::Screen> started(const app::Entry& entry, kit::Desk& desk,
                                      const std::function<void(kit::Screen&)>& further) {
-  auto screen = entry.make(desk);
+  auto screen = entry.make(desk, World::opening(kit::Mode::Modify));
   screen->start();
   if (further && !screen->closed()) further(*screen);
   return screen;
@@ -217,7 +217,7 @@ std::vector<std::function<void(kit::Screen&)>> waysInto(const std::string& name)
 TEST_P(EveryList, ChangesNothingThatWasNotSelected) {
   for (const auto& further : waysInto(GetParam().name)) {
     World world;
-    world.begin(kit::Mode::Modify);
+    world.begin();
     const auto sample = started(GetParam(), world.desk, further);
     for (std::size_t i = 0; i < sample->members().size(); ++i) {
       if (sample->members()[i]->kind != kit::MemberKind::List) continue;

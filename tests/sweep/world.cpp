@@ -88,7 +88,7 @@ World::World() {
   parts.add("czjl", {{"yhxm", "王芳"}, {"jsjmc", "收费一号机"}, {"kjsj", "2026-9-7 8:00:00"}, {"gjsj", ""}});
 }
 
-void World::begin(kit::Mode mode) {
+void World::begin() {
   navigator.kept.clear();
   navigator.opened = 0;
   person.told.clear();
@@ -101,13 +101,6 @@ void World::begin(kit::Mode mode) {
   session.SchoolName = "澜岳学校";
   session.Rights.fill(true);
   session.auto_load_lists = true;
-  session.EditMode = mode;
-  session.current_xh = session.summary_xh = "20260001";
-  session.arrears_selection = "2026901001";
-  session.current_xq = "2026下";
-  session.print_jfrq = "2026-09-01";
-  session.statement_year = 2026;
-  session.statement_month = 9;
   parts.session = session;
 }
 

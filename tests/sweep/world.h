@@ -35,7 +35,8 @@ struct PassingNavigator : kit::Navigator {
 struct World {
   World();
   // As it is before the person does something: what earlier screens left is gone, but for what they wrote.
-  void begin(kit::Mode mode);
+  void begin();
+  static app::Opening opening(kit::Mode mode) { return {{mode, 1}, "20260001", "10000001"}; }
 
   support::TestDesk parts;
   support::Failures store{parts.store};
