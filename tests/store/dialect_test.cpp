@@ -117,7 +117,10 @@ TEST_P(Dialect, ConditionsOverMoments) {
 }
 
 TEST_P(Dialect, ConditionsOverSettings) {
-  const std::vector<std::pair<Sql, bool>> cases{
+  const struct {
+    Sql sql;
+    bool expected;
+  } cases[]{
       {"fn='KQD'", true},      {"qfmr=true", true},   {"qfmr=1", true},         {"qfmr=-1", true},
       {"qfmr='True'", true},   {"qfmr", true},        {"not qfmr", false},      {"qfcejz=true", false},
       {"qfcejz=0", true},      {"qfmr<>false", true}, {"qfts='7'", true},       {"qfts='07'", true},
@@ -151,7 +154,10 @@ TEST_P(Dialect, OrdersAndGroups) {
 }
 
 TEST_P(Dialect, RefusesWithWords) {
-  const std::vector<std::pair<Sql, Fault>> cases{
+  const struct {
+    Sql sql;
+    Fault fault;
+  } cases[]{
       {"", Fault::Statement},
       {"delete from xs", Fault::Statement},
       {"select * from xs;delete from xs", Fault::Statement},
