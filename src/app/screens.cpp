@@ -65,7 +65,8 @@ template <class S> Entry screen(const char* name) {
             else if constexpr (std::is_constructible_v<S, kit::Desk&, std::string>)
               return std::make_unique<S>(desk, with.xh);
             else return std::make_unique<S>(desk);
-          }};
+          },
+          std::is_constructible_v<S, kit::Desk&, kit::Editing>};
 }
 
 }  // namespace

@@ -20,6 +20,7 @@ struct Opening {
 struct Entry {
   std::string name;  // the class's name
   std::function<std::unique_ptr<kit::Screen>(kit::Desk&, const Opening&)> make;
+  bool edits;  // in three modes
 };
 
 const std::vector<Entry>& screens();

@@ -98,7 +98,7 @@ class Timer : public Member {
   void stop();
   void onTick(Handler handler) { tick_.push_back(std::move(handler)); }
   void onceTicked(Handler handler);  // stops, then handles: for what is done once its screen has been painted
-  void tick();  // does nothing while stopped
+  void tick();                       // does nothing while stopped
 
  private:
   bool running_ = false;

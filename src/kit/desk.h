@@ -34,7 +34,8 @@ class Person {
 class Navigator {
  public:
   virtual ~Navigator() = default;
-  // Modal: returns when the screen has been closed. What the screen is opened with goes to its constructor, and what it
+  // Modal: returns when the screen has been closed; one that cannot be loaded does not come, for nobody must go on from
+  // what is half there. What the screen is opened with goes to its constructor, and what it
   // found out comes back: a screen with an `answer` hands that over, however it was left.
   template <class S, class... With> auto open(Desk& desk, With&&... with);
   // Puts a screen on the desk and returns; the navigator keeps it until it is closed. The program ends with the last

@@ -24,9 +24,9 @@ class Field : public Member {
   const std::string& text() const { return text_; }
   std::string trimmed() const;
   bool blank() const;
-  base::Money money() const;                // what a number at its beginning says; 0 without one
-  std::optional<base::Date> date() const;   // nothing when the text is no day
-  void set(std::string text);  // raises change as typing does
+  base::Money money() const;               // what a number at its beginning says; 0 without one
+  std::optional<base::Date> date() const;  // nothing when the text is no day
+  void set(std::string text);              // raises change as typing does
   void clear() { set(""); }
 
   const std::vector<std::string>& choices() const { return choices_; }

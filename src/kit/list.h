@@ -82,8 +82,8 @@ class List : public Member {
   void showWindow(long long row) const;
 
   Cells cells_;
-  // Of a long list only the first rows are kept as cells; the rows that are looked at are read, a window at a time, when
-  // they are looked at.
+  // Of a long list only the first rows are kept as cells; the rows that are looked at are read, a window at a time,
+  // when they are looked at.
   std::vector<std::int64_t> marks_;  // of each row; empty when no row has one
   long long count_ = 0;
   mutable std::optional<store::RecordSet> behind_;

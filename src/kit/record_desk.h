@@ -1,5 +1,5 @@
-// A list of records with what is done to its rows: counted, filtered, added, changed and deleted through an edit screen,
-// printed, exported, emptied. Told as data; a screen holds one, or one a tab.
+// A list of records with what is done to its rows: counted, filtered, added, changed and deleted through an edit
+// screen, printed, exported, emptied. Told as data; a screen holds one, or one a tab.
 #pragma once
 
 #include <deque>
@@ -33,9 +33,9 @@ struct Emptying {
 };
 
 struct RecordDeskPlan {
-  const char* table;           // whose rows they are
-  const char* name;            // of the list; its buttons are told apart by it where a screen has several desks
-  store::Sql order{};          // of the unfiltered list
+  const char* table;   // whose rows they are
+  const char* name;    // of the list; its buttons are told apart by it where a screen has several desks
+  store::Sql order{};  // of the unfiltered list
   std::vector<ListColumn> columns;
   std::vector<RowButton> buttons;
   std::vector<int> queryBy{};  // who may filter the list
@@ -66,15 +66,15 @@ class RecordDesk {
     });
   }
 
-  void open();                 // by the user's rights, unfiltered
-  void show(Filter filter);    // nothing is selected then
-  void reload();               // goes back to the row that was selected
+  void open();               // by the user's rights, unfiltered
+  void show(Filter filter);  // nothing is selected then
+  void reload();             // goes back to the row that was selected
   const Filter& filter() const { return filter_; }
   store::Sql statement() const;  // of the rows in sight
   void setVisible(bool on);      // the list with its buttons
   Action& button(std::string_view name);
-  Nodes actions();             // in the order of the plan
-  Node shown();                // the count above the list
+  Nodes actions();  // in the order of the plan
+  Node shown();     // the count above the list
 
   const RecordDeskPlan& plan;
   Grid list;

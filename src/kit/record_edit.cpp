@@ -88,8 +88,8 @@ void RecordEdit::act() {
 }
 
 bool RecordEdit::agreed(const std::vector<Question>& questions) {
-  return std::ranges::all_of(
-      questions, [this](const Question& one) { return desk.person.ask(one.box, one.text, one.title); });
+  return std::ranges::all_of(questions,
+                             [this](const Question& one) { return desk.person.ask(one.box, one.text, one.title); });
 }
 
 Rule RecordEdit::noQuote(Field& field) {

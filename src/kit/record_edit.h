@@ -27,7 +27,7 @@ class RecordEdit : public Screen {
     std::string text, title = "修改提示";
     Box box = Box::Ask;
   };
-  struct Words {  // an empty text is not told
+  struct Words {                               // an empty text is not told
     std::vector<Question> modify{}, remove{};  // asked one after the other
     std::string added{}, modified{}, removed{}, modifiedTitle = "信息提示";
   };
@@ -35,8 +35,8 @@ class RecordEdit : public Screen {
   virtual std::vector<Bound> bound() = 0;
   virtual std::vector<Rule> rules() { return {}; }  // walked before anything is done, whatever the screen is open for
   virtual Words words() { return {}; }
-  virtual void propose() {}                   // fills the fields of a row to be added
-  virtual void shown(store::RecordSet&) {}    // the row's fields are filled; notes what else it holds
+  virtual void propose() {}                 // fills the fields of a row to be added
+  virtual void shown(store::RecordSet&) {}  // the row's fields are filled; notes what else it holds
   // Looked at inside the unit before it writes: what fails is told when the unit is over, and nothing was saved.
   virtual std::vector<Rule> guards() { return {}; }
   // Inside the unit that writes, before the row itself: what goes with it in other tables, what no field holds.

@@ -57,6 +57,15 @@ void Screen::run(const Handler& event) {
   desk.progress.hide();
 }
 
+bool Screen::start() {
+  bool loaded = false;
+  run([&] {
+    load();
+    loaded = true;
+  });
+  return loaded;
+}
+
 // What the step's fault is told as; empty: there was none.
 std::string Screen::faultOf(const Handler& step) {
   try {

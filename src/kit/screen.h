@@ -44,9 +44,7 @@ class Screen {
   void run(const Handler& event);
   // One step of an event that goes on after it, whatever becomes of the step. False: a fault ended it, and was told.
   bool attempt(const Handler& step, bool tells = true);
-  void start() {
-    run([this] { load(); });
-  }
+  bool start();                             // loads it; false: a fault was told, and it stands as far as it came
   bool busy() const { return depth_ > 0; }  // inside an event
 
   // Enter in a field without a handler of its own: on to the next entry field, from the last one to the confirm action.

@@ -27,8 +27,8 @@ std::function<bool()> filledNotAmount(const Field& field);   // blank passes
 std::function<bool()> notDate(const Field& field);           // blank counts as no date
 std::function<bool()> filledNotDate(const Field& field);     // blank passes
 
-// A name with an apostrophe could be stored, and then be found, renamed and deleted by nobody: it is refused where it is
-// entered.
+// A name with an apostrophe could be stored, and then be found, renamed and deleted by nobody: it is refused where it
+// is entered.
 std::function<bool()> holdsQuote(const Field& field);
 constexpr const char* quoteRefused = "名称中不能含有单引号（'），请改用中文引号！     ";
 

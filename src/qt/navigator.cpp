@@ -19,8 +19,7 @@ std::vector<kit::Screen*> QtNavigator::standing() {
 }
 
 void QtNavigator::run(kit::Screen& screen) {
-  screen.start();
-  if (screen.closed()) return;
+  if (!screen.start() || screen.closed()) return;
   const QPointer<QWidget> below = QApplication::activeWindow();
   ScreenWindow window(screen, views_);
   window.setWindowModality(Qt::ApplicationModal);

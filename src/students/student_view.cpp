@@ -34,13 +34,8 @@ void Formzctxsll::load() {
 }
 
 bool Formzctxsll::mayClose() {
-  try {
-    saveNotes();
-  } catch (const store::StoreError& error) {
-    stop(error.what(), "错误提示");
-    // The window stays open once, so that the notes can be copied or tried again.
-    if (!std::exchange(refused_, true)) return false;
-  }
+  // The window stays open once, so that the notes can be copied or tried again.
+  if (!attempt([this] { saveNotes(); }) && !std::exchange(refused_, true)) return false;
   return true;
 }
 

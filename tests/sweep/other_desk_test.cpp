@@ -1,6 +1,6 @@
 // Every list, every action on a row of it, with another desk at work between the look and the press, behind the edit
-// screen that the press opens, or while a question stands: whatever it does, the action touches no row that it would not
-// have touched without it, and a row that has gone is told in words.
+// screen that the press opens, or while a question stands: whatever it does, the action touches no row that it would
+// not have touched without it, and a row that has gone is told in words.
 #include <gmock/gmock.h>
 
 #include <map>
@@ -136,8 +136,9 @@ class OtherDesk {
     world.begin();
     AskedPerson person(world.parts.store);
     ConfirmingNavigator navigator;
-    kit::Desk desk{world.parts.session, world.parts.store,  person,              navigator,         world.parts.clock,
-                   world.parts.printer, world.parts.sheets, world.parts.desktop, world.parts.progress};
+    kit::Desk desk{world.parts.session, world.parts.store,   person,
+                   navigator,           world.parts.clock,   world.parts.printer,
+                   world.parts.sheets,  world.parts.desktop, world.parts.progress};
     const auto screen = scene_.make(desk);
     auto& list = static_cast<kit::List&>(*screen->members()[scene_.list]);
     if (screen->closed() || !list.reachable() || list.count() < 2) return std::nullopt;
@@ -221,8 +222,8 @@ TEST_P(EveryList, ChangesNothingThatWasNotSelected) {
     const auto sample = started(GetParam(), world.desk, further);
     for (std::size_t i = 0; i < sample->members().size(); ++i) {
       if (sample->members()[i]->kind != kit::MemberKind::List) continue;
-      const Scene scene{sample->members()[i]->name,
-                        [&](kit::Desk& desk) { return started(GetParam(), desk, further); }, i};
+      const Scene scene{sample->members()[i]->name, [&](kit::Desk& desk) { return started(GetParam(), desk, further); },
+                        i};
       SCOPED_TRACE(scene.name);
       for (const Deed& deed : deedsOf(*sample)) {
         SCOPED_TRACE(deed.name);

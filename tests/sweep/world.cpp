@@ -1,5 +1,6 @@
 #include "sweep/world.h"
 
+#include "kit/at_exit.h"
 #include "kit/fault.h"
 #include "upkeep/users.h"
 
@@ -11,6 +12,7 @@ using kit::MemberKind;
 void WillingPerson::hear(const std::string& text) {
   EXPECT_FALSE(store::Unit::openIn(store)) << "a person is asked inside a unit of work: " << text;
   told.push_back(text);
+  if (text.find("“stbh”") != std::string::npos) return;  // a question that the store refuses on purpose
   if (text.ends_with(kit::nothingSaved) || text.ends_with(kit::savedBefore)) faults.push_back(text);
 }
 
@@ -22,11 +24,17 @@ std::vector<kit::Screen*> PassingNavigator::standing() {
 }
 
 void PassingNavigator::run(kit::Screen& screen) {
+  constexpr int deepest = 4;
+  if (depth_ == deepest) return;
+  const kit::AtExit leaving([this] { --depth_; });
+  ++depth_;
   ++opened;
-  screen.start();
+  if (!screen.start()) return;
+  if (!screen.closed()) prepare(screen);
   // What works by itself is let do so.
   for (kit::Member* member : screen.members())
     if (member->kind == MemberKind::Timer) static_cast<kit::Timer*>(member)->tick();
+  if (kit::Action* confirm = screen.closed() ? nullptr : screen.layout().confirm) confirm->invoke();
   screen.run([&] {
     if (!screen.closed() && screen.mayClose()) screen.close();
   });
@@ -83,7 +91,8 @@ World::World() {
                           {"qfts", 7}}));
   }
   parts.add("xxfk", of({{"xtbh", "1"}, {"xxsj", day}}));
-  for (const std::string_view table : {"qfjl_wjf", "qfjl_je"}) parts.add(table, student);
+  for (const std::string_view table : {"qfjl_wjf", "qfjl_je"})
+    parts.add(table, {{"xh", "20260001"}, {"xm", "王小明"}, {"bjmc", "计算机1班"}});
   upkeep::addUser(parts.store, "王芳", upkeep::superLevel, "abc", parts.clock.now());
   parts.add("czjl", {{"yhxm", "王芳"}, {"jsjmc", "收费一号机"}, {"kjsj", "2026-9-7 8:00:00"}, {"gjsj", ""}});
 }
@@ -102,6 +111,7 @@ void World::begin() {
   session.Rights.fill(true);
   session.auto_load_lists = true;
   parts.session = session;
+  platform::writeFile(parts.desktop.programFolder() / "Screen.txt", "1366\n");
 }
 
 namespace {
@@ -136,11 +146,11 @@ std::vector<Deed> deedsOf(const kit::Screen& screen) {
       case MemberKind::Field: {
         const auto& field = static_cast<const kit::Field&>(member);
         const bool drops = field.entry == kit::Entry::Pick || field.entry == kit::Entry::Choose;
+        if (drops) add(" drops", with<kit::Field>(i, [](auto& one) { one.drop(); }));
         if (drops)
-          add(" drops", with<kit::Field>(i, [](auto& one) {
-                one.drop();
-                if (one.reachable() && !one.choices().empty()) one.take(one.choices().front());
-              }));
+          add(" takes", with<kit::Field>(i, [](auto& one) { one.take(one.choices().back()); }), [i](kit::Screen& one) {
+            return one.members()[i]->reachable() && !static_cast<kit::Field&>(*one.members()[i]).choices().empty();
+          });
         if (field.handlesEnter()) add(" enter", with<kit::Field>(i, [](auto& one) { one.enter(); }));
         break;
       }

@@ -1,5 +1,5 @@
 // A small school with a row in every table that screens read, a person who says yes to everything, and a navigator that
-// lets each screen load and leaves it.
+// fills each screen, confirms it and leaves it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -30,6 +30,9 @@ struct PassingNavigator : kit::Navigator {
  protected:
   void run(kit::Screen& screen) override;
   void keep(std::unique_ptr<kit::Screen> screen) override;
+
+ private:
+  int depth_ = 0;
 };
 
 struct World {
