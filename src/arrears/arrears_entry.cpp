@@ -5,12 +5,12 @@
 #include "base/text.h"
 #include "kit/rows.h"
 #include "register/settings.h"
+#include "register/students.h"
 
 namespace arrears {
 
 using base::Date;
 using base::Money;
-using store::Sql;
 
 constexpr int daysBetweenInstalments = 30;
 
@@ -47,7 +47,7 @@ void Formqfcl::load() {
   const kit::Session& session = desk.session;
   xq.set(base::trim(given_.current_xq));
   if (!base::blank(given_.current_xh)) {
-    store::RecordSet student = rows(Sql("select * from xs where xh='") + base::trim(given_.current_xh) + "'");
+    store::RecordSet student = school::loadStudent(desk.store, given_.current_xh);
     if (!student.empty()) take(student);
   }
   const auto items = kit::columnTexts(desk.store, "select * from sfxmb order by sfxmbh", "sfxmmc");
@@ -66,21 +66,16 @@ void Formqfcl::load() {
 
 void Formqfcl::findByNumber() {
   if (xh.blank()) return stop("学号不能为空！     ", "错误提示");
-  store::RecordSet student = rows(Sql("select * from xs where xh='") + xh.trimmed() + "'");
+  store::RecordSet student = school::loadStudent(desk.store, xh.trimmed());
   if (student.empty()) return inform("检测不到该学号对应的相关记录，请检查学号输入是否正确！    ", "信息提示");
   take(student);
   lines[0].sfxm.focus();
 }
 
 void Formqfcl::findByName() {
-  store::RecordSet namesakes = rows(Sql("select * from xs where xm='") + xm.trimmed() + "'");
-  const long long count = namesakes.count();
-  if (count != 1) {
-    clearHead();
-    return count == 0 ? inform("该生相关记录不存在，请检查姓名输入是否正确！   ", "信息提示")
-                      : inform("学生姓名不唯一，请您用学号调用该生的相关记录！    ", "操作提示");
-  }
-  take(namesakes);
+  auto student = school::findByName(desk, xm.trimmed(), [this] { clearHead(); });
+  if (!student) return;
+  take(*student);
   lines[0].sfxm.focus();
 }
 

@@ -74,7 +74,7 @@ std::optional<std::vector<Condition>> Formqfcl11::conditions() {
                              kit::equals("xh", xh.text()), kit::equals("xm", xm.text()),
                              kit::equals("sfxm", sfxm.text())};
   const struct {
-    const kit::DateCondition& field;
+    kit::DateCondition& field;
     const char* column;
   } dates[] = {{qfrq, "qfrq"}, {bjrq, "bjrq"}, {sbjrq, "sbjrq"}};
   for (const auto& date : dates) {

@@ -4,6 +4,7 @@
 
 #include "base/text.h"
 #include "kit/validation.h"
+#include "register/students.h"
 
 namespace collection {
 
@@ -83,7 +84,7 @@ void Formzctsf4::clearAll() {
 }
 
 void Formzctsf4::loadStudent() {
-  store::RecordSet student = rows(store::Sql("select * from xs where xh='") + base::trim(current_xh) + "'");
+  store::RecordSet student = school::loadStudent(desk.store, current_xh);
   if (!student.empty()) {
     xh.set(student.get("xh").trimmed());
     xm.set(student.get("xm").trimmed());

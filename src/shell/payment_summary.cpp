@@ -1,6 +1,7 @@
 #include "shell/payment_summary.h"
 
 #include "base/text.h"
+#include "register/students.h"
 
 namespace shell {
 
@@ -16,7 +17,7 @@ Formzct1::Formzct1(kit::Desk& all, std::string student)
 }
 
 void Formzct1::load() {
-  RecordSet student = rows(Sql("select * from xs where xh='") + xh + "'");
+  RecordSet student = school::loadStudent(desk.store, xh);
   RecordSet paid = rows(Sql("select * from jfjl where xh='") + xh + "' order by jfrq desc");
   // A student who has left the register is still named by the payments.
   RecordSet& named = student.empty() ? paid : student;

@@ -15,7 +15,7 @@ struct CardColumn {
   Format format = Format::Text;
 };
 
-constexpr CardColumn school::ofStudent[] = {
+constexpr CardColumn ofStudent[] = {
     {"xh", &StudentCard::xh},       {"xm", &StudentCard::xm},
     {"xb", &StudentCard::xb},       {"csrq", &StudentCard::csrq, Format::LongDate},
     {"sfzhm", &StudentCard::sfzhm}, {"zzmm", &StudentCard::zzmm},
@@ -44,7 +44,7 @@ std::optional<StudentCard> readStudentCard(store::Store& store, const std::strin
   store::RecordSet student = school::loadStudent(store, xh);
   if (student.empty()) return std::nullopt;
   StudentCard card;
-  take(card, school::ofStudent, student);
+  take(card, ofStudent, student);
   card.photo = fromBytes(student.get("xp").bytes());
   store::RecordSet room(store, store::Sql("select * from zsgl2 where xh='") + card.xh + "'");
   if (!room.empty()) take(card, ofRoom, room);

@@ -93,7 +93,7 @@ void mark(RecordSet& row, kit::Desk& desk, kit::Panel panel) {
   if (panel == kit::Panel::Students) row.set("bsh", desk.session.ComputerName);
 }
 
-// What the dependent tables copy of a student; the number last, for they are found by it.
+// What changed of what the dependent tables copy; the number last, for they are found by it.
 void cascade(store::Store& store, const Student& former, const Student& student) {
   constexpr std::pair<std::string_view, StudentText> copies[] = {
       {"xm", &Student::xm}, {"bjmc", &Student::bjmc}, {"xtbh", &Student::xtbh}, {"xh", &Student::xh}};
@@ -172,7 +172,7 @@ std::optional<Refusal> changeStudent(kit::Desk& desk, std::int64_t mark, const S
       row.set(column.name, stored(column.kind, student.*column.text, desk.clock.today()));
   writePhoto(row, bytes);
   row.update();
-  if (keyChanged(former, student)) cascade(desk.store, former, student);
+  cascade(desk.store, former, student);
   unit.finish();
   return std::nullopt;
 }

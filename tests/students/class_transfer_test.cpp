@@ -44,14 +44,6 @@ TEST(ClassTransfer, MovesTheStudentAndAllThatCarriesTheClass) {
         << table;
 }
 
-TEST(ClassTransfer, NumbersStartWithTheClassCodeInAnEmptyClass) {
-  TwoClasses school;
-  school.place("1", "王小明", computing, "11001001");
-  school.place("2", "张三", computing, "11001002");
-  transferStudents(school.store, computing, accounting, school.movers({"1", "2"}));
-  EXPECT_EQ(school.dump("xs", "xm|xtbh", "xh"), "王小明|01001001\n张三|1001002\n");
-}
-
 // Rows keyed without a number move with a name that stands once; of two of one name the one who was ticked moves.
 TEST(ClassTransfer, OfTwoOfOneNameTheTickedOneMovesWithItsRows) {
   TwoClasses school;

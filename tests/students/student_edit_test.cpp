@@ -34,13 +34,6 @@ TEST(StudentEdit, AnEmptyScreenHoldsTheDefaults) {
   EXPECT_TRUE(s->bjmc.blank() && s->bz.blank() && s->xp.bytes().empty());
   EXPECT_TRUE(s->xssf.visible());
   EXPECT_EQ(s->confirm.caption(), "添加");
-}
-
-TEST(StudentEdit, EnterInABlankNumberStays) {
-  School school;
-  auto s = openedFor(school, Mode::Add);
-  s->xh.enter();
-  EXPECT_EQ(s->focused, &s->xm);
   s->xh.type(" ");
   school.person.expect(Box::Stop, "学号是学生的唯一标识，您必须设置好学号！       ", "操作提示");
   s->xh.enter();

@@ -146,24 +146,5 @@ TEST(StudentQuery, OneConditionAtATime) {
   }
 }
 
-TEST(StudentQuery, OneConditionIsRefusedInItsOrder) {
-  School school;
-  auto s = opened<Formzctxscx>(school);
-  const auto refused = [&](Box box, const char* text, const char* title) {
-    school.person.expect(box, text, title);
-    s->confirm.press();
-    EXPECT_FALSE(s->closed());
-  };
-  refused(Box::Stop, "请选择一种查询方式 ！     ", "错误提示");
-  s->way.pick("按入学日期查询");
-  refused(Box::Stop, "请设置参数值,您也可以进行选择 ！     ", "错误提示");
-  s->from.type("2026-9-7");
-  s->to.type("九月");
-  refused(Box::Stop, "日期格式不正确，应该是 yyyy-m-d 格式！   ", "错误提示");
-  s->way.pick("按姓名查询");
-  s->value.type("李四");
-  refused(Box::Information, "相关记录不存在 ！      ", "信息提示");
-}
-
 }  // namespace
 }  // namespace students
