@@ -26,7 +26,7 @@ std::vector<long long> sampled(long long calls) {
 // One thing to sweep: a screen and what is done to it. No deed: it is opened.
 class Try {
  public:
-  Try(const app::Entry& entry, const Deed* deed) : entry_(entry), deed_(deed) {}
+  Try(const app::Entry& entry, kit::Mode mode, const Deed* deed) : entry_(entry), mode_(mode), deed_(deed) {}
 
   // Plays once, with `arm` called when all stands ready. False: the deed cannot be done here.
   bool play(World& world, const std::function<void()>& arm = {}) {
@@ -72,6 +72,7 @@ class Try {
     else screen_->start();
   }
   const app::Entry& entry_;
+  const kit::Mode mode_;
   const Deed* deed_;
   std::shared_ptr<kit::Screen> screen_;
 };
