@@ -7,6 +7,8 @@
 #include <string_view>
 
 #include "kit/desk.h"
+#include "kit/editing.h"
+#include "store/record_set.h"
 #include "students/photo.h"
 
 namespace students {
