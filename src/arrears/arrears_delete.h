@@ -2,6 +2,7 @@
 #pragma once
 
 #include "arrears/arrears_ledger.h"
+#include "kit/editing.h"
 #include "kit/screen.h"
 
 namespace arrears {

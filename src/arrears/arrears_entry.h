@@ -3,6 +3,7 @@
 #pragma once
 
 #include "arrears/arrears_ledger.h"
+#include "kit/editing.h"
 #include "kit/screen.h"
 #include "kit/validation.h"
 

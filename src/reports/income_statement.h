@@ -1,6 +1,7 @@
 // The income statement: a worker that computes behind a notice, and the screen that shows what it computed.
 #pragma once
 
+#include "kit/editing.h"
 #include "kit/screen.h"
 #include "reports/income.h"
 
