@@ -10,7 +10,6 @@ namespace students {
 
 using kit::Format;
 using kit::Mode;
-using store::Sql;
 
 namespace {
 
@@ -29,7 +28,11 @@ const kit::RecordDeskPlan plan{
                 {"remove", "删除", "trash-2", Mode::Delete, "不存在需要删除的记录！  ", {kit::SuspensionDelete}}},
     .queryBy = {kit::SuspensionQuery},
     .others = {{"print", "打印", "printer", {kit::SuspensionQuery}, reports::printing(reports::Print::Suspensions)},
-               {"toSheet", "导出", "file-spreadsheet", {kit::SuspensionQuery}, reports::exporting(reports::List::Suspensions)}},
+               {"toSheet",
+                "导出",
+                "file-spreadsheet",
+                {kit::SuspensionQuery},
+                reports::exporting(reports::List::Suspensions)}},
     .emptying = {{"您确认是要清空系统中所有的休学复课记录吗？   ",
                   "休学复课记录清空后不可恢复！您确认继续吗？    ",
                   {"xxfk"},
@@ -46,8 +49,7 @@ void Formxxfk3::proceed() {
   open<Formxxfk>();
 }
 
-Formxxfk::Formxxfk(kit::Desk& all)
-    : Screen(all, "Formxxfk", "学生休学复课管理前台"), suspensions(*this, desk, plan) {
+Formxxfk::Formxxfk(kit::Desk& all) : Screen(all, "Formxxfk", "学生休学复课管理前台"), suspensions(*this, desk, plan) {
   suspensions.editedIn<Formxxfk1>();
   suspensions.queriedIn<Formxxfk2>();
   back.onPress([this] { close(); });

@@ -1,7 +1,7 @@
 // A desk with two students and three fee items, and short ways to write and read arrears.
 #pragma once
 
-#include "support/test_desk.h"
+#include "support/school.h"
 
 namespace arrears_tests {
 
@@ -9,19 +9,7 @@ using base::Date;
 using base::Money;
 using kit::Box;
 
-// Says yes to everything, after something has happened at another desk; keeps what was told.
-struct Meanwhile : kit::Person {
-  std::function<void()> happens;
-  std::string told;
-  void tell(Box, const std::string& text, const std::string&) override { told += text; }
-  bool ask(Box, const std::string&, const std::string&) override {
-    happens();
-    return true;
-  }
-  std::optional<std::string> chooseFile(const std::string&, const std::string&) override { return {}; }
-};
-
-struct ArrearsDesk : support::TestDesk {
+struct ArrearsDesk : support::School {
   ArrearsDesk() {
     session.SessionUser = "李芳";
     session.ComputerName = "收费一号机";
@@ -53,9 +41,6 @@ struct ArrearsDesk : support::TestDesk {
   }
   void set(const std::string& lsh, std::string_view column, store::Value value) {
     store::RecordSet(store, store::Sql("select * from qfjl where lsh='") + lsh + "'").setAll(column, value);
-  }
-  kit::Desk with(kit::Person& other) {
-    return {session, store, other, navigator, clock, printer, sheets, desktop, progress};
   }
   std::string states() { return dump("qfjl", "lsh|sbjrq|sbjje|clfs", "lsh"); }
 };

@@ -25,9 +25,9 @@ struct EditDesk : ArrearsDesk {
     s.confirm.press();
     EXPECT_TRUE(s.closed());
   }
-  void refused(Formqf& s, const std::string& words) {
+  void fails(Formqf& s, const std::string& words) {
     question();
-    person.expect(Box::Stop, words, "错误提示");
+    failed(words);
     s.confirm.press();
   }
   std::string row(const std::string& lsh) {
@@ -74,14 +74,15 @@ TEST(ArrearsEdit, OpensOnlyForARowToChange) {
 TEST(ArrearsEdit, KeepsNumbersApart) {
   EditDesk desk;
   auto s = opened<Formqf>(desk, desk.editing("2"));
-  const std::pair<const char*, const char*> wrong[] = {
-      {" ", "记录标识号不能为空！    "},
-      {"2'", "记录标识号中不能含有单引号（'）！    "},
-      {"1", "记录标识号“1”已被另一条欠费记录使用，请改用其他标识号！"}};
-  for (const auto& [typed, words] : wrong) {
+  for (const auto& [typed, words] :
+       {std::pair{" ", "记录标识号不能为空！    "}, {"2'", "记录标识号中不能含有单引号（'）！    "}}) {
     s->lsh.type(typed);
-    desk.refused(*s, words);
+    desk.question();
+    desk.refused(words);
+    s->confirm.press();
   }
+  s->lsh.type("1");
+  desk.fails(*s, "记录标识号“1”已被另一条欠费记录使用，请改用其他标识号！");
   EXPECT_EQ(desk.row("2"), "2|20260001|2026-9-1|50|2026-9-2|50|结清");
 }
 
@@ -97,7 +98,7 @@ TEST(ArrearsEdit, ChangesTheSelectedRowAloneAndNothingThatWasChangedMeanwhile) {
   auto amount = opened<Formqf>(desk, desk.editing("3")), term = opened<Formqf>(desk, desk.editing("3"));
   desk.set("3", "sbjje", Money::yuan(10));  // paid, waived or corrected at another desk
   amount->bjje.type("31");
-  desk.refused(*amount, "该欠费记录的交费情况已被其他计算机修改，请撤销后重新打开该记录再修改！");
+  desk.fails(*amount, "该欠费记录的交费情况已被其他计算机修改，请撤销后重新打开该记录再修改！");
   term->xq.type("2027学年上学期");
   desk.saves(*term);
   EXPECT_EQ(desk.row("3"), "3|20260002|2026-9-1|30|2026-9-2|10|结清");
@@ -168,16 +169,17 @@ TEST(ArrearsDelete, TakesTheSelectedRowOfTwoWithOneNumber) {
 }
 
 TEST(ArrearsDelete, WhatChangedDuringTheQuestionStays) {
+  const char* const questions[] = {"您确认要删除标识号为：2 的这条欠费记录吗？     ",
+                                   "您确认要删除王小明的 2条欠费记录吗？     ",
+                                   "您确认要删除后台数据库中的 2条已结清的欠费记录吗？     "};
   for (int option = 0; option < 3; ++option) {
     EditDesk desk;
-    Meanwhile person;
-    kit::Desk at = desk.with(person);
-    Formqfcl5 s(at, {kit::Mode::Delete, desk.mark("2")});
-    person.happens = [&] { desk.set("2", "clfs", "减免"); };
-    if (option > 0) s.option.choose(option);
-    s.confirm.press();
-    EXPECT_EQ(person.told, changedMeanwhile);
-    EXPECT_TRUE(s.closed());
+    auto s = opened<Formqfcl5>(desk, kit::Editing{kit::Mode::Delete, desk.mark("2")});
+    if (option > 0) s->option.choose(option);
+    desk.person.answer(true, Box::AskStop, questions[option], "警告").meanwhile([&] { desk.set("2", "clfs", "减免"); });
+    desk.told(changedMeanwhile);
+    s->confirm.press();
+    EXPECT_TRUE(s->closed());
     EXPECT_EQ(desk.count("select * from qfjl"), 3);
   }
 }
@@ -185,7 +187,7 @@ TEST(ArrearsDelete, WhatChangedDuringTheQuestionStays) {
 TEST(ArrearsDelete, NothingToDelete) {
   ArrearsDesk desk;
   auto s = opened<Formqfcl5>(desk, kit::Editing{kit::Mode::Delete, 999});
-  desk.person.expect(Box::Stop, "选定的记录已被其他计算机删除，请刷新列表后重新选择！", "错误提示");
+  desk.gone();
   s->confirm.press();
   desk.person.expect(Box::Information, "不存在已结清记录！      ", "信息提示");
   s->option.choose(2);

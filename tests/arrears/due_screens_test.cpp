@@ -141,7 +141,7 @@ TEST(DueSettings, staysWhenTheImportCouldNotEnd) {
   s->value.type("会计'1班");
   test.person.answer(true, Box::Ask, question, "操作提示");
   test.navigator.expect<Formqfcl3>([&](Formqfcl3& progress) {
-    test.person.expect(Box::Stop, "内容中不能含有单引号（'），请改掉后再试！", "错误提示");
+    test.failed("内容中不能含有单引号（'），请改掉后再试！");
     run(progress);
   });
   s->confirm.press();

@@ -46,17 +46,17 @@ TEST(PrintOptions, ArrearsTakeTheTelephoneFromTheStudent) {
 TEST(PrintOptions, TheListModeDecidesWhatOfArrearsIsPrinted) {
   PrintDesk desk;
   desk.asked("要打印未交费学生名单吗？请确认打印机连接正常、打印纸准备就绪！ ");
-  opened<Formzctqfjldy>(desk, "", List::Unpaid)->print.press();
+  opened<Formzctqfjldy>(desk, store::Sql(), List::Unpaid)->print.press();
   EXPECT_EQ(desk.lastTitle(), "未交费学生名单");
   EXPECT_EQ(desk.count("select * from qfjl_wjf"), 1);
   desk.person.expect(Box::Information, "不存在能够打印的记录！", "信息提示");
-  opened<Formzctqfjldy>(desk, "", List::Comparison)->print.press();
+  opened<Formzctqfjldy>(desk, store::Sql(), List::Comparison)->print.press();
 }
 
 TEST(PrintOptions, StudentsAndPaymentsFollowTheConsolesFilter) {
   PrintDesk desk;
   desk.asked("要打印学生信息空表吗？请确认打印机连接正常、打印纸准备就绪！ ");
-  auto students = opened<Formzctxsdy>(desk, " where xh='1002'");
+  auto students = opened<Formzctxsdy>(desk, store::Sql(" where xh='1002'"));
   students->what.choose(1);
   students->print.press();
   EXPECT_EQ(desk.dump("dy_xs", "xm"), "张三\n");
@@ -71,7 +71,7 @@ TEST(PrintOptions, StudentsAndPaymentsFollowTheConsolesFilter) {
   payments->print.press();
   EXPECT_EQ(desk.lastTitle(), "交费记录打印");
   desk.person.expect(Box::Information, "不存在需要打印的数据！  ", "信息提示");
-  opened<Formzctjfjldy>(desk, " where xh='9'")->print.press();
+  opened<Formzctjfjldy>(desk, store::Sql(" where xh='9'"))->print.press();
 }
 
 TEST(Prints, EveryListFillsWhatItsReportShows) {
@@ -82,7 +82,8 @@ TEST(Prints, EveryListFillsWhatItsReportShows) {
     std::vector<std::pair<std::string_view, store::Value>> full;
     for (const store::Column& column : store::findTable(plan.from)->columns)
       if (column.type != store::Type::Bytes)
-        full.emplace_back(column.name, column.type == store::Type::Date ? store::Value(base::Date{2026, 9, 7}) : "1001");
+        full.emplace_back(column.name,
+                          column.type == store::Type::Date ? store::Value(base::Date{2026, 9, 7}) : "1001");
     desk.add("xs", {{"xh", "1001"}, {"lxdh", "1"}, {"sjhm", "2"}});
     desk.add(plan.from, full);
     if (plan.object)

@@ -87,7 +87,7 @@ TEST(Clearing, AFaultLeavesTheTablesBeforeItEmptyAndTheRestUntouched) {
     words = error.what();
   }
   auto s = opened<Formcsh4>(school);
-  school.person.expect(Box::Stop, words, "错误提示");
+  school.person.expect(Box::Stop, words + "\n出错之前的步骤已经保存，出错的这一步没有保存！", "错误提示");
   s->timer.tick();
   EXPECT_TRUE(s->closed());
   EXPECT_FALSE(school.progress.shown);
