@@ -239,7 +239,9 @@ TEST_P(EveryList, ChangesNothingThatWasNotSelected) {
             ASSERT_TRUE(rows);
             for (const RowId& row : *rows)
               EXPECT_TRUE(alone->contains(row) || wholeTables.contains(row.first)) << row.first << " " << row.second;
-            if (takesTheRow && play.happened && rows->empty()) EXPECT_THAT(play.told, testing::Not(testing::IsEmpty()));
+            if (takesTheRow && play.happened && rows->empty()) {
+              EXPECT_THAT(play.told, testing::Not(testing::IsEmpty()));
+            }
           }
       }
     }
