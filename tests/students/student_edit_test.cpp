@@ -306,8 +306,8 @@ TEST(StudentView, NotesThatCannotBeSavedKeepTheWindowOpenOnce) {
          : kit::setEach(school.store, "select * from xs", "bz", "另一台计算机写的");
     s->bz.type("转走读");
     for (const bool closes : {false, true}) {
-      school.refused(gone ? "该生学籍资料已不存在，备注未能保存。"
-                          : "“备注”已被其他计算机修改，请撤销后重新打开该记录再操作！");
+      school.failed(gone ? "该生学籍资料已不存在，备注未能保存。"
+                         : "“备注”已被其他计算机修改，请撤销后重新打开该记录再操作！");
       s->back.press();
       EXPECT_EQ(s->closed(), closes);
     }
