@@ -113,8 +113,9 @@ void Formszsfbz3::write() {
                             {"je", line.je.money()},
                             {"bsh", desk.clock.now().plain()}});
   }
-  shown_ = standing();
+  auto written = standing();
   unit.finish();
+  shown_ = std::move(written);
 }
 
 }  // namespace feesetup

@@ -38,7 +38,11 @@ RecordEdit::RecordEdit(Desk& all, std::string own, std::string words, const char
 
 void RecordEdit::load() {
   if (EditMode == Mode::Add) return propose();
-  if (!standsStill(desk.store, table_, mark_)) return close();
+  if (!standsStill(desk.store, table_, mark_)) {
+    close();
+    if (mark_ != 0) inform("选定的记录已被其他计算机删除，请重新选择！", "信息提示");
+    return;
+  }
   store::RecordSet set = row();
   show(set);
   shown(set);
