@@ -73,9 +73,26 @@ struct Books {
   }
 };
 
+// No number of a ledger stands in two rows; a receipt number stands for one student.
+void expectNumbersOfTheirOwn(store::Store& store) {
+  for (const char* table : {"jfjl", "qfjl"}) {
+    std::map<std::string, int> times;
+    RecordSet rows(store, Sql::table(table));
+    store::forEach(rows, [&](RecordSet& row) { ++times[row.get("lsh").trimmed()]; });
+    for (const auto& [number, count] : times) EXPECT_EQ(count, 1) << table << " " << number;
+  }
+  std::map<std::string, std::string> payers;
+  RecordSet rows(store, "select fpbh,xh from jfjl");
+  store::forEach(rows, [&](RecordSet& row) {
+    const auto [payer, first] = payers.try_emplace(row.get("fpbh").trimmed(), row.get("xh").trimmed());
+    EXPECT_EQ(payer->second, row.get("xh").trimmed()) << "receipt " << payer->first;
+  });
+}
+
 // Every receipt, and nothing else, is in the ledger whole; arrears rows were paid what payments against them wrote;
 // submitted rows are what they were.
 void expectAgreement(store::Store& store, const Books& books) {
+  expectNumbersOfTheirOwn(store);
   Books found(store);
   Money reported, ledger;
   for (const auto& [number, receipt] : books.receipts) {

@@ -26,7 +26,10 @@ std::string submittedDigest(store::Store& store) {
 
 Operator::Operator(store::Store& store, unsigned seed, Report report)
     : store_(store), report_(std::move(report)), random_(seed) {
-  clock_.moment.date = {2026, 11, 7};
+  // The import writes the months 1 to 9 with one digit: numbers of one length and of another lie side by side.
+  constexpr base::Date days[] = {{2026, 9, 7}, {2026, 11, 7}, {2027, 1, 7}};
+  clock_.moment.date = days[seed % std::size(days)];
+  today_ = clock_.moment.date;
   session_.Rights.fill(true);
   session_.SessionUser = sample::deskUser;
   session_.ComputerName = desktop_.computer;
@@ -42,6 +45,9 @@ Operator::Operator(store::Store& store, unsigned seed, Report report)
 void Operator::act() {
   clock_.moment.minute = (clock_.moment.minute + 1) % 60;
   if (clock_.moment.minute == 0) clock_.moment.hour = (clock_.moment.hour + 1) % 24;
+  // A computer's clock goes wrong now and then, by days in either direction, and is set right again.
+  if (percent(2)) wrongBy_ = below(3) * (percent(50) ? 1 : -1) * (percent(10) ? 365 : 1);
+  clock_.moment.date = today_.plusDays(wrongBy_);
   const struct {
     int share;
     const char* name;

@@ -68,6 +68,8 @@ class Operator : kit::Navigator {
   Report report_;
   std::mt19937 random_;
   Fee fee_ = Fee::Leave;
+  base::Date today_;
+  int wrongBy_ = 0;  // days
 
   kit::Session session_;
   WillingPerson person_;
