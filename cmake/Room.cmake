@@ -4,7 +4,7 @@
 
 set(WARNINGS -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor -Woverloaded-virtual -Werror
     # GCC 12 sees overlaps and overflows in optimised text + text that are not there, also through compiled headers.
-    -Wno-restrict -Wno-array-bounds -Wno-stringop-overflow)
+    -Wno-restrict -Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread)
 
 function(include_tree target out)
   set(tree ${CMAKE_BINARY_DIR}/include/${target})
