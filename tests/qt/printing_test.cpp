@@ -146,15 +146,14 @@ collection::PrintedReceipt receiptOf(std::size_t rows, bool longTexts) {
       .jfrq = "2026-09-07",
       .rows = {},
       .total = {},
-      .remarks = {},
-      .summaries = {},
+      .notes = {},
       .cashier = "李芳",
       .printed = {{2026, 9, 7}, 8, 30, 5}};
   for (std::size_t row = 0; row < rows; ++row) {
     receipt.rows.push_back({item, base::Money::fen(longTexts ? 12345678901 : 235050)});
     receipt.total += receipt.rows.back().je;
-    receipt.remarks[row] = "补交2026年12月31日欠费，还欠1234567.00元整";
-    receipt.summaries[row] = "二〇二六年秋季学期新生报到费";
+    receipt.notes.receipt_remarks[row] = "补交2026年12月31日欠费，还欠1234567.00元整";
+    receipt.notes.receipt_summaries[row] = "二〇二六年秋季学期新生报到费";
   }
   return receipt;
 }
