@@ -67,6 +67,7 @@ TEST(ArrearsEdit, ShowsAndWritesTheRow) {
 
 TEST(ArrearsEdit, OpensOnlyForARowToChange) {
   EditDesk desk;
+  desk.person.expect(kit::Box::Information, "选定的记录已被其他计算机删除，请重新选择！", "信息提示");
   EXPECT_TRUE(opened<Formqf>(desk, kit::Editing{kit::Mode::Modify, 999})->closed());
   EXPECT_TRUE(opened<Formqf>(desk, kit::Editing{kit::Mode::Delete, desk.mark("1")})->closed());
 }
