@@ -95,6 +95,7 @@ World::World() {
     parts.add(table, {{"xh", "20260001"}, {"xm", "王小明"}, {"bjmc", "计算机1班"}});
   upkeep::addUser(parts.store, "王芳", upkeep::superLevel, "abc", parts.clock.now());
   parts.add("czjl", {{"yhxm", "王芳"}, {"jsjmc", "收费一号机"}, {"kjsj", "2026-9-7 8:00:00"}, {"gjsj", ""}});
+  savedAtFirst = parts.store.saved();
 }
 
 void World::begin() {

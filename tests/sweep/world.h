@@ -42,6 +42,7 @@ struct World {
   static app::Opening opening(kit::Mode mode) { return {{mode, 1}, "20260001", "10000001"}; }
 
   support::TestDesk parts;
+  long long savedAtFirst = 0;
   support::Failures store{parts.store};
   support::PlatformFaults& computer = parts.desktop.faults;
   WillingPerson person{parts.store};
