@@ -2,13 +2,12 @@
 
 #include <gmock/gmock.h>
 
-#include "kit/fault.h"
 #include "shell/console.h"
 #include "shell/loading.h"
 #include "shell/login.h"
 #include "shell/splash.h"
 #include "support/failing_engine.h"
-#include "support/test_desk.h"
+#include "support/school.h"
 #include "upkeep/first_run.h"
 #include "upkeep/users.h"
 
@@ -16,12 +15,10 @@ namespace shell {
 namespace {
 
 using kit::Box;
-using store::Connection;
-using store::Sql;
 using support::opened;
-using support::TestDesk;
+using support::School;
 
-void addClerk(TestDesk& test, const std::string& name = "李强", const std::string& level = "一般操作员") {
+void addClerk(School& test, const std::string& name = "李强", const std::string& level = "一般操作员") {
   upkeep::addUser(test.store, name, level, "abc", test.clock.now());
 }
 
@@ -32,13 +29,13 @@ void logIn(Formcsh5& s, const std::string& name = "李强", const std::string& p
 }
 
 TEST(Splash, LeadsToTheFirstRunScreenWithoutUsersAndToTheLoginWithThem) {
-  TestDesk empty;
+  School empty;
   empty.desk.navigator.stand<Form1>(empty.desk);
   EXPECT_TRUE(empty.navigator.find<upkeep::Formyhxx4>());
   EXPECT_FALSE(empty.navigator.find<Form1>());
   EXPECT_EQ(platform::readFile(empty.desktop.programFolder() / "Screen.txt"), "1366\n");
 
-  TestDesk test;
+  School test;
   addClerk(test);
   test.desk.navigator.stand<Form1>(test.desk);
   auto* splash = test.navigator.find<Form1>();
@@ -56,7 +53,7 @@ TEST(Splash, LeadsToTheFirstRunScreenWithoutUsersAndToTheLoginWithThem) {
 }
 
 TEST(Login, ChecksInOrder) {
-  TestDesk test;
+  School test;
   addClerk(test);
   auto s = opened<Formcsh5>(test);
   test.person.expect(Box::Warning, "  请选择用户名称 ！              ", "登录提示");
@@ -78,7 +75,7 @@ TEST(Login, ChecksInOrder) {
 }
 
 TEST(Login, AWrongPasswordCostsAGrowingPause) {
-  TestDesk test;
+  School test;
   addClerk(test);
   addClerk(test, "王芳");
   auto s = opened<Formcsh5>(test);
@@ -100,7 +97,7 @@ TEST(Login, AWrongPasswordCostsAGrowingPause) {
 }
 
 TEST(Login, AFaultInItsRowLeavesTheLoginUsable) {
-  TestDesk test;
+  School test;
   addClerk(test);
   support::Failures failures(test.store);
   auto s = opened<Formcsh5>(test);
@@ -108,8 +105,7 @@ TEST(Login, AFaultInItsRowLeavesTheLoginUsable) {
   s->yhmm.type("abc");
   for (const long long call : {1, 4}) {
     failures.at(call, store::Fault::Busy);
-    test.person.expect(Box::Stop, support::Failures::words(store::Fault::Busy) + "\n" + std::string(kit::nothingSaved),
-                       "错误提示");
+    test.failed(support::Failures::words(store::Fault::Busy));
     s->login.press();
     failures.off();
     EXPECT_TRUE(s->panel.visible());
@@ -122,22 +118,21 @@ TEST(Login, AFaultInItsRowLeavesTheLoginUsable) {
 }
 
 TEST(Start, AProgramFolderThatCannotBeWrittenIsToldAndPassedOver) {
-  TestDesk test;
+  School test;
   addClerk(test);
   const auto file = test.desktop.programFolder() / "Screen.txt";
   std::filesystem::create_directories(file);  // nobody can write a file there
-  const std::string words =
-      "无法写入文件：" + file.string() + "，请检查磁盘空间和写入权限。\n" + kit::nothingSaved.data();
-  test.person.expect(Box::Stop, words, "错误提示");
+  const std::string words = "无法写入文件：" + file.string() + "，请检查磁盘空间和写入权限。";
+  test.failed(words);
   test.desk.navigator.stand<Form1>(test.desk);
-  test.person.expect(Box::Stop, words, "错误提示");
+  test.failed(words);
   for (int i = 0; i < 3; ++i) test.navigator.find<Form1>()->timer.tick();
   logIn(*test.navigator.find<Formcsh5>());
   EXPECT_EQ(test.value("select * from czjl", "jsjmc"), "收费一号机");
 }
 
 TEST(Login, SetsTheSessionUpAndMarksWhatThisComputerLeftOpen) {
-  TestDesk test;
+  School test;
   addClerk(test);
   test.add("czjl", {{"yhxm", "甲"}, {"jsjmc", "收费一号机"}, {"kjsj", "2026-9-6 8:00:00"}, {"gjsj", ""}});
   test.add("czjl", {{"yhxm", "乙"}, {"jsjmc", "收费二号机"}, {"kjsj", "2026-9-7 8:00:00"}, {"gjsj", ""}});
@@ -155,24 +150,19 @@ TEST(Login, SetsTheSessionUpAndMarksWhatThisComputerLeftOpen) {
 }
 
 TEST(Login, StepsThroughTheNinePictures) {
-  TestDesk test;
+  School test;
   addClerk(test);
   const auto folder = test.desktop.programFolder() / "背景图";
   std::filesystem::create_directories(folder);
   for (int i = 1; i <= 9; ++i)
     platform::writeFile(folder / ("morvane" + std::to_string(i) + ".jpg"), "picture " + std::to_string(i));
-  const auto setPicture = [&](int number) {
-    store::RecordSet settings(test.store, "select * from morvanedjpzb where fn='kqd'", Connection::Config);
-    settings.set("tupan", number);
-    settings.update();
-  };
   const struct {
     int stored;
     const char* shown;
     const char* stepped;
   } cases[] = {{3, "picture 3", "picture 4"}, {9, "picture 9", "picture 1"}, {0, "", ""}, {12, "", ""}};
   for (const auto& c : cases) {
-    setPicture(c.stored);
+    test.configure({{"tupan", c.stored}});
     auto s = opened<Formcsh5>(test);
     EXPECT_EQ(s->background.bytes(), c.shown);
     s->background.doubleClick();
@@ -181,7 +171,7 @@ TEST(Login, StepsThroughTheNinePictures) {
 }
 
 TEST(Loading, OpensTheConsoleAndClosesTheLogin) {
-  TestDesk test;
+  School test;
   addClerk(test, "王芳", "超级管理员");
   test.desk.navigator.stand<Formcsh5>(test.desk);
   logIn(*test.navigator.find<Formcsh5>(), "王芳");

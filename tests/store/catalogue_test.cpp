@@ -20,27 +20,12 @@ std::vector<std::string> split(std::string_view list, char between) {
   return parts;
 }
 
-TEST(Catalogue, HoldsEveryTableOnce) {
-  const std::string_view main =
-      "xs tjs xxfk rxxs sfbzbrxxs zymcb bjzl sfxmb sfbzb jfjl qfjl qfjl_wjf qfjl_je dy_jfjl dy_xs dy_qfjl dy_xxfk "
-      "dy_js dy_wpgl dy_zsgl2 dy_kh yhxx yhxx1 czjl czbz mvlyb cjb cjb1 cjsz bys_xs bys_jfjl js gzmcb gzb gzlsb "
-      "gzblsb ls_gzb zsgl1 zsgl2 wpfl wpxx wpgl wpkc tsfl tsxx tskc tskc1 tskclsb tsjsz tsjszlx";
-  const auto names = split(main, ' ');
-  for (const std::string& name : names) {
-    const Table* table = findTable(name);
-    ASSERT_NE(table, nullptr) << name;
-    EXPECT_EQ(table->connection, Connection::Main) << name;
-    EXPECT_EQ(findTable(base::upper(name)), table);
-  }
-  ASSERT_NE(findTable("morvanedjpzb"), nullptr);
-  EXPECT_EQ(findTable("morvanedjpzb")->connection, Connection::Config);
-  EXPECT_EQ(tables().size(), names.size() + 1);
+TEST(Catalogue, NamesNothingTwiceAndIndexesOnlyWhatIsThere) {
   EXPECT_EQ(findTable("x"), nullptr);
-}
-
-TEST(Catalogue, NamesNoColumnTwiceAndIndexesOnlyWhatIsThere) {
+  EXPECT_EQ(findTable("xs")->find("stbh"), nullptr) << "a major's deletion counts on its absence";
   for (const Table& table : tables()) {
     SCOPED_TRACE(table.name);
+    EXPECT_EQ(findTable(base::upper(table.name)), &table);
     std::set<std::string> seen;
     for (const Column& column : table.columns) {
       EXPECT_TRUE(seen.insert(base::upper(column.name)).second) << column.name;
@@ -53,41 +38,6 @@ TEST(Catalogue, NamesNoColumnTwiceAndIndexesOnlyWhatIsThere) {
       for (const std::string& column : split(index, ',')) EXPECT_NE(table.find(column), nullptr) << column;
     }
   }
-}
-
-// One computation relies on each of these: a sum, a condition on a date, a comparison with the empty text.
-TEST(Catalogue, TypesWhatTheScreensComputeWith) {
-  struct Case {
-    std::string_view table, columns;
-    Type type;
-  };
-  const Case cases[] = {
-      {"jfjl", "je", Type::Money},
-      {"qfjl", "bjje sbjje", Type::Money},
-      {"qfjl_je", "yjje sjje ce", Type::Money},
-      {"gzlsb", "a0 a28", Type::Money},
-      {"jfjl", "jfrq", Type::Date},
-      {"qfjl", "qfrq bjrq sbjrq", Type::Date},
-      {"xs", "csrq rxrq", Type::Date},
-      {"xxfk", "xxsj fksj", Type::Date},
-      {"xs", "xh xtbh bsh", Type::Text},
-      {"jfjl", "lsh fpbh sftj", Type::Text},
-      {"czjl", "gjsj", Type::Text},
-      {"czjl", "kjsj", Type::DateTime},
-      {"tskc", "ghrq tianshu fakuan", Type::Text},
-      {"xs", "xp", Type::Bytes},
-      {"yhxx1", "fn", Type::YesNo},
-      {"zymcb", "id", Type::Number},
-      {"zymcb", "zybh", Type::Text},
-  };
-  for (const Case& each : cases) {
-    for (const std::string& name : split(each.columns, ' ')) {
-      const Column* column = findTable(each.table)->find(name);
-      ASSERT_NE(column, nullptr) << each.table << "." << name;
-      EXPECT_EQ(column->type, each.type) << each.table << "." << name;
-    }
-  }
-  EXPECT_EQ(findTable("xs")->find("stbh"), nullptr);  // a major's deletion counts on its absence
 }
 
 TEST(Catalogue, StandsOnTheEngine) {

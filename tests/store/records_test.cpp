@@ -108,13 +108,6 @@ TEST_P(Records, PicturesComeBackAsTheyWere) {
   EXPECT_EQ(rows(*store_, "select * from xs where xh='1'"), 1);
 }
 
-TEST_P(Records, EmptyAndNullDiffer) {
-  add("jfjl", {"lsh", "sftj"}, {{"1", ""}, {"2", Value()}, {"3", "*"}});
-  EXPECT_THAT(column("select * from jfjl where sftj=''", "lsh"), ElementsAre("1"));
-  EXPECT_THAT(column("select * from jfjl where sftj<>'*'", "lsh"), ElementsAre("1"));
-  EXPECT_THAT(column("select * from jfjl where sftj is null", "lsh"), ElementsAre("2"));
-}
-
 TEST_P(Records, ASetWithoutRows) {
   RecordSet set(*store_, "select * from jfjl");
   EXPECT_TRUE(set.empty());
