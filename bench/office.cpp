@@ -11,6 +11,7 @@
 #include "collection/payment_ledger.h"
 #include "due_import.h"
 #include "figures.h"
+#include "kit/notice.h"
 #include "measure.h"
 #include "sample/random.h"
 #include "shell/console_front.h"
@@ -34,6 +35,10 @@ class Front : public kit::Screen {
  public:
   explicit Front(kit::Desk& desk) : Screen(desk, "Front", "") {}
   kit::Layout layout() override { return {.root = kit::stretch()}; }
+  void fill() {
+    kit::Notice notice(desk.progress);
+    shell::fillPayments(overview, desk, notice);
+  }
   shell::Overview overview{*this, shell::paymentsPlan};
   shell::CardFrame card{*this};
   shell::PaymentsFrame payments{*this, desk};
@@ -66,7 +71,7 @@ Measure filling(Office& office) {
             });
           },
           [&, front] {
-            const Seconds time = timed([&] { shell::fillPayments(front->overview, office.desk); });
+            const Seconds time = timed([&] { front->fill(); });
             if (front->overview.list.count() != office.rows("jfjl")) throw std::runtime_error("rows are missing");
             return time;
           }};
@@ -77,7 +82,7 @@ Measure looking(Office& office) {
   constexpr int inSight = 40, readRound = 200;
   constexpr std::size_t visible = 11;
   const auto front = std::make_shared<Front>(office.desk);
-  shell::fillPayments(front->overview, office.desk);
+  front->fill();
   const auto chance = std::make_shared<sample::Random>(2);
   const int last = static_cast<int>(front->overview.list.count()) - inSight;
   const auto row = std::make_shared<BareStatement>(office.bare.prepare(
@@ -114,7 +119,7 @@ bool memoryIsWithin(Office& office) {
   };
   const double before = resident();
   Front front(office.desk);
-  shell::fillPayments(front.overview, office.desk);
+  front.fill();
   const double taken = resident() - before;
   std::printf("memory of a list of %lld payments: %.1f MB, limit %.0f, %s\n", front.overview.list.count(), taken, most,
               taken <= most ? "ok" : "MISSED");
