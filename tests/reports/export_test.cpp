@@ -50,7 +50,6 @@ TEST(Export, EveryListKeepsItsColumnsAndTheirKinds) {
     for (int rank = 0; rank < 29; ++rank)
       desk.add("gzmcb", {{"gzbh", std::to_string(101 + rank)}, {"gzmc", "工资项目" + std::to_string(rank)}});
     const std::string_view statement = wanted.sql.text();
-    const std::string_view statement = wanted.sql.text();
     const std::string name = base::trim(statement.substr(statement.rfind("from ") + 5));
     const store::Table& table = *store::findTable(name);
     std::vector<std::pair<std::string_view, store::Value>> full, empty{{table.columns[0].name, "1"}};
