@@ -1,5 +1,5 @@
 // Several computers at one store, and computers that die while they write.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <poll.h>
 #include <signal.h>
 #include <sys/wait.h>
@@ -11,7 +11,11 @@
 #include <thread>
 
 #include "store/configurations.h"
+#include "store/database.h"
+#include "store/files.h"
+#include "store/postgres_engine.h"
 #include "store/receipts.h"
+#include "store/sqlite_engine.h"
 #include "support/test_server.h"
 
 namespace store {
@@ -81,6 +85,11 @@ class Computers : public testing::TestWithParam<bool> {
     }
     Store(folder.path()).database(Connection::Main);
   }
+  // What another computer has open, without a store around it.
+  std::unique_ptr<Engine> bare(std::chrono::milliseconds patience = 10s, std::function<void(bool)> onWait = {}) {
+    if (onServer) return openPostgres({server_->server(), "office", patience}, std::move(onWait));
+    return openSqlite({folder.file(Connection::Main), std::string(mainPassword), false, patience}, std::move(onWait));
+  }
   const bool onServer = GetParam();
   const Folder folder;
 
@@ -124,6 +133,61 @@ TEST_P(Computers, TwoGreedyWritersBothGetOn) {
   RecordProperty("first", static_cast<int>(a.size()));
   RecordProperty("second", static_cast<int>(b.size()));
   EXPECT_GT(std::min(a.size(), b.size()) * 4, std::max(a.size(), b.size()));
+}
+
+TEST_P(Computers, AWriterIsWaitedForByWritersOnly) {
+  std::vector<bool> told;
+  const auto changes = [&](bool waiting) {
+    if (told.empty() || told.back() != waiting) told.push_back(waiting);
+  };
+  const auto other = bare();
+  other->begin();
+  const auto impatient = bare(300ms, changes);
+  EXPECT_EQ(faultOf([&] { impatient->begin(); }), Fault::Busy);
+  EXPECT_THAT(told, testing::ElementsAre(true, false));
+  told.clear();
+  Store store(folder.path());
+  store.onWait = changes;
+  RecordSet set(store, "select * from jfjl");
+  EXPECT_EQ(set.count(), 0);
+  EXPECT_THAT(told, testing::IsEmpty());
+  std::thread finishing([&] {
+    std::this_thread::sleep_for(500ms);
+    other->commit();
+  });
+  set.addNew();
+  set.update();
+  finishing.join();
+  EXPECT_THAT(told, testing::ElementsAre(true, false));
+  EXPECT_EQ(set.count(), 1);
+  impatient->begin();
+  impatient->rollback();
+}
+
+TEST_P(Computers, AnOlderCatalogueIsCompletedAndANewerOneRefused) {
+  {
+    const auto older = bare();
+    for (const char* step : {"drop table qfjl", "alter table xs drop column eml", "drop table unit_tokens"})
+      older->execute(step);
+    older->setVersion(0);
+  }
+  {
+    Store store(folder.path());
+    EXPECT_EQ(rows(store, "select * from qfjl") + rows(store, "select eml from xs"), 0);
+    RecordSet set(store, "select * from jfjl");
+    set.addNew();
+    set.update();
+    EXPECT_EQ(set.count(), 1);
+    EXPECT_EQ(store.database(Connection::Main).engine().version(), catalogueVersion);
+  }
+  bare()->setVersion(catalogueVersion + 1);
+  Store store(folder.path());
+  try {
+    rows(store, "select * from jfjl");
+    ADD_FAILURE() << "a catalogue of tomorrow was taken";
+  } catch (const StoreError& error) {
+    EXPECT_THAT(error.what(), testing::HasSubstr("升级"));
+  }
 }
 
 }  // namespace

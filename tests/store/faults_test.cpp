@@ -7,7 +7,6 @@
 #include <chrono>
 #include <fstream>
 #include <optional>
-#include <thread>
 
 #include "store/configurations.h"
 #include "store/database.h"
@@ -17,7 +16,6 @@
 namespace store {
 namespace {
 
-using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 
@@ -55,9 +53,6 @@ class Faults : public testing::Test {
     std::fstream file(folder.file(Connection::Main), std::ios::in | std::ios::out | std::ios::binary);
     file.seekp(static_cast<std::streamoff>(from));
     file << std::string(count, '\x5a');
-  }
-  std::unique_ptr<Engine> bare(std::chrono::milliseconds patience = 10s, std::function<void(bool)> onWait = {}) {
-    return openSqlite({folder.file(Connection::Main), std::string(mainPassword), false, patience}, std::move(onWait));
   }
 
   Folder folder;
@@ -160,37 +155,12 @@ TEST_F(Faults, AFolderWithoutRights) {
   fs::permissions(inside, fs::perms::owner_all);
 }
 
-TEST_F(Faults, AnotherComputerWrites) {
-  std::vector<bool> told;
-  const auto changes = [&](bool waiting) {
-    if (told.empty() || told.back() != waiting) told.push_back(waiting);
-  };
-  const auto other = bare();
-  other->begin();
-  const auto impatient = bare(300ms, changes);
-  EXPECT_EQ(faultOf([&] { impatient->begin(); }), Fault::Busy);
-  EXPECT_THAT(told, testing::ElementsAre(true, false));
-
-  Store store(folder.path());
-  told.clear();
-  store.onWait = changes;
-  RecordSet set(store, "select * from jfjl");
-  EXPECT_EQ(set.count(), 20) << "readers do not wait for a writer that has not finished";
-  std::thread finishing([&] {
-    std::this_thread::sleep_for(500ms);
-    other->commit();
-  });
-  addRow(set);
-  finishing.join();
-  EXPECT_THAT(told, testing::ElementsAre(true, false));
-  EXPECT_EQ(set.count(), 21);
-}
-
 TEST_F(Faults, AReadUnderWayHoldsNoLockOnceTheEventIsHandled) {
   Store store(folder.path());
   RecordSet walk(store, "select * from jfjl");
   EXPECT_FALSE(walk.atEnd());
-  const auto other = bare(100ms);
+  const auto other =
+      openSqlite({folder.file(Connection::Main), std::string(mainPassword), false, std::chrono::milliseconds(100)}, {});
   const auto write = [&] { other->execute("update jfjl set xm='changed'"); };
   EXPECT_EQ(faultOf(write), Fault::Busy);
   store.settle();
@@ -241,27 +211,6 @@ TEST_F(Faults, ACommitThatFailsLeavesNothing) {
   EXPECT_EQ(faultOf([&] { set.get("bz"); }), Fault::RowGone);
   addRow(set);
   EXPECT_EQ(set.count(), 21);
-}
-
-TEST_F(Faults, VersionsOfTheCatalogue) {
-  {
-    const auto older = bare();
-    older->execute("drop table qfjl");
-    older->execute("alter table xs drop column eml");
-    older->execute("drop table unit_tokens");
-    older->setVersion(0);
-  }
-  {
-    Store store(folder.path());
-    EXPECT_EQ(rows(store, "select * from qfjl"), 0);
-    EXPECT_EQ(rows(store, "select eml from xs"), 0);
-    RecordSet set(store, "select * from jfjl");
-    addRow(set);
-    EXPECT_EQ(set.count(), 21);
-    EXPECT_EQ(store.database(Connection::Main).engine().version(), catalogueVersion);
-  }
-  bare()->setVersion(catalogueVersion + 1);
-  EXPECT_THAT(refused("select * from jfjl").what(), HasSubstr("升级"));
 }
 
 TEST_F(Faults, AnotherDatabaseUnderAnOpenSet) {

@@ -20,7 +20,6 @@ namespace store {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::ElementsAre;
 using testing::HasSubstr;
 
 class ServerStore : public testing::Test {
@@ -48,9 +47,6 @@ class ServerStore : public testing::Test {
     std::this_thread::sleep_for(50ms);
   }
   std::string countOnServer() { return database->ask("select count(*) from office.jfjl"); }
-  std::unique_ptr<Engine> bare(std::chrono::milliseconds patience = 10s, std::function<void(bool)> onWait = {}) {
-    return openPostgres({database->server(), "office", patience}, std::move(onWait));
-  }
 
   Folder folder;
   std::optional<support::ServerDatabase> database;
@@ -81,20 +77,6 @@ TEST_F(ServerStore, ComputersThatStartAtOnceMakeOneSchema) {
     for (std::thread& desk : desks) desk.join();
     EXPECT_EQ(done, 4);
   }
-}
-
-TEST_F(ServerStore, VersionsOfTheCatalogue) {
-  database->ask(
-      "drop table office.qfjl; alter table office.xs drop column eml; update office.catalogue_version set version = 0");
-  {
-    Store store(folder.path());
-    EXPECT_EQ(rows(store, "select * from qfjl"), 0);
-    EXPECT_EQ(rows(store, "select eml from xs"), 0);
-    EXPECT_EQ(store.database(Connection::Main).engine().version(), catalogueVersion);
-  }
-  database->ask("update office.catalogue_version set version = 1000");
-  Store store(folder.path());
-  EXPECT_THAT(wordsOf([&] { rows(store, "select * from xs"); }), HasSubstr("升级"));
 }
 
 TEST_F(ServerStore, ABreakBetweenTwoActionsIsToldOnce) {
@@ -249,34 +231,6 @@ TEST_F(ServerWire, WhatIsNotKnownYetIsToldWithTheNextConnection) {
     engine->begin();
     engine->commit();
   }
-}
-
-TEST_F(ServerStore, AnotherComputerWrites) {
-  Store store(folder.path());
-  fill(store, 1);
-  const auto other = bare();
-  other->begin();
-  std::vector<bool> told;
-  const auto changes = [&](bool waiting) {
-    if (told.empty() || told.back() != waiting) told.push_back(waiting);
-  };
-  const auto impatient = bare(300ms, changes);
-  EXPECT_EQ(faultOf([&] { impatient->begin(); }), Fault::Busy);
-  EXPECT_THAT(told, ElementsAre(true, false));
-  told.clear();
-  store.onWait = changes;
-  RecordSet set(store, "select * from jfjl");
-  EXPECT_EQ(set.count(), 1) << "readers do not wait for a writer";
-  EXPECT_THAT(told, ElementsAre());
-  std::thread finishing([&] {
-    std::this_thread::sleep_for(500ms);
-    other->commit();
-  });
-  addRow(set, "2");
-  finishing.join();
-  EXPECT_THAT(told, ElementsAre(true, false));
-  impatient->begin();
-  impatient->rollback();
 }
 
 TEST_F(ServerStore, WhatTheServerRefusesTakesNothingElseWithIt) {
