@@ -44,8 +44,6 @@ TEST(Setup, OpensAnEditorAtTheSelectedRowAndShowsWhatItChangedInAllTabs) {
   EXPECT_EQ(s->majors.list.cell(2, 2), "财会");
   EXPECT_EQ(s->majors.list.selected(), 2);
   EXPECT_EQ(s->classes.list.cell(0, 0), "财会") << "the other lists follow";
-  desk.told("不存在需要修改的记录！  ");
-  s->bands.button("modify").press();
   desk.told("“考试成绩分段设置”尚未开放，将在后续版本中提供。");
   s->bands.button("add").press();
 }
@@ -147,29 +145,6 @@ TEST(Setup, TheFilterGoesWithTheNameOfItsClass) {
   s->classes.list.doubleClick(0);
   EXPECT_EQ(s->filter.text(), "");
   EXPECT_EQ(s->classStandards.list.count(), 2);
-}
-
-// Of rows b, c, d the second is chosen; before the button is pressed another desk adds one above it, or deletes it.
-TEST(Setup, ADeletedStandardIsTheOneThatWasSelected) {
-  for (const bool gone : {false, true}) {
-    SetupDesk desk;
-    desk.configure({{"bjsf1", true}});
-    for (const char* name : {"b班", "c班", "d班"}) desk.standard("旧", name, "学费", 1);
-    auto s = opened<Formsz>(desk);
-    s->classStandards.list.select(1);
-    if (gone) kit::removeEach(desk.store, "select * from sfbzb where bjmc='c班'");
-    else desk.standard("旧", "a班", "学费", 1);
-    if (gone) desk.told("选定的记录已被其他计算机删除，列表已重新加载。");
-    else
-      desk.navigator.expect<Formszsfbz1>([&](Formszsfbz1& removal) {
-        desk.person.answer(true, Box::Ask, "您确认是要删除选定记录吗 ？    ", "删除提示");
-        desk.told("选定记录已删除 ！     ");
-        removal.confirm.press();
-      });
-    s->classStandards.button("remove").press();
-    EXPECT_EQ(desk.dump("sfbzb", "bjmc"), gone ? "b班\nd班\n" : "b班\nd班\na班\n");
-    EXPECT_EQ(s->classStandards.list.selected(), -1);
-  }
 }
 
 TEST(Setup, EmptiesTheLogAfterAQuestion) {

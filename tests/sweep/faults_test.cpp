@@ -4,10 +4,6 @@
 #include "kit/fault.h"
 #include "sweep/world.h"
 
-namespace app {
-void PrintTo(const Entry& entry, std::ostream* out) { *out << entry.name; }
-}  // namespace app
-
 namespace sweep {
 namespace {
 

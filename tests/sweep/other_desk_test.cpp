@@ -3,30 +3,12 @@
 // not have touched without it, and a row that has gone is told in words.
 #include <gmock/gmock.h>
 
-#include <map>
 #include <set>
 
 #include "sweep/world.h"
 
 namespace sweep {
 namespace {
-
-using RowId = std::pair<std::string, std::int64_t>;  // table and mark
-using Books = std::map<RowId, std::string>;
-
-Books booksOf(store::Store& store) {
-  Books books;
-  for (const store::Table& table : store::tables()) {
-    if (table.remade || table.connection != store::Connection::Main) continue;
-    store::RecordSet rows(store, store::Sql::table(table.name));
-    store::forEach(rows, [&](store::RecordSet& row) {
-      std::string& text = books[{std::string(table.name), row.mark()}];
-      for (const store::Column& column : table.columns)
-        if (column.type != store::Type::Bytes) text += row.get(column.name).text() + "|";
-    });
-  }
-  return books;
-}
 
 // The rows that stood before and do not stand as they were.
 std::set<RowId> touched(const Books& before, const Books& after) {
@@ -46,14 +28,6 @@ struct Interference {
   const char* name;
   std::function<void(store::Store&, const std::string& table, std::int64_t above, std::int64_t selected)> work;
 };
-
-void copyRow(store::Store& store, const std::string& table, std::int64_t mark) {
-  store::RecordSet from(store, store::Sql::table(table)), to(store, store::Sql::table(table));
-  ASSERT_TRUE(from.goTo(mark));
-  to.addNew();
-  for (const std::string& column : from.fields()) to.set(column, from.get(column));
-  to.update();
-}
 
 void removeRow(store::Store& store, const std::string& table, std::int64_t mark) {
   store::RecordSet row(store, store::Sql::table(table));

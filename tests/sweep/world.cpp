@@ -57,9 +57,10 @@ World::World() {
   const base::Date day{2026, 9, 1};
   parts.add("zymcb", {{"zybh", "01"}, {"zymc", "计算机"}});
   for (const char* number : {"1", "2"})
-    parts.add(
-        "bjzl",
-        {{"bjmc", std::string("计算机") + number + "班"}, {"bjdh", std::string("010") + number}, {"zymc", "计算机"}});
+    parts.add("bjzl", {{"zybh", "01"},
+                       {"bjmc", std::string("计算机") + number + "班"},
+                       {"bjdh", std::string("010") + number},
+                       {"zymc", "计算机"}});
   parts.add("rxxs", {{"rxxs", "统招"}});
   parts.add("sfxmb", {{"sfxmbh", "01"}, {"sfxmmc", "学费"}});
   parts.add("sfbzb", {{"bjmc", "计算机1班"}, {"sfxmbh", "01"}, {"sfxmmc", "学费"}, {"je", Money::yuan(900)}});
@@ -96,6 +97,28 @@ World::World() {
   upkeep::addUser(parts.store, "王芳", upkeep::superLevel, "abc", parts.clock.now());
   parts.add("czjl", {{"yhxm", "王芳"}, {"jsjmc", "收费一号机"}, {"kjsj", "2026-9-7 8:00:00"}, {"gjsj", ""}});
   savedAtFirst = parts.store.saved();
+}
+
+Books booksOf(store::Store& store) {
+  Books books;
+  for (const store::Table& table : store::tables()) {
+    if (table.remade || table.connection != store::Connection::Main) continue;
+    store::RecordSet rows(store, store::Sql::table(table.name));
+    store::forEach(rows, [&](store::RecordSet& row) {
+      std::string& text = books[{std::string(table.name), row.mark()}];
+      for (const store::Column& column : table.columns)
+        if (column.type != store::Type::Bytes) text += row.get(column.name).text() + "|";
+    });
+  }
+  return books;
+}
+
+void copyRow(store::Store& store, const std::string& table, std::int64_t mark) {
+  store::RecordSet from(store, store::Sql::table(table)), to(store, store::Sql::table(table));
+  ASSERT_TRUE(from.goTo(mark));
+  to.addNew();
+  for (const std::string& column : from.fields()) to.set(column, from.get(column));
+  to.update();
 }
 
 void World::begin() {

@@ -4,9 +4,15 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "app/screens.h"
 #include "support/failing_engine.h"
 #include "support/test_desk.h"
+
+namespace app {
+inline void PrintTo(const Entry& entry, std::ostream* out) { *out << entry.name; }
+}  // namespace app
 
 namespace sweep {
 
@@ -50,6 +56,11 @@ struct World {
   kit::Desk desk{parts.session, parts.store,  person,        navigator,     parts.clock,
                  parts.printer, parts.sheets, parts.desktop, parts.progress};
 };
+
+using RowId = std::pair<std::string, std::int64_t>;  // table and mark
+using Books = std::map<RowId, std::string>;
+Books booksOf(store::Store& store);  // all rows of the main database
+void copyRow(store::Store& store, const std::string& table, std::int64_t mark);
 
 // One thing that a person, or a timer, can do to a screen. Screens are made anew for each try: a deed knows its member
 // by its place.
