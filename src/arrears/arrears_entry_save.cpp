@@ -3,6 +3,7 @@
 
 #include "arrears/arrears_entry.h"
 #include "base/text.h"
+#include "register/students.h"
 
 namespace arrears {
 
@@ -93,9 +94,27 @@ std::array<std::string, 10> Formqfcl::reminders() const {
   return remarks;
 }
 
+namespace {
+
+// Nobody owes under a number or in a class that another desk has taken away meanwhile.
+void studentMustStand(store::Store& store, const ArrearsEntry& entry) {
+  store::RecordSet student = school::loadStudent(store, entry.xh);
+  if (!student.empty() && student.get("xm").trimmed() == entry.xm && student.get("bjmc").trimmed() == entry.bjmc &&
+      student.get("xtbh").trimmed() == base::trim(entry.xtbh))
+    return;
+  throw store::StoreError(store::Fault::RowGone,
+                          "“" + entry.xm + "”的学籍资料已被其他计算机修改或删除，请重新输入学号调用该生的记录！");
+}
+
+}  // namespace
+
 void Formqfcl::save() {
   if (!valid()) return;
-  addArrears(desk.store, entry(), desk.clock);
+  const ArrearsEntry wanted = entry();
+  store::Unit unit(desk.store);
+  studentMustStand(desk.store, wanted);
+  addArrears(desk.store, wanted, desk.clock);
+  unit.finish();
   answer = {true, reminders()};
   close();
   inform("欠费信息录入成功 ！     ", "信息提示");

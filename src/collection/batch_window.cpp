@@ -176,6 +176,7 @@ void Formzctsf7::collect() {
   if (!result.missing.empty())
     warn("以下学生已不在该班，他们的收费没有保存：" + base::join(result.missing, "、") + "。请核对后另行收费。",
          "操作提示");
+  if (result.students == 0) return;
   if (askInfo("收费操作成功！打印收据吗？      ", "操作提示")) desk.printer.show(voucher);
 }
 

@@ -155,7 +155,9 @@ bool Formzctsf4::completeAmount(FeeLine& line) {
     line.paid.focus();
     return false;
   }
-  line.paid.set(line.hasItem() && !line.paid.blank() ? line.paidAmount().fixed2() : "");
+  // Arrears whose item was emptied can be paid: the row is known.
+  const bool stands = line.hasItem() || line.owed.mark != 0;
+  line.paid.set(stands && !line.paid.blank() ? line.paidAmount().fixed2() : "");
   return true;
 }
 

@@ -1,5 +1,6 @@
 #include "collection/payment_deletion.h"
 
+#include "base/text.h"
 #include "kit/rows.h"
 
 namespace collection {
@@ -26,10 +27,10 @@ std::optional<std::string> PaymentDeletion::refused() {
     if (one.get("sftj").trimmed() == "*")
       reason = scope_ == Scope::Receipt ? "这是一组已提交记录，前台不能删除它！    "
                                         : "这是一条已提交记录，前台不能删除它！    ";
-    else if (taker != user_) reason = "这是操作员" + taker + "经办的收费记录，您在前台不能删除它！   ";
+    else if (!base::sameText(taker, user_)) reason = "这是操作员" + taker + "经办的收费记录，您在前台不能删除它！   ";
   };
   look(row);
-  if (scope_ == Scope::Receipt) {
+  if (scope_ == Scope::Receipt && !receipt.empty()) {
     RecordSet all(store_, rowsOf(receipt));
     store::forEach(all, look);
   }
@@ -39,7 +40,8 @@ std::optional<std::string> PaymentDeletion::refused() {
 std::optional<std::string> PaymentDeletion::carryOut() {
   store::Unit unit(store_);
   if (auto reason = refused()) return reason;
-  if (scope_ == Scope::Receipt) kit::removeEach(store_, rowsOf(*receipt_));
+  // Payments whose receipt number was emptied have no receipt in common.
+  if (scope_ == Scope::Receipt && !receipt_->empty()) kit::removeEach(store_, rowsOf(*receipt_));
   else kit::rowAt(store_, "jfjl", row_).remove();
   unit.finish();
   return std::nullopt;

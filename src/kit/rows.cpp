@@ -57,10 +57,12 @@ store::StoreError changedMeanwhile(const std::string& what) {
 
 namespace {
 
-// Beyond fifteen digits the office's step through a number stands still; then its text goes on.
+// Beyond fifteen digits, and below zero, the office's step through a number stands still or leads back to one that was
+// passed; then its text goes on.
 std::string following(const std::string& number) {
   const std::string next = base::nextNumber(number);
-  return next == number ? number + "1" : next;
+  const bool after = next.size() == number.size() ? next > number : next.size() > number.size();
+  return after ? next : number + "1";
 }
 
 }  // namespace

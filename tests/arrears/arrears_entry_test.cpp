@@ -165,6 +165,21 @@ TEST(ArrearsEntry, WritesARowAnInstalmentAndRemindsOfTheFirstLine) {
   }
 }
 
+TEST(ArrearsEntry, WritesNothingOnAStudentWhoWasMovedOrDeletedMeanwhile) {
+  for (const bool deleted : {false, true}) {
+    ArrearsDesk desk;
+    auto s = opened(desk, given());
+    s->lines[0].sfxm.type("学费");
+    s->lines[0].total.type("300");
+    store::RecordSet student(desk.store, "select * from xs where xh='20260001'");
+    deleted ? student.removeAll() : student.setAll("bjmc", "计算机2班");
+    desk.failed("“王小明”的学籍资料已被其他计算机修改或删除，请重新输入学号调用该生的记录！");
+    s->confirm.press();
+    EXPECT_FALSE(s->closed());
+    EXPECT_EQ(desk.count("select * from qfjl"), 0);
+  }
+}
+
 TEST(ArrearsEntry, LoadsTheShortfallOfTheFeeWindow) {
   struct {
     std::string item;

@@ -1,5 +1,7 @@
 #include "collection/batch_window.h"
 
+#include <gmock/gmock.h>
+
 #include "support/test_desk.h"
 
 namespace {
@@ -87,7 +89,12 @@ TEST(BatchCollection, AClassPaysWithTheKeyboardAlone) {
             "202609070042|20260001|11001001|王小明" + middle + "10000100|300" + end +
                 "202609070043|20260002|11001002|张三" + middle + "10000101|250.5" + end);
   EXPECT_EQ(desk.count("select * from jfjl where skr='李芳' and sftj='' and sftj<>'*'"), 2);
-  EXPECT_EQ(desk.printer.shown.size(), 1u);
+  ASSERT_EQ(desk.printer.shown.size(), 1u);
+  std::string printed;
+  for (const platform::Mark& mark : desk.printer.shown[0].pages[0].marks)
+    if (const auto* text = std::get_if<platform::Text>(&mark)) printed += text->text + "|";
+  EXPECT_THAT(printed, testing::HasSubstr("|交费学生人数 2 人|"));
+  EXPECT_THAT(printed, testing::HasSubstr("|大写：伍佰伍拾元伍角零分|"));
   EXPECT_EQ(shown(*s) + s->sfxm.text() + s->person.text() + s->standard.text(), "");
   EXPECT_FALSE(s->closed());
   EXPECT_EQ(s->focused, &s->sfxm);
@@ -200,6 +207,13 @@ TEST(BatchCollection, ToldWhoHasLeftTheClass) {
   desk.expectSaved();
   s->confirm.press();
   EXPECT_EQ(desk.dump("jfjl", "xm|lsh|fpbh", "lsh"), "王小明|202609070001|10000001\n李思|202609070002|10000002\n");
+
+  // When nobody is left, nothing is told as collected.
+  s = chosen(desk);
+  s->cells[0].je.type("5");
+  store::RecordSet(desk.store, "select * from xs").setAll("bjmc", "会计1班");
+  desk.person.expect(Box::Warning, "以下学生已不在该班，他们的收费没有保存：王小明。请核对后另行收费。", "操作提示");
+  s->confirm.press();
 }
 
 }  // namespace

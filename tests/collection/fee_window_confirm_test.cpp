@@ -132,12 +132,12 @@ TEST(FeeWindowConfirm, ArrearsArePaidAndRemarked) {
   EXPECT_EQ(desk.count("select * from jfjl"), 3);
 }
 
-// Numbers can repeat, also those of another student.
+// Numbers can repeat, also those of another student, and an item can have been emptied.
 TEST(FeeWindowConfirm, PaysTheRowsInSight) {
   FeeDesk desk;
   desk.add("qfjl", {{"lsh", "2026907001"}, {"xh", "1"}, {"bjje", Money::yuan(9)}, {"sbjje", Money()}, {"clfs", ""}});
   desk.arrears("2026907001", "学费", {2026, 9, 14}, Money::yuan(500));
-  desk.arrears("2026907001", "住宿费", {2026, 10, 1}, Money::yuan(300));
+  desk.arrears("2026907001", "", {2026, 10, 1}, Money::yuan(300));
   auto window = desk.window(false);
   window->lines[1].tick.toggle();
   desk.expectSaved(false);

@@ -250,5 +250,20 @@ TEST(PaymentDeletion, LooksAtEveryRowBeforeAndAfterTheQuestion) {
     }
 }
 
+// Without a receipt number a payment is alone, and letter cases make no other operator.
+TEST(PaymentDeletion, WithoutAReceiptNumberTheRowGoesAlone) {
+  for (const store::Value& none : {store::Value(""), store::Value()}) {
+    Office office;
+    store::RecordSet all(office.store, "select * from jfjl");
+    all.setAll("fpbh", none);
+    all.setAll("skr", "Li");
+    PaymentDeletion deletion(office.store, selected(office, kit::Mode::Delete).row, PaymentDeletion::Scope::Receipt,
+                             "LI");
+    EXPECT_EQ(deletion.refused(), std::nullopt);
+    EXPECT_EQ(deletion.carryOut(), std::nullopt);
+    EXPECT_EQ(office.dump("jfjl", "xm"), "王小明\n王小明\n");
+  }
+}
+
 }  // namespace
 }  // namespace collection
