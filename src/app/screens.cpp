@@ -51,7 +51,8 @@ namespace app {
 namespace {
 
 template <class S> Entry screen(const char* name) {
-  return {name, [](kit::Desk& desk, const Opening& with) {
+  return {name,
+          [](kit::Desk& desk, const Opening& with) {
             if constexpr (std::is_constructible_v<S, kit::Desk&, kit::Editing>)
               return std::make_unique<S>(desk, with.editing);
             else if constexpr (std::is_constructible_v<S, kit::Desk&, collection::FeeWindowFor>)

@@ -8,8 +8,8 @@
 #include "collection/receipt_notes.h"
 #include "collection/receipt_print.h"
 #include "kit/at_exit.h"
-#include "register/settings.h"
 #include "kit/validation.h"
+#include "register/settings.h"
 
 namespace collection {
 

@@ -9,8 +9,7 @@ namespace students {
 
 using kit::Format;
 
-Formzctxsll::Formzctxsll(kit::Desk& all, std::int64_t row)
-    : Screen(all, "Formzctxsll", "学生学籍资料浏览"), row_(row) {
+Formzctxsll::Formzctxsll(kit::Desk& all, std::int64_t row) : Screen(all, "Formzctxsll", "学生学籍资料浏览"), row_(row) {
   back.onPress([this] {
     if (mayClose()) close();
   });
@@ -24,7 +23,8 @@ void Formzctxsll::load() {
       {&xh, Format::Text},       {&xm, Format::Text},       {&xb, Format::Text},    {&bjmc, Format::Text},
       {&csrq, Format::LongDate}, {&rxrq, Format::LongDate}, {&sfzhm, Format::Text}, {&zzmm, Format::Text},
       {&lxdh, Format::Text},     {&sjhm, Format::Text},     {&rxxs, Format::Text},  {&yzbm, Format::Text},
-      {&jtzz, Format::Text},     {&mz, Format::Text},       {&eml, Format::Text},   {&zymc, Format::Text},     {&byxx, Format::Text},     {&yhkh, Format::Text}};
+      {&jtzz, Format::Text},     {&mz, Format::Text},       {&eml, Format::Text},   {&zymc, Format::Text},
+      {&byxx, Format::Text},     {&yhkh, Format::Text}};
   for (const auto& [field, format] : shown) field->set(kit::formatted(row.get(field->name), format));
   sfbz.set(row.get("sfbz").money().fixed2());
   xp.set(fromBytes(row.get("xp").bytes()));

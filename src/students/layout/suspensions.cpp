@@ -9,10 +9,8 @@ using namespace kit;
 Layout Formxxfk::layout() {
   Nodes actions = suspensions.actions();
   actions.push_back(back);
-  return {.root = column({suspensions.shown(), buttons(std::move(actions))}),
-          .cancel = &back,
-          .width = 860,
-          .height = 520};
+  return {
+      .root = column({suspensions.shown(), buttons(std::move(actions))}), .cancel = &back, .width = 860, .height = 520};
 }
 
 Layout Formxxfk1::layout() {

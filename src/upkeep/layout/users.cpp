@@ -10,7 +10,10 @@ namespace upkeep {
 using namespace kit;
 
 Layout Formyhxx::layout() {
-  return {.root = column({users.shown(), buttons({add, modify, remove, back})}), .cancel = &back, .width = 560, .height = 420};
+  return {.root = column({users.shown(), buttons({add, modify, remove, back})}),
+          .cancel = &back,
+          .width = 560,
+          .height = 420};
 }
 
 Layout Formyhxx2::layout() {
