@@ -85,6 +85,7 @@ void Formzctsf4::clearAll() {
 
 void Formzctsf4::loadStudent() {
   store::RecordSet student = school::loadStudent(desk.store, current_xh);
+  student_ = student.empty() ? 0 : student.mark();
   if (!student.empty()) {
     xh.set(student.get("xh").trimmed());
     xm.set(student.get("xm").trimmed());
@@ -92,6 +93,7 @@ void Formzctsf4::loadStudent() {
     rxxs.set(student.get("rxxs").trimmed());
     bjmc.set(student.get("bjmc").trimmed());
     xtbh = student.get("xtbh").trimmed();
+    loaded_ = {xh.text(), xm.text(), bjmc.text()};
   }
   jfrq.set(desk.clock.today().plain());
   jffs.set("现金");

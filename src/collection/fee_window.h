@@ -71,8 +71,11 @@ class Formzctsf4 : public kit::Screen {  // 收费窗口
   void openArrearsEntry();
   bool valid();
   void save();
+  void studentMustStand();
   Receipt receipt() const;
   void remarkArrears(ReceiptNotes& printed) const;
+  std::int64_t student_ = 0;             // the row that was loaded; 0: the number is nobody's
+  std::array<std::string, 3> loaded_{};  // its number, name and class
   void print(const std::string& fpbh);
 };
 

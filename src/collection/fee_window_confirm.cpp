@@ -105,9 +105,26 @@ void Formzctsf4::remarkArrears(ReceiptNotes& printed) const {
   }
 }
 
+// No money is taken under a number, a name or a class that another desk has taken from the student meanwhile. What the
+// operator typed over stands as it was typed.
+void Formzctsf4::studentMustStand() {
+  if (student_ == 0) return;
+  store::RecordSet student = rows("select * from xs");
+  const bool there = student.goTo(student_);
+  const auto still = [&](const char* column, const kit::Field& field, const std::string& loaded) {
+    return field.trimmed() != loaded || student.get(column).trimmed() == loaded;
+  };
+  if (there && still("xh", xh, loaded_[0]) && still("xm", xm, loaded_[1]) && still("bjmc", bjmc, loaded_[2])) return;
+  throw store::StoreError(store::Fault::RowGone,
+                          "“" + xm.trimmed() + "”的学籍资料已被其他计算机修改或删除，请撤销后重新打开收费窗口！");
+}
+
 void Formzctsf4::save() {
   if (!valid()) return;
+  store::Unit unit(desk.store);
+  studentMustStand();
   const std::string fpbh = saveReceipt(desk.store, receipt(), desk.clock);
+  unit.finish();
   // The money is in the ledger now: the window closes whatever the printer says, so that nobody confirms twice.
   const kit::AtExit leaving([this] { close(); });
   if (askInfo("收费操作成功！打印收据吗？      ", "操作提示")) print(fpbh);

@@ -145,6 +145,24 @@ TEST(FeeWindowConfirm, PaysTheRowsInSight) {
   EXPECT_EQ(desk.dump("qfjl", "xh|sbjje|clfs"), "1|0|\n20260001|0|\n20260001|300|结清\n");
 }
 
+TEST(FeeWindowConfirm, TakesNoMoneyForAStudentWhomAnotherDeskTookAway) {
+  for (const char* column : {"bjmc", "xm", "xh", ""}) {  // changed there, or deleted
+    FeeDesk desk;
+    auto window = desk.window();
+    store::RecordSet student(desk.store, "select * from xs");
+    if (*column) student.set(column, "20269999"), student.update();
+    else student.remove();
+    window->lines[0].tick.toggle();
+    desk.person.expect(
+        Box::Stop,
+        "“王小明”的学籍资料已被其他计算机修改或删除，请撤销后重新打开收费窗口！\n本次操作的内容全部没有保存！",
+        "错误提示");
+    window->confirm.press();
+    EXPECT_FALSE(window->closed());
+    EXPECT_EQ(desk.count("select * from jfjl"), 0) << column;
+  }
+}
+
 TEST(FeeWindowConfirm, AShortfallOpensTheArrearsEntryOnce) {
   for (const bool remark : {true, false}) {
     FeeDesk desk;
