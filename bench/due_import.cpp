@@ -86,7 +86,7 @@ class Term {
 Measure importing(Office& office) {
   const auto term = std::make_shared<Term>(office);
   return {"import of 30000 amounts due, on the disk",
-          3,
+          1.4,
           9,
           [term] { return term->bare(); },
           [term] { return term->ours(); },

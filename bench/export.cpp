@@ -87,7 +87,7 @@ int main() {
     const auto folder = office.test.desktop.exportFolder();
     std::filesystem::create_directories(folder);
     const bool within =
-        bench::measureAll({{"export of " + std::to_string(exportedRows) + " payments, from rows to the file", 1.3, 15,
+        bench::measureAll({{"export of " + std::to_string(exportedRows) + " payments, from rows to the file", 1.2, 15,
                             [&] { return bench::timed([&] { writeBare(folder.string(), rows); }); },
                             [&] {
                               const bench::Seconds time =

@@ -25,7 +25,8 @@ template <class Work> Seconds timed(Work work) {
   return std::chrono::duration<Seconds>(std::chrono::steady_clock::now() - begin).count();
 }
 
-// Runs all, prints a line each; true when every one stayed within its limit.
-bool measureAll(const std::vector<Measure>& measures);
+// Runs all, or those whose description contains a word; prints a line each; true when every one stayed within its
+// limit.
+bool measureAll(const std::vector<Measure>& measures, const std::string& word = "");
 
 }  // namespace bench

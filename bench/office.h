@@ -12,7 +12,7 @@ struct Office {
                                                                        test.navigator, test.clock,   test.printer,
                                                                        test.sheets,    test.desktop, test.progress} {
     bare.run("pragma cache_size=-65536");
-    bare.run("pragma synchronous=full");
+    bare.run("pragma synchronous=extra");
   }
 
   long long rows(const std::string& table) {

@@ -78,7 +78,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   return bench::measureAll(
-             {{"program start to the login on the screen", 1.5, 15, [&] { return process(argv[0], "empty", argv[1]); },
+             {{"program start to the login on the screen", 1.25, 15, [&] { return process(argv[0], "empty", argv[1]); },
                [&] { return process(argv[0], "program", argv[1]); }}})
              ? 0
              : 1;

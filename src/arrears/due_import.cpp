@@ -1,14 +1,15 @@
 #include "arrears/due_import.h"
 
+#include <algorithm>
 #include <limits>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 #include "arrears/arrears_ledger.h"
 #include "base/text.h"
 #include "kit/rows.h"
 #include "store/error.h"
+#include "store/new_rows.h"
 
 namespace arrears {
 namespace {
@@ -87,13 +88,16 @@ class Standards {
   std::unordered_map<std::string, std::vector<Standard>> read_;
 };
 
-// One student and one item, written so that equal keys are what a statement would find equal.
-std::string pairKey(const std::string& xh, const std::string& sfxm) { return base::upper(xh + '\n' + sfxm); }
-
 // What stands for the term, by student and item. Read anew when another desk has added a payment or arrears since. What
 // it changes or takes away during the import is as if it came after it.
 class Booked {
  public:
+  struct Item {
+    std::string sfxm;
+    std::optional<Money> paid{};  // nothing when there is no payment at all
+    bool owed = false;
+  };
+
   Booked(store::Store& store, const std::string& term) : store_(store), term_(term) {}
 
   // Inside the unit that writes what follows from it.
@@ -101,34 +105,34 @@ class Booked {
     const auto last = std::pair(lastMark("select xh from jfjl"), lastMark("select xh from qfjl"));
     if (last == readTo_) return;
     readTo_ = last;
-    paid_.clear();
-    owed_.clear();
-    RecordSet payments(store_, Sql("select xh, sfxm, je from jfjl where xq='") + term_ + "'");
-    eachPair(payments, [&](RecordSet& row, std::string key) { paid_[std::move(key)] += row.get("je").money(); });
-    RecordSet arrears(store_, Sql("select xh, sfxm from qfjl where xq='") + term_ + "'");
-    eachPair(arrears, [&](RecordSet&, std::string key) { owed_.insert(std::move(key)); });
+    items_.clear();
+    each(Sql("select xh, sfxm, je from jfjl"),
+         [](RecordSet& row, Item& item) { item.paid = item.paid.value_or(Money()) + row.get("je").money(); });
+    each(Sql("select xh, sfxm from qfjl"), [](RecordSet&, Item& item) { item.owed = true; });
   }
   void ownRow(std::int64_t mark) { readTo_.second = mark; }
 
-  // Nothing when there is no payment at all.
-  std::optional<Money> paid(const std::string& xh, const std::string& sfxm) const {
+  Item& of(const std::string& xh, const std::string& sfxm) {
     // A quote ends a statement's text: whoever has one is refused here as at every other desk.
     if ((xh + sfxm).find('\'') != std::string::npos) {
       RecordSet(store_, Sql("select * from jfjl where xh='") + xh + "' and sfxm='" + sfxm + "' and xq='" + term_ + "'");
     }
-    const auto found = paid_.find(pairKey(xh, sfxm));
-    return found == paid_.end() ? std::nullopt : std::optional(found->second);
+    return item(xh, sfxm);
   }
 
-  // True once: the pair counts as owed from then on.
-  bool takePlace(const std::string& xh, const std::string& sfxm) { return owed_.insert(pairKey(xh, sfxm)).second; }
-
  private:
-  template <class Visit> static void eachPair(RecordSet& set, Visit visit) {
+  template <class Visit> void each(const Sql& table, Visit visit) {
+    RecordSet set(store_, table + " where xq='" + term_ + "'");
     store::forEach(set, [&](RecordSet& row) {
-      const store::Value xh = row.get("xh"), sfxm = row.get("sfxm");
-      if (!xh.isNull() && !sfxm.isNull()) visit(row, pairKey(xh.text(), sfxm.text()));
+      const std::string_view xh = row.text("xh"), sfxm = row.text("sfxm");
+      if (xh.data() && sfxm.data()) visit(row, item(xh, sfxm));
     });
+  }
+  Item& item(std::string_view xh, std::string_view sfxm) {
+    const auto known = items_.find(xh);
+    std::vector<Item>& of = known != items_.end() ? known->second : items_[std::string(xh)];
+    const auto found = std::ranges::find_if(of, [&](const Item& one) { return base::sameText(one.sfxm, sfxm); });
+    return found != of.end() ? *found : of.emplace_back(std::string(sfxm));
   }
   // Rises with every row that is added, and never falls: no mark is given twice.
   std::int64_t lastMark(const Sql& table) {
@@ -141,8 +145,7 @@ class Booked {
   store::Store& store_;
   const std::string& term_;
   std::pair<std::int64_t, std::int64_t> readTo_{-1, -1};
-  std::unordered_map<std::string, Money> paid_;
-  std::unordered_set<std::string> owed_;
+  base::TextMap<std::vector<Item>> items_;  // of each student
 };
 
 // The month stands as it is, the day with two digits: in the months 1 to 9 an import's numbers are one digit shorter
@@ -157,7 +160,11 @@ std::string firstNumber(store::Store& store, base::Date today) {
 class Entries {
  public:
   Entries(kit::Desk& desk, Common common)
-      : desk_(desk), common_(std::move(common)), ledger_(desk.store, "select * from qfjl") {}
+      : desk_(desk),
+        common_(std::move(common)),
+        ledger_(desk.store, "qfjl",
+                {"xh", "xm", "bjmc", "xtbh", "sfxm", "qfrq", "xq", "bjrq", "bjje", "sbjrq", "sbjje", "clfs", "qfts",
+                 "skr", "bsh", "lsh"}) {}
 
   int count() const { return count_; }
   bool underWay() const { return unit_.has_value(); }
@@ -172,36 +179,22 @@ class Entries {
     bsh_ = moment_.plain();
   }
 
-  // Gives back the new row's mark.
-  std::int64_t add(const Student& student, const Standard& standard, std::optional<Money> paid) {
+  void add(const Student& student, const Standard& standard, std::optional<Money> paid) {
     if (count_ == mostRows)
       throw store::StoreError(store::Fault::Other,
                               "一次最多只能导入" + std::to_string(mostRows) +
                                   "条应交费记录，超出的部分没有导入！已导入的记录有效，请再次导入以补齐其余记录。");
-    kit::addRow(ledger_, {{"xh", student.xh},
-                          {"xm", student.xm},
-                          {"bjmc", student.bjmc},
-                          {"xtbh", student.xtbh},
-                          {"sfxm", standard.sfxmmc},
-                          {"qfrq", moment_.date},
-                          {"xq", common_.term},
-                          {"bjrq", common_.deadline},
-                          {"bjje", standard.je - paid.value_or(Money())},
-                          {"sbjrq", paid ? store::Value("") : store::Value()},
-                          {"sbjje", Money()},
-                          {"clfs", paid ? partlyPaid : ""},
-                          {"qfts", common_.lead},
-                          {"skr", common_.operatorName},
-                          {"bsh", bsh_},
-                          {"lsh", numbers_[used_++]}});
+    ledger_.add(student.xh, student.xm, student.bjmc, student.xtbh, standard.sfxmmc, moment_.date, common_.term,
+                common_.deadline, standard.je - paid.value_or(Money()), paid ? store::Value("") : store::Value(),
+                Money(), paid ? partlyPaid : "", common_.lead, common_.operatorName, bsh_, numbers_[used_++]);
     ++count_;
-    const std::int64_t mark = ledger_.mark();
     if (used_ == rowsOfUnit) finish();
-    return mark;
   }
+  std::int64_t lastMark() const { return ledger_.lastMark(); }
 
   void finish() {
     if (!unit_) return;
+    ledger_.finish();
     unit_->finish();
     unit_.reset();
   }
@@ -217,7 +210,7 @@ class Entries {
  private:
   kit::Desk& desk_;
   const Common common_;
-  RecordSet ledger_;
+  store::NewRows ledger_;
   std::optional<store::Unit> unit_;
   base::DateTime moment_;
   std::string bsh_;
@@ -243,9 +236,11 @@ std::optional<int> importDue(kit::Desk& desk, const DueImport& chosen, const Imp
       const int before = entries.count();
       for (const Standard& standard : standards.of(student)) {
         if (!entries.underWay()) entries.begin(), booked.read();
-        const std::optional<Money> paid = booked.paid(student.xh, standard.sfxmmc);
-        if (paid && *paid >= standard.je) continue;
-        if (booked.takePlace(student.xh, standard.sfxmmc)) booked.ownRow(entries.add(student, standard, paid));
+        Booked::Item& item = booked.of(student.xh, standard.sfxmmc);
+        if (item.owed || (item.paid && *item.paid >= standard.je)) continue;
+        item.owed = true;
+        entries.add(student, standard, item.paid);
+        booked.ownRow(entries.lastMark());
       }
       tell(entries.count() > before ? "正在导入" + student.xm + "的应交费记录 ..." : scanning, ++done, total);
     }

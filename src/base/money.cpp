@@ -32,9 +32,16 @@ std::uint64_t magnitude(std::int64_t value) {
   return value < 0 ? 0 - static_cast<std::uint64_t>(value) : static_cast<std::uint64_t>(value);
 }
 
-std::string padded(std::uint64_t value, std::size_t width) {
-  std::string digits = std::to_string(value);
-  return std::string(width - std::min(width, digits.size()), '0') + digits;
+// The text of an amount with so many decimals.
+std::string written(bool negative, std::uint64_t whole, std::uint64_t decimals, std::size_t count) {
+  std::array<char, 32> buffer;
+  char* at = buffer.data() + buffer.size();
+  for (std::size_t i = 0; i < count; ++i, decimals /= 10) *--at = static_cast<char>('0' + decimals % 10);
+  if (count > 0) *--at = '.';
+  do *--at = static_cast<char>('0' + whole % 10);
+  while (whole /= 10);
+  if (negative) *--at = '-';
+  return {at, buffer.data() + buffer.size()};
 }
 
 }  // namespace
@@ -53,14 +60,15 @@ Money Money::leading(std::string_view text) {
 
 std::string Money::plain() const {
   const std::uint64_t value = magnitude(units_);
-  std::string decimals = padded(value % unitsPerYuan, places);
-  decimals.erase(decimals.find_last_not_of('0') + 1);
-  return (units_ < 0 ? "-" : "") + std::to_string(value / unitsPerYuan) + (decimals.empty() ? "" : "." + decimals);
+  std::uint64_t decimals = value % unitsPerYuan;
+  std::size_t count = places;
+  for (; count > 0 && decimals % 10 == 0; --count) decimals /= 10;
+  return written(units_ < 0, value / unitsPerYuan, decimals, count);
 }
 
 std::string Money::fixed2() const {
   const std::uint64_t cents = (magnitude(units_) + 50) / 100;
-  return (units_ < 0 && cents > 0 ? "-" : "") + std::to_string(cents / 100) + "." + padded(cents % 100, 2);
+  return written(units_ < 0 && cents > 0, cents / 100, cents % 100, 2);
 }
 
 std::string paddedAmount(Money amount) {

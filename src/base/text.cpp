@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 #include "base/number_text.h"
@@ -61,10 +62,10 @@ std::string roundedDigits(double value) {
 
 }  // namespace
 
-std::string trim(std::string_view text) {
+std::string_view trimmed(std::string_view text) {
   const std::size_t from = text.find_first_not_of(blanks);
   if (from == std::string_view::npos) return {};
-  return std::string(text.substr(from, text.find_last_not_of(blanks) - from + 1));
+  return text.substr(from, text.find_last_not_of(blanks) - from + 1);
 }
 
 bool blank(std::string_view text) { return text.find_first_not_of(blanks) == std::string_view::npos; }
@@ -93,12 +94,21 @@ bool sameText(std::string_view a, std::string_view b) {
                     [](char x, char y) { return upperLetter(x) == upperLetter(y); });
 }
 
-std::string validUtf8(std::string_view text) {
-  std::string result;
-  result.reserve(text.size());
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t size = sequence(text, at);
-    result += size > 0 ? text.substr(at, size) : replacement;
+std::size_t SameTextHash::operator()(std::string_view text) const {
+  std::uint64_t hash = 14695981039346656037U;  // FNV-1a
+  for (const char c : text) hash = (hash ^ static_cast<unsigned char>(upperLetter(c))) * 1099511628211U;
+  return hash;
+}
+
+std::string validUtf8(std::string text) {
+  std::size_t valid = 0;  // bytes from the front; mostly all
+  for (std::size_t size = 1; size > 0 && valid < text.size(); valid += size) size = sequence(text, valid);
+  if (valid == text.size()) return text;
+  const std::string_view all(text);
+  std::string result(all.substr(0, valid));
+  for (std::size_t at = valid; at < all.size();) {
+    const std::size_t size = sequence(all, at);
+    result += size > 0 ? all.substr(at, size) : replacement;
     at += std::max<std::size_t>(size, 1);
   }
   return result;

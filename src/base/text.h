@@ -3,20 +3,36 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace base {
 
-std::string trim(std::string_view text);                     // blanks, tabs and line ends, on both sides
-bool blank(std::string_view text);                           // nothing left after trimming
-std::size_t length(std::string_view text);                   // in characters
-std::string left(std::string_view text, std::size_t count);  // the first count characters
+std::string_view trimmed(std::string_view text);  // without blanks, tabs and line ends on both sides
+inline std::string trim(std::string_view text) { return std::string(trimmed(text)); }
+bool blank(std::string_view text);                                            // nothing left after trimming
+std::size_t length(std::string_view text);                                    // in characters
+std::string left(std::string_view text, std::size_t count);                   // the first count characters
 std::string mid(std::string_view text, std::size_t from, std::size_t count);  // from counts from 1
 std::string upper(std::string_view text);                                     // ASCII letters only
 bool sameText(std::string_view a, std::string_view b);       // without regard to ASCII case, as the store compares
-std::string validUtf8(std::string_view text);                // broken sequences become U+FFFD
+std::string validUtf8(std::string text);                     // broken sequences become U+FFFD
 std::vector<std::string> characters(std::string_view text);  // one entry a character
 std::string join(const std::vector<std::string>& parts, std::string_view between);
+
+// Tables whose keys are equal when they are the same text. They are asked with a view, so that a walk over many rows
+// makes no string for a key that is known.
+struct SameTextHash {
+  using is_transparent = void;
+  std::size_t operator()(std::string_view text) const;
+};
+struct SameTextEqual {
+  using is_transparent = void;
+  bool operator()(std::string_view a, std::string_view b) const { return sameText(a, b); }
+};
+template <class Value> using TextMap = std::unordered_map<std::string, Value, SameTextHash, SameTextEqual>;
+using TextSet = std::unordered_set<std::string, SameTextHash, SameTextEqual>;
 
 // Numbers as operators type them.
 bool isNumeric(std::string_view text);  // optional sign, digits, optional decimals, blanks around; "" is not numeric

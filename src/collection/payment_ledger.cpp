@@ -37,7 +37,7 @@ void addRow(RecordSet& ledger, const Receipt& receipt, const PaidLine& line, con
       {"skr", receipt.skr},   {"bsh", now.plain()},   {"sftj", ""},       {"rxxs", receipt.rxxs}};
   if (receipt.jffs) row.emplace_back("jffs", *receipt.jffs);
   if (receipt.bz) row.emplace_back("bz", *receipt.bz);
-  kit::addRow(ledger, row);
+  kit::addRow(ledger, std::move(row));
 }
 
 std::vector<arrears::ArrearsPayment> arrearsOf(const Receipt& receipt) {

@@ -1,7 +1,5 @@
 #include "collection/submission.h"
 
-#include <unordered_set>
-
 #include "base/text.h"
 #include "collection/payment_columns.h"
 #include "kit/rights.h"
@@ -86,17 +84,15 @@ void Formzctsf9::submitMine() {
 // Submits what was counted; what the user has collected at another computer meanwhile is not in the sum that was
 // confirmed, and stays. False: not all of it is there as it was, and nothing is written.
 bool Formzctsf9::submitted(const std::vector<std::int64_t>& counted, base::Money total) {
-  const std::unordered_set<std::int64_t> marks(counted.begin(), counted.end());
   store::Unit unit(desk.store);
   base::Money sum;
-  std::size_t found = 0;
-  RecordSet mine = rows(unsubmitted(desk, "select je,sftj from jfjl"));
-  store::forEach(mine, [&](RecordSet& row) {
-    if (!marks.contains(row.mark())) return;
-    sum += row.get("je").money();
-    ++found;
+  bool asCounted = true;
+  RecordSet mine = rows("select skr,sftj,je from jfjl");
+  mine.visit(counted, [&](bool there) {
+    asCounted &= there && mine.text("sftj") != "*" && base::sameText(mine.text("skr"), desk.session.SessionUser);
+    if (asCounted) sum += mine.get("je").money();
   });
-  if (found != counted.size() || sum != total) return false;
+  if (!asCounted || sum != total) return false;
   mine.setMarked(counted, "sftj", "*");
   unit.finish();
   return true;

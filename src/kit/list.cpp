@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "base/text.h"
 #include "kit/screen.h"
 
 namespace kit {
@@ -78,8 +79,11 @@ void List::addRow(const std::vector<std::string>& cells, std::int64_t mark) {
 }
 
 void List::addCells(store::RecordSet& row, Cells& cells) const {
-  for (const ListColumn& column : columns_)
-    cells.add(column.column.empty() ? "" : formatted(row.get(column.column), column.format));
+  for (const ListColumn& column : columns_) {
+    if (column.column.empty()) cells.add("");
+    else if (column.format == Format::Text) cells.add(base::trimmed(row.text(column.column)));
+    else cells.add(formatted(row.get(column.column), column.format));
+  }
 }
 
 void List::fill(store::RecordSet& set, const std::function<void(store::RecordSet&)>& visit) {

@@ -19,14 +19,14 @@ void setEach(store::Store& store, const store::Sql& sql, std::string_view column
 
 void removeEach(store::Store& store, const store::Sql& sql) { store::RecordSet(store, sql).removeAll(); }
 
-void writeRow(store::RecordSet& row, const std::vector<std::pair<std::string_view, store::Value>>& values) {
-  for (const auto& [column, value] : values) row.set(column, value);
+void writeRow(store::RecordSet& row, std::vector<std::pair<std::string_view, store::Value>> values) {
+  for (auto& [column, value] : values) row.set(column, std::move(value));
   row.update();
 }
 
-void addRow(store::RecordSet& set, const std::vector<std::pair<std::string_view, store::Value>>& values) {
+void addRow(store::RecordSet& set, std::vector<std::pair<std::string_view, store::Value>> values) {
   set.addNew();
-  writeRow(set, values);
+  writeRow(set, std::move(values));
 }
 
 namespace {

@@ -18,9 +18,9 @@ void setEach(store::Store& store, const store::Sql& sql, std::string_view column
 void removeEach(store::Store& store, const store::Sql& sql);
 
 // Sets the columns of the row that is current or new, and writes it.
-void writeRow(store::RecordSet& row, const std::vector<std::pair<std::string_view, store::Value>>& values);
+void writeRow(store::RecordSet& row, std::vector<std::pair<std::string_view, store::Value>> values);
 // A new row of the set.
-void addRow(store::RecordSet& set, const std::vector<std::pair<std::string_view, store::Value>>& values);
+void addRow(store::RecordSet& set, std::vector<std::pair<std::string_view, store::Value>> values);
 
 // The row that a person selected, as it stands now. Raises Fault::RowGone, in words, when it is there no more.
 store::RecordSet rowAt(store::Store& store, std::string_view table, std::int64_t mark);

@@ -5,7 +5,6 @@
 #include <map>
 #include <optional>
 #include <unordered_map>
-#include <unordered_set>
 
 #include "base/money.h"
 #include "base/text.h"
@@ -23,23 +22,37 @@ namespace {
 // together, in the order in which the store sorts them.
 template <class Sum> class Groups {
  public:
-  Sum& operator[](const std::string& text) { return raw_[text]; }
+  Sum& operator[](std::string_view text) {
+    if (last_ && last_->first == text) return last_->second;  // rows of one class mostly follow each other
+    auto known = raw_.find(text);
+    if (known == raw_.end()) known = raw_.emplace(text, Sum()).first;
+    last_ = &*known;
+    return last_->second;
+  }
   struct Group {
+    Group(std::string known, Sum first) : text(std::move(known)), sum(std::move(first)) {}
     std::string text;
     Sum sum;
   };
-  std::map<std::string, Group> joined() const {
+  std::map<std::string, Group> joined() {
     std::map<std::string, Group> result;
-    for (const auto& [text, sum] : raw_) {
-      Group& group = result[base::upper(text)];
-      if (group.text.empty() || text < group.text) group.text = text;
-      group.sum += sum;
+    for (auto& [text, sum] : raw_) {
+      const auto [group, isNew] = result.try_emplace(base::upper(text), text, std::move(sum));
+      if (isNew) continue;
+      if (text < group->second.text) group->second.text = text;
+      group->second.sum += sum;
     }
+    raw_.clear();
+    last_ = nullptr;
     return result;
   }
 
  private:
-  std::unordered_map<std::string, Sum> raw_;
+  struct Hash : std::hash<std::string_view> {
+    using is_transparent = void;
+  };
+  std::unordered_map<std::string, Sum, Hash, std::equal_to<>> raw_;
+  std::pair<const std::string, Sum>* last_ = nullptr;
 };
 
 template <class Sum>
@@ -81,11 +94,15 @@ struct Kept {
 
 struct Owed {
   Money balance;
-  std::unordered_set<std::string> students;
+  std::vector<std::string> students;  // one that comes again at once is left out
+  void add(std::string_view xh) {
+    if (students.empty() || students.back() != xh) students.emplace_back(xh);
+  }
   void operator+=(const Owed& other) {
     balance += other.balance;
-    for (const std::string& xh : other.students) students.insert(base::upper(xh));  // once a number, not once a row
+    students.insert(students.end(), other.students.begin(), other.students.end());
   }
+  std::size_t heads() const { return base::TextSet(students.begin(), students.end()).size(); }
 };
 
 struct Due {
@@ -106,20 +123,20 @@ Statistics studentStatistics(store::Store& store) {
   Heads school;
   RecordSet students(store, "select bjmc,xb,xtbh from xs");
   store::forEach(students, [&](RecordSet& student) {
-    const std::string name = student.get("bjmc").text();
-    const bool man = student.get("xb").text() == "男";
-    byClass[name].add(man);
-    byMajor[base::left(student.get("xtbh").text(), 2)].add(man);
+    Heads& ofClass = byClass[student.text("bjmc")];
+    const bool man = student.text("xb") == "男";
+    ofClass.add(man);
+    byMajor[base::left(student.text("xtbh"), 2)].add(man);
     school.add(man);
   });
   Statistics result;
   const auto classHeads = byClass.joined(), majorHeads = byMajor.joined();
-  RecordSet classes(store, "select * from bjzl order by bjdh");
+  RecordSet classes(store, "select bjmc from bjzl order by bjdh");
   store::forEach(classes, [&](RecordSet& row) {
     const std::string name = row.get("bjmc").trimmed();
     result.first.push_back(find<Heads>(classHeads, name).cells(name));
   });
-  RecordSet majors(store, "select * from zymcb order by zybh");
+  RecordSet majors(store, "select zybh,zymc from zymcb order by zybh");
   store::forEach(majors, [&](RecordSet& row) {
     result.second.push_back(find<Heads>(majorHeads, row.get("zybh").trimmed()).cells(row.get("zymc").trimmed()));
   });
@@ -135,17 +152,17 @@ Statistics paymentStatistics(store::Store& store) {
   Money sum, keptSum;
   RecordSet payments(store, "select sfxm,je,sftj,skr,jfrq from jfjl");
   store::forEach(payments, [&](RecordSet& payment) {
-    Taken& item = byItem[payment.get("sfxm").text()];
-    const Money amount = payment.get("je").money();
-    const store::Value submitted = payment.get("sftj");
+    Taken& item = byItem[payment.text("sfxm")];
+    const Money amount = payment.money("je");
+    const std::string_view submitted = payment.text("sftj");
     ++count;
     sum += amount;
     item.all += amount;
-    if (submitted.text() == "*") item.submitted += amount;
+    if (submitted == "*") item.submitted += amount;
     // Empty, not merely other than "*": the lists ask for the latter, and the two agree as long as the column holds
     // nothing else.
-    if (submitted.isNull() || !submitted.text().empty()) return;
-    Kept& kept = byOperator[payment.get("skr").text()];
+    if (submitted.data() == nullptr || !submitted.empty()) return;
+    Kept& kept = byOperator[payment.text("skr")];
     kept.sum += amount;
     if (const auto day = payment.get("jfrq").date()) kept.span(*day, *day);
     ++keptCount;
@@ -167,28 +184,32 @@ Statistics paymentStatistics(store::Store& store) {
 Statistics arrearsStatistics(store::Store& store, base::Date today) {
   Statistics result;
   Groups<Owed> owed;
-  RecordSet open(store, "select bjmc,xh,bjje,sbjje from qfjl where sbjje<bjje and clfs<>'减免'");
-  store::forEach(open, [&](RecordSet& row) {
-    Owed& one = owed[row.get("bjmc").text()];
-    one.students.insert(row.get("xh").text());
-    one.balance += row.get("bjje").money() - row.get("sbjje").money();
+  Groups<Due> month;
+  RecordSet arrears(store, Sql("select bjmc,xh,bjje,sbjje,clfs,bjrq from qfjl where sbjje<bjje and clfs<>'减免' or ") +
+                               "month(bjrq)='" + std::to_string(today.month) + "'");
+  store::forEach(arrears, [&](RecordSet& row) {
+    const Money due = row.money("bjje"), paid = row.money("sbjje");
+    const std::string_view state = row.text("clfs");
+    const bool waived = state == "减免";
+    // As the list of open arrears sees it, for which nothing can be said of a column that was never set.
+    if (paid < due && !waived && state.data() && !row.get("sbjje").isNull() && !row.get("bjje").isNull()) {
+      Owed& one = owed[row.text("bjmc")];
+      one.add(row.text("xh"));
+      one.balance += due - paid;
+    }
+    const auto planned = row.get("bjrq").date();
+    if (!planned || planned->month != today.month) return;
+    Due& one = month[row.text("bjmc")];
+    one.due += due;
+    one.paid += paid;
+    if (waived) one.waived += paid;
   });
   for (const auto& [key, one] : owed.joined())
-    result.first.push_back({one.text, std::to_string(one.sum.students.size()), base::paddedAmount(one.sum.balance)});
+    result.first.push_back({one.text, std::to_string(one.sum.heads()), base::paddedAmount(one.sum.balance)});
 
-  Groups<Due> month;
-  RecordSet planned(
-      store, Sql("select bjmc,bjje,sbjje,clfs from qfjl where month(bjrq)='") + std::to_string(today.month) + "'");
-  store::forEach(planned, [&](RecordSet& row) {
-    Due& one = month[row.get("bjmc").text()];
-    const Money paid = row.get("sbjje").money();
-    one.due += row.get("bjje").money();
-    one.paid += paid;
-    if (row.get("clfs").text() == "减免") one.waived += paid;
-  });
   const auto byClass = month.joined();
   Due school;
-  RecordSet classes(store, "select * from bjzl order by bjdh");
+  RecordSet classes(store, "select bjmc from bjzl order by bjdh");
   store::forEach(classes, [&](RecordSet& row) {
     const std::string name = row.get("bjmc").trimmed();
     const Due one = find<Due>(byClass, name);

@@ -46,8 +46,10 @@ class Cursor {
   bool atRow();
   std::int64_t rowNo();  // of the current row; raises Fault::RowGone when there is none
   Value value(std::size_t column);
-  void standOn(std::int64_t rowNo);  // a row that has just been written; nothing comes behind it
-  bool goTo(std::int64_t rowNo);     // stands on a row as it is now; false, and no row is current, when it is gone
+  base::Money money(std::size_t column);      // of a column of amounts
+  std::string_view text(std::size_t column);  // of a column of texts; good until the cursor moves
+  void standOn(std::int64_t rowNo);           // a row that has just been written; nothing comes behind it
+  bool goTo(std::int64_t rowNo);  // stands on a row as it is now; false, and no row is current, when it is gone
   // Stands on each of the rows in turn, all read in few statements; there is false for a row that was deleted.
   void visit(std::span<const std::int64_t> rowNos, const std::function<void(bool there)>& visit);
   bool empty();
@@ -73,7 +75,10 @@ class Cursor {
   void step();
   bool unread() const { return place_ == Place::First && !stream_; }
   void resume();
+  void visitRange(const std::vector<Cell>& portion, const std::vector<Cell>& range,
+                  const std::function<void(bool there)>& visit);
   void pinStream();
+  const Row& heldRow();
   std::optional<Row> fetch(std::int64_t rowNo);
   std::optional<Row> fetchAhead();
   Value bytes(std::size_t column);
@@ -88,6 +93,7 @@ class Cursor {
   std::optional<Row> row_;                       // the current row of a pinned walk, once read
   std::unordered_map<std::int64_t, Row> ahead_;  // rows of a pinned walk in a unit, read before their turn
   std::deque<std::int64_t> rest_;                // the rows behind it
+  std::string together_, range_;                 // the statements that read many of its rows, once written
   std::deque<Row> groups_;                       // the same of a grouped walk, whose rows have no numbers
 };
 

@@ -128,7 +128,7 @@ Answer PostgresStatement::runPrepared() {
 
 void PostgresStatement::note(const PGresult* answer) {
   written_.rows = numberOf<long long>(PQcmdTuples(const_cast<PGresult*>(answer)));
-  if (kind_ == Kind::Insert) written_.lastRowNo = numberOf<long long>(PQgetvalue(answer, 0, 0));
+  if (kind_ == Kind::Insert) written_.lastRowNo = numberOf<long long>(PQgetvalue(answer, PQntuples(answer) - 1, 0));
 }
 
 // Windows grow as long as the rows are small: a look costs a few rows, a walk few ways to the server.

@@ -101,17 +101,24 @@ std::string rowsStatement(const Query& query, const Phrases& phrases, std::size_
          placesFrom(0, count, phrases);
 }
 
+std::string rangeStatement(const Query& query, const Phrases& phrases) {
+  return "select " + listOf(query) + " from " + quoted(query.table->name) + " where row_no between " +
+         phrases.place(0, Stored::Whole) + " and " + phrases.place(1, Stored::Whole) + " order by row_no";
+}
+
 std::string bytesStatement(const Query& query, const Column& column, const Phrases& phrases) {
   return "select " + quoted(column.name) + " from " + quoted(query.table->name) +
          " where row_no = " + phrases.place(0, Stored::Whole);
 }
 
-std::string insertStatement(const Table& table, const std::vector<const Column*>& columns, const Phrases& phrases) {
+std::string insertStatement(const Table& table, const std::vector<const Column*>& columns, const Phrases& phrases,
+                            std::size_t rows) {
   if (columns.empty()) return "insert into " + quoted(table.name) + " default values";
   std::string names, places;
-  for (std::size_t i = 0; i < columns.size(); ++i) {
-    names += (i ? ", " : "") + quoted(columns[i]->name);
-    places += (i ? ", " : "") + phrases.place(i, storedAs(columns[i]->type));
+  for (const Column* column : columns) names += (names.empty() ? "" : ", ") + quoted(column->name);
+  for (std::size_t place = 0; place < rows * columns.size(); ++place) {
+    const std::size_t i = place % columns.size();
+    places += (i > 0 ? ", " : place > 0 ? "), (" : "") + phrases.place(place, storedAs(columns[i]->type));
   }
   return "insert into " + quoted(table.name) + " (" + names + ") values (" + places + ")";
 }

@@ -27,8 +27,10 @@ Query plan(const dialect::Select& select, Connection connection, const Phrases& 
 
 // The statements behind the writes and single reads of a set; values in the order of the columns, row_no last.
 std::string rowsStatement(const Query& query, const Phrases& phrases, std::size_t count);  // of so many row_nos
+std::string rangeStatement(const Query& query, const Phrases& phrases);                    // from one row_no to another
 std::string bytesStatement(const Query& query, const Column& column, const Phrases& phrases);
-std::string insertStatement(const Table& table, const std::vector<const Column*>& columns, const Phrases& phrases);
+std::string insertStatement(const Table& table, const std::vector<const Column*>& columns, const Phrases& phrases,
+                            std::size_t rows = 1);
 std::string updateStatement(const Table& table, const std::vector<const Column*>& columns, const Phrases& phrases);
 std::string removeStatement(const Table& table, const Phrases& phrases);
 

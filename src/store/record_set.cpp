@@ -25,11 +25,12 @@ struct RecordSet::State {
   Editing editing = Editing::Nothing;
   std::vector<Change> changes;  // of the current or the new row, not written yet
   // Screens read the columns of each row in the same order: the nth name asked for in a row is a good guess.
-  std::vector<std::size_t> guesses;
+  std::vector<std::pair<std::string_view, std::size_t>> guesses;
   std::size_t asked = 0;
   // New rows mostly have the columns of the one before.
   std::vector<const Column*> insertedColumns;
   std::string insertSql;
+  std::string shown;  // what text() has given out
 
   Cursor& rows() {
     if (cursor) return *cursor;
@@ -43,16 +44,30 @@ struct RecordSet::State {
   }
 
   std::size_t column(std::string_view name) {
-    const auto& columns = rows().query().columns;
     const std::size_t turn = asked++;
-    if (turn < guesses.size() && columns[guesses[turn]]->name == name) return guesses[turn];
+    if (turn < guesses.size() && guesses[turn].first == name) return guesses[turn].second;
+    const auto& columns = rows().query().columns;
     for (std::size_t i = 0; i < columns.size(); ++i) {
       if (!base::sameText(columns[i]->name, name)) continue;
-      if (turn < columns.size()) guesses.resize(std::max(guesses.size(), turn + 1), i), guesses[turn] = i;
+      if (turn < 2 * columns.size())
+        guesses.resize(std::max(guesses.size(), turn + 1)), guesses[turn] = {columns[i]->name, i};
       return i;
     }
     columnOf(rows().table(), std::string(name));
     throw StoreError(Fault::NoSuchColumn, "打开的记录中没有“" + base::left(name, 40) + "”这一栏！");
+  }
+
+  // The row is the one in the table, and the column of this type: it need not be made a value first.
+  bool asStored(std::size_t index, Type type) {
+    return editing != Editing::NewRow && changes.empty() && rows().query().columns[index]->type == type;
+  }
+
+  Value at(std::size_t index) {
+    for (const Change& change : changes) {
+      if (change.column == index) return change.value;
+    }
+    if (editing == Editing::NewRow) return {};
+    return rows().value(index);
   }
 
   void mustBeWritable() {
@@ -74,6 +89,8 @@ struct RecordSet::State {
     const Phrases& phrases = at.database().engine().phrases();
     std::vector<const Column*> columns;
     std::vector<Cell> values;
+    columns.reserve(changes.size());
+    values.reserve(changes.size() + 1);
     for (const Change& change : changes) {
       columns.push_back(at.query().columns[change.column]);
       values.push_back(cell(change.value));
@@ -134,13 +151,20 @@ void RecordSet::next() {
 
 bool RecordSet::atEnd() { return state_->editing != State::Editing::NewRow && !state_->rows().atRow(); }
 
-Value RecordSet::get(std::string_view column) {
+Value RecordSet::get(std::string_view column) { return state_->at(state_->column(column)); }
+
+std::string_view RecordSet::text(std::string_view column) {
   const std::size_t index = state_->column(column);
-  for (const State::Change& change : state_->changes) {
-    if (change.column == index) return change.value;
-  }
-  if (state_->editing == State::Editing::NewRow) return {};
-  return state_->rows().value(index);
+  if (state_->asStored(index, Type::Text)) return state_->rows().text(index);
+  const Value value = state_->at(index);
+  state_->shown = value.text();
+  return value.isNull() ? std::string_view() : state_->shown;
+}
+
+base::Money RecordSet::money(std::string_view column) {
+  const std::size_t index = state_->column(column);
+  if (state_->asStored(index, Type::Money)) return state_->rows().money(index);
+  return state_->at(index).money();
 }
 
 void RecordSet::set(std::string_view column, Value value) {
@@ -148,7 +172,7 @@ void RecordSet::set(std::string_view column, Value value) {
   const std::size_t index = state_->column(column);
   if (state_->editing == State::Editing::Removed) throw StoreError(Fault::RowGone, "这条记录已被删除！");
   if (state_->editing == State::Editing::Nothing) state_->rows().rowNo();
-  Value fitting = typed(value, *state_->rows().query().columns[index]);
+  Value fitting = typed(std::move(value), *state_->rows().query().columns[index]);
   for (State::Change& change : state_->changes) {
     if (change.column == index) {
       change.value = std::move(fitting);

@@ -37,6 +37,10 @@ class RecordSet {
   void next();
   bool atEnd();  // past the last row, or no rows
   Value get(std::string_view column);
+  // Its text. Of a column of texts it is not copied and good until the set moves or writes; of any other until the next
+  // call. Null is empty, and its data() is null.
+  std::string_view text(std::string_view column);
+  base::Money money(std::string_view column);      // the same as get(column).money()
   void set(std::string_view column, Value value);  // of the current row, in memory until update()
   void addNew();                                   // a new row in memory; columns not set stay Null
   void update();                                   // writes the row; it stays current. Nothing to write: does nothing

@@ -117,15 +117,15 @@ Cell numberCell(double number) {
   return number;
 }
 
-Value typed(const Value& value, const Column& column) {
+Value typed(Value value, const Column& column) {
   if (value.isNull()) return {};
-  const auto* text = value.as<std::string>();
+  auto* text = value.as<std::string>();
   const bool blank = text && base::blank(*text);
   const bool keepsEmpty = column.type == Type::Text || column.type == Type::Date || column.type == Type::DateTime;
   if (blank && !keepsEmpty) return {};
   if (blank && column.type != Type::Text) return "";
   switch (column.type) {
-    case Type::Text: return base::validUtf8(text ? *text : value.text());
+    case Type::Text: return base::validUtf8(text ? std::move(*text) : value.text());
     case Type::Number: return orRefuse(numberFor(value), value, column, "数字");
     case Type::Money: return orRefuse(moneyFor(value), value, column, "金额");
     case Type::Date: return orRefuse(value.date(), value, column, "日期");
@@ -136,14 +136,14 @@ Value typed(const Value& value, const Column& column) {
   return {};
 }
 
-Cell cell(const Value& value) {
-  if (const auto* text = value.as<std::string>()) return *text;
+Cell cell(Value value) {
+  if (auto* text = value.as<std::string>()) return std::move(*text);
   if (const auto* number = value.as<double>()) return numberCell(*number);
   if (const auto* yes = value.as<bool>()) return std::int64_t{*yes};
   if (const auto* money = value.as<base::Money>()) return money->units();
   if (const auto* date = value.as<base::Date>()) return date->iso();
   if (const auto* moment = value.as<base::DateTime>()) return moment->iso();
-  if (const auto* bytes = value.as<Bytes>()) return *bytes;
+  if (auto* bytes = value.as<Bytes>()) return std::move(*bytes);
   return std::monostate{};
 }
 

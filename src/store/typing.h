@@ -11,9 +11,9 @@ namespace store {
 
 // The value as the column holds it: "2008-9-1" becomes a date. Raises Fault::Statement, naming the column, for what
 // does not fit. Null stays Null; the empty text stays in text and date columns and is Null in all others.
-Value typed(const Value& value, const Column& column);
+Value typed(Value value, const Column& column);
 
-Cell cell(const Value& typed);
+Cell cell(Value typed);
 Value read(const Statement& statement, int column, Type type);
 
 Stored storedAs(Type type);

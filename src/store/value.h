@@ -44,6 +44,7 @@ class Value {
   const Bytes& bytes() const;  // empty when it holds no bytes
 
   template <class T> const T* as() const { return std::get_if<T>(&data_); }
+  template <class T> T* as() { return std::get_if<T>(&data_); }
   friend bool operator==(const Value&, const Value&) = default;
 
  private:

@@ -1,7 +1,10 @@
 // Reading and writing through record sets: types, walks in whose middle rows come and go, units.
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 #include "store/configurations.h"
+#include "store/new_rows.h"
 #include "support/failing_engine.h"
 
 namespace store {
@@ -52,6 +55,8 @@ TEST_P(Records, ValuesAreTypedBothWays) {
     RecordSet again(*store_, "select * from czjl");
     again.last();
     EXPECT_EQ(again.get(typing.column), typing.expected) << typing.column << " " << typing.given.text();
+    EXPECT_EQ(again.text(typing.column), typing.expected.text());
+    EXPECT_EQ(again.text(typing.column).data() == nullptr, typing.expected.isNull());
   }
 }
 
@@ -206,6 +211,41 @@ TEST_P(Records, MarkedRowsAreReadTogetherInTheirOwnOrder) {
     --wanted;
   });
   EXPECT_EQ(wanted, 0);
+  std::ranges::reverse(marks);  // as they are stored
+  behind.visit(marks, [&](bool there) {
+    ++wanted;
+    EXPECT_EQ(there, wanted != 440);
+    EXPECT_EQ(there ? behind.text("lsh") : "440", std::to_string(wanted));
+    if (wanted == 100) behind.set("je", 777), behind.update();  // from here on they are read one by one
+    EXPECT_TRUE(!there || behind.money("je") == behind.get("je").money());
+  });
+  EXPECT_EQ(wanted, 450);
+  EXPECT_THAT(column("select * from jfjl where je=777", "lsh"), ElementsAre("100"));
+}
+
+TEST_P(Records, ManyNewRowsGoIntoFewStatements) {
+  addNumbered(2);
+  RecordSet walk(*store_, "select lsh from jfjl order by lsh");
+  ASSERT_EQ(walk.text("lsh"), "1");
+  Unit unit(*store_);
+  NewRows rows(*store_, "jfjl", {"lsh", "je", "jfrq"});
+  for (int i = 3; i <= 99; ++i) rows.add(std::to_string(i), i, i % 2 ? Value("2026-9-7") : Value());
+  rows.finish();
+  RecordSet last(*store_, "select lsh,je,jfrq from jfjl where lsh='99'");
+  EXPECT_EQ(rows.lastMark(), last.mark());
+  EXPECT_EQ(last.money("je"), base::Money::yuan(99));
+  EXPECT_EQ(last.get("jfrq"), Value(base::Date{2026, 9, 7}));
+  EXPECT_EQ(faultOf([&] {
+              for (int i = 100; i < 200; ++i) rows.add(std::to_string(i), "many", Value());
+            }),
+            Fault::Statement);
+  walk.next();
+  EXPECT_EQ(walk.text("lsh"), "2");
+  walk.next();
+  EXPECT_TRUE(walk.atEnd()) << "a walk under way keeps its rows";
+  unit.finish();
+  step();
+  EXPECT_EQ(RecordSet(*store_, "select * from jfjl").count(), 99);
 }
 
 TEST_P(Records, AMarkLeadsToItsRowAsItIsNow) {

@@ -76,21 +76,22 @@ Fitted fitted(const platform::Text& mark, const Faces::Measured& face) {
   return result;
 }
 
-// A page's painter, which is in millimetres but while a text is drawn.
+// A page's painter. It counts in the pixels of the letters that were drawn last: changing its scale for every text and
+// back for every line would make files half as large again.
 struct Brush {
   QPainter& painter;
   Faces faces{};
   const QTransform millimetres = painter.transform();
+  double scale = 1;  // millimetres of its unit
 
-  void text(QPointF start, double scale, const QFont& face, const QString& words) {
-    painter.setTransform(QTransform(millimetres).translate(start.x(), start.y()).scale(scale, scale));
+  void text(QPointF start, double letters, const QFont& face, const QString& words) {
+    if (scale != letters) painter.setTransform(QTransform(millimetres).scale(scale = letters, letters));
     painter.setFont(face);
-    painter.drawText(QPointF(0, 0), words);
+    painter.drawText(start / scale, words);
   }
   void line(const platform::Line& mark) {
-    if (painter.transform() != millimetres) painter.setTransform(millimetres);
-    painter.setPen(QPen(Qt::black, mark.width, Qt::SolidLine, Qt::SquareCap));
-    painter.drawLine(QPointF(mark.x1, mark.y1), QPointF(mark.x2, mark.y2));
+    painter.setPen(QPen(Qt::black, mark.width / scale, Qt::SolidLine, Qt::SquareCap));
+    painter.drawLine(QPointF(mark.x1, mark.y1) / scale, QPointF(mark.x2, mark.y2) / scale);
   }
 };
 
