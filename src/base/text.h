@@ -4,7 +4,6 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 namespace base {
@@ -32,7 +31,6 @@ struct SameTextEqual {
   bool operator()(std::string_view a, std::string_view b) const { return sameText(a, b); }
 };
 template <class Value> using TextMap = std::unordered_map<std::string, Value, SameTextHash, SameTextEqual>;
-using TextSet = std::unordered_set<std::string, SameTextHash, SameTextEqual>;
 
 // Numbers as operators type them.
 bool isNumeric(std::string_view text);  // optional sign, digits, optional decimals, blanks around; "" is not numeric

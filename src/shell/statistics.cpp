@@ -56,9 +56,10 @@ template <class Sum> class Groups {
 };
 
 template <class Sum>
-Sum find(const std::map<std::string, typename Groups<Sum>::Group>& groups, const std::string& text) {
+const Sum& find(const std::map<std::string, typename Groups<Sum>::Group>& groups, const std::string& text) {
+  static const Sum none;
   const auto found = groups.find(base::upper(text));
-  return found == groups.end() ? Sum() : found->second.sum;
+  return found == groups.end() ? none : found->second.sum;
 }
 
 struct Heads {
@@ -102,7 +103,13 @@ struct Owed {
     balance += other.balance;
     students.insert(students.end(), other.students.begin(), other.students.end());
   }
-  std::size_t heads() const { return base::TextSet(students.begin(), students.end()).size(); }
+  std::size_t heads() const {
+    std::vector<std::string> all;
+    all.reserve(students.size());
+    for (const std::string& xh : students) all.push_back(base::upper(xh));
+    std::ranges::sort(all);
+    return static_cast<std::size_t>(std::ranges::unique(all).begin() - all.begin());
+  }
 };
 
 struct Due {
@@ -113,6 +120,17 @@ struct Due {
     return base::plainNumber(
                std::nearbyint(static_cast<double>(paid.units()) * 100 / static_cast<double>(due.units()))) +
            "%";
+  }
+};
+
+struct OfClass {
+  bool open = false;  // some arrears are
+  Owed owed;
+  Due month;
+  void operator+=(const OfClass& other) {
+    open |= other.open;
+    owed += other.owed;
+    month += other.month;
   }
 };
 
@@ -183,36 +201,38 @@ Statistics paymentStatistics(store::Store& store) {
 
 Statistics arrearsStatistics(store::Store& store, base::Date today) {
   Statistics result;
-  Groups<Owed> owed;
-  Groups<Due> month;
+  Groups<OfClass> groups;
   RecordSet arrears(store, Sql("select bjmc,xh,bjje,sbjje,clfs,bjrq from qfjl where sbjje<bjje and clfs<>'减免' or ") +
                                "month(bjrq)='" + std::to_string(today.month) + "'");
   store::forEach(arrears, [&](RecordSet& row) {
     const Money due = row.money("bjje"), paid = row.money("sbjje");
     const std::string_view state = row.text("clfs");
     const bool waived = state == "减免";
+    OfClass& one = groups[row.text("bjmc")];
     // As the list of open arrears sees it, for which nothing can be said of a column that was never set.
     if (paid < due && !waived && state.data() && !row.get("sbjje").isNull() && !row.get("bjje").isNull()) {
-      Owed& one = owed[row.text("bjmc")];
-      one.add(row.text("xh"));
-      one.balance += due - paid;
+      one.open = true;
+      one.owed.add(row.text("xh"));
+      one.owed.balance += due - paid;
     }
     const auto planned = row.get("bjrq").date();
     if (!planned || planned->month != today.month) return;
-    Due& one = month[row.text("bjmc")];
-    one.due += due;
-    one.paid += paid;
-    if (waived) one.waived += paid;
+    one.month.due += due;
+    one.month.paid += paid;
+    if (waived) one.month.waived += paid;
   });
-  for (const auto& [key, one] : owed.joined())
-    result.first.push_back({one.text, std::to_string(one.sum.heads()), base::paddedAmount(one.sum.balance)});
+  const auto byClass = groups.joined();
+  for (const auto& [key, one] : byClass) {
+    const Owed& owed = one.sum.owed;
+    if (one.sum.open)
+      result.first.push_back({one.text, std::to_string(owed.heads()), base::paddedAmount(owed.balance)});
+  }
 
-  const auto byClass = month.joined();
   Due school;
   RecordSet classes(store, "select bjmc from bjzl order by bjdh");
   store::forEach(classes, [&](RecordSet& row) {
     const std::string name = row.get("bjmc").trimmed();
-    const Due one = find<Due>(byClass, name);
+    const Due one = find<OfClass>(byClass, name).month;
     school += one;
     result.second.push_back({name, base::paddedAmount(one.due), base::paddedAmount(one.paid - one.waived),
                              base::paddedAmount(one.waived), base::paddedAmount(one.due - one.paid), one.share()});
