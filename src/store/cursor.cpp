@@ -12,8 +12,8 @@ constexpr std::ptrdiff_t readAhead = 64;
 
 }  // namespace
 
-Cursor::Cursor(std::shared_ptr<Database> database, Query query)
-    : database_(std::move(database)), query_(std::move(query)), generation_(database_->generation()) {
+Cursor::Cursor(std::shared_ptr<Database> database, std::shared_ptr<const Query> plan)
+    : database_(std::move(database)), plan_(std::move(plan)), generation_(database_->generation()) {
   database_->enlist(*this);
 }
 

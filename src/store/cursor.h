@@ -30,7 +30,7 @@ template <class Visit> void inPortions(std::span<const std::int64_t> rowNos, Vis
 
 class Cursor {
  public:
-  Cursor(std::shared_ptr<Database> database, Query query);
+  Cursor(std::shared_ptr<Database> database, std::shared_ptr<const Query> plan);
   ~Cursor();
   Cursor(const Cursor&) = delete;
   Cursor& operator=(const Cursor&) = delete;
@@ -85,7 +85,8 @@ class Cursor {
   Row rowOf(const Statement& statement) const;
 
   std::shared_ptr<Database> database_;
-  Query query_;
+  std::shared_ptr<const Query> plan_;
+  const Query& query_ = *plan_;
   int generation_;
   Place place_ = Place::Before;
   Loan stream_;

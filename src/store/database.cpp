@@ -4,11 +4,13 @@
 
 #include "store/cursor.h"
 #include "store/error.h"
+#include "store/query.h"
 
 namespace store {
 namespace {
 
 constexpr std::size_t mostIdle = 200;  // prepared statements that wait for their next use
+constexpr std::size_t mostPlans = 500;
 
 }  // namespace
 
@@ -37,6 +39,7 @@ Database::~Database() { forgetStatements(); }
 void Database::forgetStatements() {
   byText_.clear();
   idle_.clear();
+  plans_.clear();
 }
 
 Engine& Database::engine() {
@@ -63,6 +66,16 @@ void Database::replace(Opener opener) {
   close();
   opener_ = std::move(opener);
   ++generation_;
+}
+
+std::shared_ptr<const Query> Database::planned(const Sql& sql, Connection connection) {
+  const auto made = [&] {
+    return std::make_shared<const Query>(plan(dialect::parse(sql), connection, engine().phrases()));
+  };
+  if (!sql.values().empty()) return made();
+  if (const auto known = plans_.find(std::string(sql.text())); known != plans_.end()) return known->second;
+  if (plans_.size() == mostPlans) plans_.clear();
+  return plans_.emplace(sql.text(), made()).first->second;
 }
 
 void Database::settle() {

@@ -10,10 +10,12 @@
 
 #include "store/catalogue.h"
 #include "store/engine.h"
+#include "store/sql.h"
 
 namespace store {
 
 class Cursor;
+struct Query;
 class Database;
 
 // A prepared statement on loan; handed back, it is kept for the next one of the same text.
@@ -51,6 +53,9 @@ class Database {
   void interpose(Interposer between);  // see Store::interpose
   int generation() const { return generation_; }
 
+  // What a statement means to this engine. Screens ask the same things again and again: those without values are kept.
+  std::shared_ptr<const Query> planned(const Sql& sql, Connection connection);
+
   void settle();  // no read is under way any longer
   // An insert, update or delete of one row, or of many; returns the number of rows. Every cursor on the table is safe
   // from it.
@@ -82,6 +87,7 @@ class Database {
   std::unique_ptr<Engine> engine_;
   std::list<std::pair<std::string, std::unique_ptr<Statement>>> idle_;  // the latest first
   std::unordered_multimap<std::string_view, decltype(idle_)::iterator> byText_;
+  std::unordered_map<std::string, std::shared_ptr<const Query>> plans_;
   std::vector<Cursor*> cursors_;
   int depth_ = 0;
   bool doomed_ = false;   // a unit inside the open one was abandoned

@@ -124,8 +124,7 @@ void RecordSet::open(const Sql& sql) {
   state_->insertSql.clear();
   state_->cursor.reset();
   const std::shared_ptr<Database> database = state_->store->shared(state_->connection);
-  Query query = plan(dialect::parse(sql), state_->connection, database->engine().phrases());
-  state_->cursor.emplace(database, std::move(query));
+  state_->cursor.emplace(database, database->planned(sql, state_->connection));
   state_->sql = sql;
 }
 

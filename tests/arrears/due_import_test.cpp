@@ -64,7 +64,7 @@ TEST(DueImport, addsWhatAStatementARowWouldAdd) {
   };
   long long rows = 0;
   for (const Case& one : cases)
-    for (unsigned seed = 1; seed <= 12; ++seed) {
+    for (unsigned seed = 1; seed <= 4; ++seed) {
       SCOPED_TRACE(one.name + (" " + std::to_string(seed)));
       TestDesk ours, plain;
       for (TestDesk* test : {&ours, &plain}) {
@@ -78,7 +78,7 @@ TEST(DueImport, addsWhatAStatementARowWouldAdd) {
       EXPECT_EQ(import(ours, one.due).value_or(0), 0) << "a repeat adds nothing";
       rows += added.value_or(0);
     }
-  EXPECT_GT(rows, 1000) << "the schools are too small to tell anything";
+  EXPECT_GT(rows, 300) << "the schools are too small to tell anything";
 }
 
 struct OneClass : TestDesk {

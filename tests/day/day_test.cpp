@@ -3,6 +3,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <map>
 #include <sstream>
@@ -21,7 +22,8 @@ using store::RecordSet;
 using store::Sql;
 
 const sample::Plan school{60, 400, 3, {2026, 9, 7}};
-constexpr int actions = 1000;
+// DAY_ACTIONS=1000 test_day plays longer days than ./test has time for.
+const int actions = std::getenv("DAY_ACTIONS") ? std::atoi(std::getenv("DAY_ACTIONS")) : 500;
 
 // The day as it was reported, beside which the databases are held.
 struct Books {
@@ -147,7 +149,7 @@ TEST_P(Days, LeaveTheBooksInAgreement) {
   expectAgreement(desk.store, books);
   for (const auto& [what, times] : std::map<std::string, int>{
            {"paid", 300}, {"credited", 40}, {"waived", 20}, {"deleted", 30}, {"submitted", 20}, {"imported", 5}})
-    EXPECT_GT(books.happened[what], times) << what;
+    EXPECT_GT(books.happened[what], times * actions / 1000) << what;
   EXPECT_THAT(front.stops(), testing::IsEmpty());
 }
 
@@ -219,7 +221,7 @@ TEST_P(Days, GoOnAfterThePowerWentInTheMiddle) {
   Books books(store);
   store.close();
   std::mt19937 random(GetParam());
-  const int doomed = 300 + static_cast<int>(random() % 400);
+  const int doomed = actions * (300 + static_cast<int>(random() % 400)) / 1000;
   int ended = 0;
   std::string text;
   char buffer[4096];
