@@ -60,6 +60,7 @@ void Formzctsf4::focusFirst() {
 void Formzctsf4::moveOnFrom(const kit::Member& member) {
   // With all lines ticked there is nothing left to type.
   if (&member == &allLines && allLines.on() && confirm.enabled()) confirm.invoke();
+  else if (&member == &lines.back().paid && confirm.enabled()) confirm.focus();
   else Screen::moveOnFrom(member);
 }
 

@@ -22,6 +22,11 @@ struct Desk;
 // The kinds of message box; the program has no others.
 enum class Box { Stop = 16, Warning = 48, Information = 64, Ask = 36, AskStop = 20, AskWarning = 52, AskInfo = 68 };
 
+// Whether a question comes before something is destroyed: 否 is its usual answer.
+inline bool warns(Box box, const std::string& title) {
+  return box == Box::AskStop || title == "警告" || title == "再次警告";
+}
+
 class Person {
  public:
   virtual ~Person() = default;

@@ -39,6 +39,7 @@ class Field : public Member {
   void setColour(std::optional<Colour> colour);
   int calendarFrom = 0;       // where the calendar of an empty date opens, in days from today
   bool rightAligned = false;  // amounts
+  bool names = false;         // of people: a list that narrows shows them in the order in which they are read
   bool prominent = false;     // shown large: a total, what the whole window is about
 
   void onChange(Handler handler) { change_.push_back(std::move(handler)); }

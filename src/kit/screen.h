@@ -26,6 +26,8 @@ class Screen {
   virtual void load() {}
   virtual Layout layout() = 0;
   virtual void doubleClicked() {}  // on the window's own ground
+  // Escape where no cancel button is; true when that was all it meant, else the window is left.
+  virtual bool escaped() { return false; }
   // Asked when the person closes the window by its frame or by Escape without a cancel button. True: it may close.
   virtual bool mayClose() { return true; }
 

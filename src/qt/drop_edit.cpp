@@ -75,7 +75,8 @@ DropEdit::DropEdit(const QString& iconName, QWidget* parent) : QLineEdit(parent)
 void DropEdit::keyPressEvent(QKeyEvent* event) {
   const bool down = event->key() == Qt::Key_Down, up = event->key() == Qt::Key_Up;
   if (event->key() == Qt::Key_F4 || ((down || up) && event->modifiers() & Qt::AltModifier)) emit dropWanted();
-  else if (down || up) emit stepped(down ? 1 : -1);
+  else if ((down || up) && isReadOnly()) emit stepped(down ? 1 : -1);
+  else if (down) emit dropWanted();  // a step would replace what was typed
   else if (isReadOnly() && event->key() == Qt::Key_Space) emit dropWanted();
   else if (isReadOnly() && !event->text().isEmpty() && event->text().at(0).isPrint()) emit searched(event->text());
   else QLineEdit::keyPressEvent(event);

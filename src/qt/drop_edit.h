@@ -1,5 +1,5 @@
 // A line edit with something that drops down: a list of choices or a calendar. Opens with its button, a double click,
-// F4 or Alt+Down.
+// Down, F4 or Alt+Down; where nothing can be typed, Up and Down step through the choices.
 #pragma once
 
 #include <QLineEdit>

@@ -1,17 +1,15 @@
-#include <QAbstractItemView>
-#include <QCompleter>
 #include <QDate>
 #include <QLabel>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
-#include <QStringListModel>
 #include <QStyleOptionFrame>
 #include <algorithm>
 
 #include "base/pinyin.h"
 #include "qt/drop_edit.h"
 #include "qt/member_widgets.h"
+#include "qt/narrowed_list.h"
 #include "qt/text.h"
 #include "qt/theme.h"
 
@@ -123,27 +121,21 @@ void take(kit::Field& field, const QString& choice) {
 // what was typed counts as it stands unless an entry is chosen with the arrow keys or the mouse.
 void narrowWhileTyping(DropEdit& edit, kit::Field& field, Renderer& renderer) {
   constexpr qsizetype mostOffered = 50;
-  auto* model = new QStringListModel(&edit);
-  auto* completer = new QCompleter(model, &edit);
-  completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
-  completer->setMaxVisibleItems(12);
-  completer->setWidget(&edit);
-  QObject::connect(completer, qOverload<const QString&>(&QCompleter::activated), &renderer,
-                   [&field](const QString& choice) { take(field, choice); });
-  QObject::connect(&edit, &QLineEdit::textEdited, &renderer, [&field, &edit, model, completer](const QString& typed) {
-    completer->popup()->hide();
-    if (typed.trimmed().isEmpty() || !field.reachable()) return;
+  auto* list = new NarrowedList(edit, [&field](const QString& choice) { take(field, choice); });
+  QObject::connect(&edit, &QLineEdit::textEdited, &renderer, [&field, list](const QString& typed) {
+    if (typed.trimmed().isEmpty() || !field.reachable()) return list->hide();
     if (field.choices().empty() || typed.size() == 1) field.drop();  // a new word: others may have written meanwhile
-    if (!field.reachable()) return;
-    QStringList meant;
+    if (!field.reachable() || field.choices().empty()) return list->hide();
+    std::vector<std::pair<std::string, QString>> meant;
     const std::string text = fromQt(typed);
-    for (const std::string& choice : field.choices()) {
-      if (meant.size() == mostOffered) break;
-      if (base::meantBy(choice, text)) meant << toQt(choice);
-    }
-    if (meant.isEmpty() || (meant.size() == 1 && meant.front() == typed)) return;
-    model->setStringList(meant);
-    completer->complete();
+    for (const std::string& choice : field.choices())
+      if (base::meantBy(choice, text)) meant.emplace_back(field.names ? base::readingKey(choice) : "", toQt(choice));
+    if (meant.size() == 1 && meant.front().second == typed) return list->hide();
+    if (field.names) std::sort(meant.begin(), meant.end());
+    QStringList entries;
+    for (const auto& [key, choice] : meant)
+      if (entries.size() < mostOffered) entries << choice;
+    list->offer(entries);
   });
 }
 

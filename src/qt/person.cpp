@@ -70,8 +70,10 @@ bool QtPerson::show(kit::Box box, const std::string& text, const std::string& ti
     yes->setShortcut(Qt::Key_Y);
     leave->setShortcut(Qt::Key_N);
   }
-  yes->setDefaultLook(true);
-  yes->setFocus();
+  // Who presses Enter without reading destroys nothing.
+  XPButton* const usual = question && kit::warns(box, title) ? leave : yes;
+  usual->setDefaultLook(true);
+  usual->setFocus();
   message.setEscapeButton(leave);
   message.exec();
   if (below) below->activateWindow();

@@ -94,10 +94,16 @@ QAction* Renderer::action(kit::Action& action) {
     made->setText(toQt(action.caption()));
     made->setEnabled(action.enabled());
     made->setVisible(action.visible());
-    made->setToolTip(toQt(action.tip().empty() ? action.caption() : action.tip()));
+    const QString tip = toQt(action.tip().empty() ? action.caption() : action.tip());
+    made->setToolTip(made->shortcut().isEmpty() ? tip : tip + "（" + made->shortcut().toString() + "）");
   });
   connect(made, &QAction::triggered, this, [&action] { action.invoke(); });
   return made;
+}
+
+void Renderer::setKey(kit::Action& one, QKeySequence key) {
+  action(one)->setShortcut(key);
+  one.view();  // the tip tells it
 }
 
 void Renderer::fillMenu(QMenu& menu, const std::vector<kit::Action*>& entries) {
@@ -124,6 +130,11 @@ void Renderer::setTabOrder(const kit::Layout& layout) {
       last = next;
     }
   }
+}
+
+void Renderer::setDefault(const kit::Node& node) {
+  if (node.confirm) setDefault(node.confirm);
+  for (const kit::Node& child : node.children) setDefault(child);
 }
 
 void Renderer::setDefault(const kit::Action* confirm) {

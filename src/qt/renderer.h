@@ -34,6 +34,7 @@ class Renderer : public QObject {
   QWidget* widget(kit::Member& member);   // the member's widget alone
   QLabel* label(kit::Field& field);
   QAction* action(kit::Action& action);  // for menus and toolbars; one an action
+  void setKey(kit::Action& action, QKeySequence key);
   void fillMenu(QMenu& menu, const std::vector<kit::Action*>& entries);
 
   // Runs the update now and after every change of the member.
@@ -46,7 +47,8 @@ class Renderer : public QObject {
   kit::Screen& screen() { return screen_; }
   void setTabOrder(const kit::Layout& layout);
   void setDefault(const kit::Action* confirm);
-  bool focus(const kit::Member& member);  // false: its widget cannot take the focus
+  void setDefault(const kit::Node& node);  // the buttons that Enter presses in the parts of a layout
+  bool focus(const kit::Member& member);   // false: its widget cannot take the focus
   void focusFirst(const kit::Layout& layout);
   void moveOn(const kit::Member& member);  // Enter on what is no field
 

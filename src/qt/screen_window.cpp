@@ -12,6 +12,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <array>
 
 #include "qt/icon.h"
 #include "qt/member_widgets.h"
@@ -22,6 +23,9 @@ namespace {
 
 constexpr int margin = 16, frameHeight = 34, frameWidth = 4;
 constexpr int toolIcon = 26;
+// Of the toolbar's buttons, in their order. F4 drops lists down, and F10 opens the menu.
+constexpr std::array functionKeys{Qt::Key_F1, Qt::Key_F2, Qt::Key_F3, Qt::Key_F5,  Qt::Key_F6,
+                                  Qt::Key_F7, Qt::Key_F8, Qt::Key_F9, Qt::Key_F11, Qt::Key_F12};
 
 // What is larger than the desktop is scrolled instead of being cut.
 class ScrolledPage : public QScrollArea {
@@ -65,6 +69,7 @@ ScreenWindow::ScreenWindow(kit::Screen& screen, const Views& views)
   setCentralWidget(fitted(page, desktop - QSize(frameWidth, frameHeight + bars)));
   renderer_->setTabOrder(layout_);
   renderer_->setDefault(layout_.confirm);
+  renderer_->setDefault(layout_.root);
 
   auto* escapeKey = new QShortcut(Qt::Key_Escape, this);
   connect(escapeKey, &QShortcut::activated, this, [this] { escape(); });
@@ -92,7 +97,12 @@ void ScreenWindow::addBars(const kit::Layout& plan) {
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     bar->setIconSize(QSize(toolIcon, toolIcon));
-    for (kit::Action* one : plan.toolbar) bar->addAction(renderer_->action(*one));
+    auto key = functionKeys.begin();
+    for (kit::Action* one : plan.toolbar) {
+      QAction* const action = renderer_->action(*one);
+      if (key != functionKeys.end()) renderer_->setKey(*one, *key++);
+      bar->addAction(action);
+    }
   }
   for (kit::Field* field : plan.status) {
     if (field == plan.status.front()) statusBar()->setSizeGripEnabled(false);
@@ -125,8 +135,10 @@ void ScreenWindow::present() {
 }
 
 void ScreenWindow::escape() {
-  if (!layout_.cancel) return leave();
-  layout_.cancel->invoke();
+  if (layout_.cancel) return layout_.cancel->invoke();
+  bool was = false;
+  screen_.run([&] { was = screen_.escaped(); });
+  if (!was) leave();
 }
 
 void ScreenWindow::leave() {

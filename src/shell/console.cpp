@@ -96,18 +96,21 @@ void Formzct::wireToolbar() {
     closeOverviews();
     if (auto added = open<students::Formzctxs>(kit::Editing{}, collectFrom())) current_xh = std::move(*added);
     showStudent();
+    card.xh.focus();
   });
   k20.onPress([this] {
     if (!may(desk, Collect)) return refuse(desk);
     refreshCard();
     open<collection::Formzctsf7>();
     if (card.holdsStudent()) redrawLists();
+    card.xh.focus();
   });
   k6.onPress([this] {
     if (!may(desk, Collect)) return refuse(desk);
     closeOverviews();
     open<collection::Formzctsf9>();
     if (card.holdsStudent()) redrawLists();
+    card.xh.focus();
   });
   k11.onPress([this] {
     if (!may(desk, Collect)) return refuse(desk);
@@ -149,6 +152,14 @@ void Formzct::loadAllSettings() {
 
 void Formzct::leaveProgram() {
   if (mayClose()) close();
+}
+
+bool Formzct::escaped() {
+  if (Overview* overview = inFront()) overview->button("返回").invoke();
+  else if (classes.frame.visible()) class_strip.invoke();
+  else if (arrears.holdsDue()) showArrears();
+  card.xh.focus();
+  return true;
 }
 
 // Once the person has said yes the program ends: what fails on the way out is told and passed over.

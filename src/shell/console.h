@@ -14,6 +14,7 @@ class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
   explicit Formzct(kit::Desk& desk);
   void load() override;
   kit::Layout layout() override;
+  bool escaped() override;   // shuts what is in front, else goes to the number
   bool mayClose() override;  // asks, closes the session's row in the log, offers the backup
 
   CardFrame card{*this};

@@ -26,7 +26,10 @@ void Formzct::wireOverviews() {
   timer4.onTick([this] { refillAfterQuery(); });
 
   for (Overview* overview : {&students_overview, &payments_overview, &arrears_overview})
-    overview->button("返回").onPress([this] { closeOverviews(); });
+    overview->button("返回").onPress([this] {
+      closeOverviews();
+      card.xh.focus();
+    });
   students_overview.button("打开").onPress([this] { refillLater(students_overview, open<students::Formzctxscx1>()); });
   payments_overview.button("打开").onPress([this] { refillLater(payments_overview, open<collection::Formzctsf31>()); });
   arrears_overview.button("打开").onPress([this] { queryArrears(); });

@@ -20,7 +20,9 @@ using store::Sql;
 void Formzct::wireFront() {
   card.xh.onEnter([this] { findByNumber(); });
   card.xm.onEnter([this] { findByName(); });
+  card.xm.onPick([this] { findByName(); });
   card.xm.onChange([this] { titleFrames(); });
+  card.xm.names = true;
   card.xm.onDrop([this] { card.xm.setChoices(kit::columnTexts(desk.store, "select xm from xs group by xm", "xm")); });
   for (kit::Field* field : {&card.xh, &card.xm}) field->onClick([this] { clearCard(); });
 
@@ -82,6 +84,7 @@ void Formzct::found(const std::string& xh, const std::string& notFoundText) {
   current_xh = xh;
   showStudent();
   classes.frame.show(false);
+  card.xh.focus();  // the next number replaces this one
   if (!desk.session.open_fee_window) return;
   if (!card.holdsStudent()) return inform(notFoundText, "信息提示");
   openFeeWindow();
@@ -174,6 +177,7 @@ students::Formzctxs::Collect Formzct::collectFrom() {
 void Formzct::openFeeWindow() {
   open<collection::Formzctsf4>(collection::FeeWindowFor{current_xh});
   redrawLists();
+  card.xh.focus();
 }
 
 // The row that is selected, as it stands now. One that has gone meanwhile is told, and the lists are read again.
@@ -193,6 +197,7 @@ void Formzct::openFeeWindowFor(kit::List& list, const char* table) {
   current_xh = row->get("xh").trimmed();
   open<collection::Formzctsf4>(collection::FeeWindowFor{current_xh});
   showStudent();
+  card.xh.focus();
 }
 
 void Formzct::summarise(kit::List& list, const char* table) {
@@ -204,6 +209,7 @@ void Formzct::pickFromClass() {
   current_xh = classes.students.key();
   showStudent();
   classes.frame.show(false);
+  card.xh.focus();
   if (!desk.session.open_fee_window) return;
   ConsolePanel = kit::Panel::FeeWindow;
   timer1.start();

@@ -35,7 +35,7 @@ TEST(Person, asksInSixKinds) {
       {Box::Stop, Qt::Key_Return, false, {"确定"}},       {Box::Warning, Qt::Key_Escape, false, {"确定"}},
       {Box::Information, Qt::Key_Space, false, {"确定"}}, {Box::Ask, Qt::Key_Return, true, {"是", "否"}},
       {Box::Ask, Qt::Key_Escape, false, {"是", "否"}},    {Box::AskStop, Qt::Key_N, false, {"是", "否"}},
-      {Box::AskInfo, Qt::Key_Y, true, {"是", "否"}},
+      {Box::AskInfo, Qt::Key_Y, true, {"是", "否"}},      {Box::AskStop, Qt::Key_Return, false, {"是", "否"}},
   };
   for (const Asked& one : cases) {
     SCOPED_TRACE(static_cast<int>(one.box));

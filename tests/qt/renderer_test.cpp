@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QClipboard>
-#include <QCompleter>
 #include <QElapsedTimer>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -17,6 +16,7 @@
 #include <QTreeWidget>
 
 #include "demo_screen.h"
+#include "qt/narrowed_list.h"
 #include "qt/xp_button.h"
 #include "qt_test.h"
 #include "support/failing_engine.h"
@@ -133,7 +133,9 @@ TEST_F(RendererTest, aListDropsDownFilledAndAnEntryIsTaken) {
   EXPECT_EQ(screen.bjmc.text(), "计算机二班");
   EXPECT_THAT(heard(), ElementsAre("bjmc pick"));
   QTest::keyClick(&find("bjmc"), Qt::Key_Down);
-  EXPECT_EQ(find<QLineEdit>("bjmc").text(), "会计一班");
+  EXPECT_EQ(dropped().count(), 3) << "a step would replace what was typed";
+  QTest::keyClick(&dropped(), Qt::Key_Escape);
+  EXPECT_EQ(screen.bjmc.text(), "计算机二班");
   QTest::mouseDClick(&find("bjmc"), Qt::LeftButton);
   EXPECT_EQ(dropped().count(), 3);
   QTest::keyClick(&dropped(), Qt::Key_Escape);
@@ -236,18 +238,50 @@ TEST_F(RendererTest, drawnWidthsAreThereTheNextTime) {
 
 TEST_F(RendererTest, aListNarrowsToWhatIsMeantByTheTyping) {
   focus("bjmc");
-  QTest::keyClicks(&find("bjmc"), "jsj");
-  auto* completer = find<QLineEdit>("bjmc").findChild<QCompleter*>();
-  ASSERT_TRUE(completer && completer->popup()->isVisible());
-  EXPECT_EQ(completer->popup()->model()->rowCount(), 2);
+  auto& edit = find<QLineEdit>("bjmc");
+  auto* list = edit.findChild<qt::NarrowedList*>();
+  ASSERT_TRUE(list);
+  QTest::keyClicks(&edit, "jsj");
+  ASSERT_TRUE(list->isVisible());
+  EXPECT_EQ(list->model()->rowCount(), 2);
   EXPECT_EQ(screen.bjmc.text(), "jsj") << "what was typed stands until an entry is chosen";
-  QTest::keyClick(completer->popup(), Qt::Key_Down);
-  QTest::keyClick(completer->popup(), Qt::Key_Down);
-  QTest::keyClick(completer->popup(), Qt::Key_Return);
+  QTest::keyClick(&edit, Qt::Key_Escape);
+  EXPECT_FALSE(list->isVisible());
+  EXPECT_FALSE(screen.closed()) << "the key was meant for the list";
+  QTest::keyClicks(&edit, " ");
+  QTest::keyClick(&edit, Qt::Key_Down);
+  QTest::keyClick(&edit, Qt::Key_Down);
+  QTest::keyClick(&edit, Qt::Key_Return);
   EXPECT_EQ(screen.bjmc.text(), "计算机二班");
   EXPECT_THAT(heard(), ElementsAre("bjmc pick"));
-  QTest::keyClicks(&find("bjmc"), "x");
-  EXPECT_FALSE(completer->popup()->isVisible()) << "nothing is meant by it";
+  QTest::keyClicks(&edit, "x");
+  EXPECT_FALSE(list->isEnabled()) << "it says that nothing is meant";
+  QTest::mousePress(&find("xh"), Qt::LeftButton);
+  EXPECT_FALSE(list->isVisible());
+}
+
+// What an input method composes above an open list: the list is no pop-up, so that no key goes past it.
+TEST_F(RendererTest, aNameIsComposedWhileTheListIsOpen) {
+  focus("bjmc");
+  auto& edit = find<QLineEdit>("bjmc");
+  const auto compose = [&](const QString& before, const QString& done) {
+    QInputMethodEvent event(before, {});
+    event.setCommitString(done);
+    QCoreApplication::sendEvent(&edit, &event);
+  };
+  compose("ji", "");
+  EXPECT_EQ(screen.bjmc.text(), "");
+  compose("", "计");
+  auto* list = edit.findChild<qt::NarrowedList*>();
+  ASSERT_TRUE(list->isVisible());
+  EXPECT_EQ(list->windowType(), Qt::Tool);
+  EXPECT_TRUE(list->testAttribute(Qt::WA_ShowWithoutActivating));
+  EXPECT_EQ(QApplication::focusWidget(), &edit);
+  compose("suan", "");
+  EXPECT_EQ(screen.bjmc.text(), "计");
+  compose("", "算");
+  EXPECT_EQ(screen.bjmc.text(), "计算");
+  EXPECT_EQ(list->model()->rowCount(), 2);
 }
 
 TEST_F(RendererTest, thePopUpMenuHoldsTheListsActions) {

@@ -68,6 +68,28 @@ void find(Formzct& s, const char* number) {
   s.card.xh.enter();
 }
 
+TEST(Console, EscapeShutsWhatIsInFrontAndNeverTheProgram) {
+  Office office;
+  auto s = opened<Formzct>(office);
+  find(*s, "1001");
+  s->k3.press();
+  s->timer1.tick();
+  ASSERT_TRUE(s->payments_overview.frame.visible());
+  for (const kit::Member* gone :
+       {static_cast<kit::Member*>(&s->payments_overview.frame), static_cast<kit::Member*>(&s->classes.frame)}) {
+    s->focused = nullptr;
+    EXPECT_TRUE(s->escaped());
+    EXPECT_FALSE(gone->visible());
+    EXPECT_EQ(s->focused, &s->card.xh);
+    if (gone == &s->payments_overview.frame) s->class_strip.press();
+  }
+  s->arrears.due.press();
+  EXPECT_TRUE(s->escaped());
+  EXPECT_FALSE(s->arrears.holdsDue());
+  EXPECT_TRUE(s->escaped());
+  EXPECT_FALSE(s->closed());
+}
+
 TEST(Console, RightsSettleTheMenuOnce) {
   Office office{Income, StudentQuery};
   auto s = opened<Formzct>(office);
