@@ -81,6 +81,7 @@ TEST(Console, RightsSettleTheMenuOnce) {
   for (kit::Action* entry : s->paymentsPopUp()) EXPECT_FALSE(entry && entry->enabled());  // right 31 is missing
   find(*s, "1001");
   EXPECT_EQ(s->card.xm.text(), "");
+  for (kit::Action* button : {&s->k1, &s->k5}) button->press();  // nothing opens
 }
 
 TEST(Console, TheMenuLeadsToStatementSuspensionsAndClearing) {
@@ -352,7 +353,12 @@ TEST(Console, WaivesFromTheCardAndFromTheOverview) {
 
   Office clerk{Collect, ArrearsQuery};
   auto t = opened<Formzct>(clerk);
-  EXPECT_FALSE(t->cd91.enabled() || t->cd92.enabled());
+  clerk.configure({{"sfctsz", 0}});
+  clerk.owe("1", "1001", {2026, 9, 1}, "300");
+  find(*t, "1001");
+  EXPECT_TRUE(t->cd66.enabled());
+  for (kit::Action* entry : {&t->cd61, &t->cd62, &t->cd91, &t->cd92, &t->cd571, &t->cd572})
+    EXPECT_FALSE(entry->enabled()) << entry->name;
 }
 
 TEST(Console, EditsArrearsFromTheOverview) {
