@@ -1,5 +1,5 @@
 // A line edit with something that drops down: a list of choices or a calendar. Opens with its button, a double click,
-// F4 or Alt+Down.
+// F4 or Alt+Down; a click into an empty one asks for it, too.
 #pragma once
 
 #include <QLineEdit>
@@ -12,10 +12,11 @@ class DropEdit : public QLineEdit {
   Q_OBJECT
  public:
   DropEdit(const QString& iconName, QWidget* parent);
-  bool opensByDoubleClick = true;
+  bool opensByMouse = true;
 
  signals:
   void dropWanted();
+  void emptyClicked();
   void stepped(int by);                // Up and Down without the list
   void searched(const QString& text);  // typed where nothing can be typed
 

@@ -119,8 +119,9 @@ void take(kit::Field& field, const QString& choice) {
   if (field.reachable() && std::find(choices.begin(), choices.end(), text) != choices.end()) field.take(text);
 }
 
-// While something is typed, a list below narrows to the entries that are meant by it; the focus stays in the edit, and
-// what was typed counts as it stands unless an entry is chosen with the arrow keys or the mouse.
+// A click into an empty edit opens the list below; while something is typed, it narrows to the entries that are meant
+// by it. The focus stays in the edit, and what was typed counts as it stands unless an entry is chosen with the arrow
+// keys or the mouse.
 void narrowWhileTyping(DropEdit& edit, kit::Field& field, Renderer& renderer) {
   constexpr qsizetype mostOffered = 50;
   auto* model = new QStringListModel(&edit);
@@ -145,12 +146,18 @@ void narrowWhileTyping(DropEdit& edit, kit::Field& field, Renderer& renderer) {
     model->setStringList(meant);
     completer->complete();
   });
+  QObject::connect(&edit, &DropEdit::emptyClicked, &renderer, [&field, model, completer] {
+    if (field.reachable()) field.drop();
+    if (!field.reachable() || field.choices().empty()) return;
+    model->setStringList(choicesOf(field));
+    completer->complete();
+  });
 }
 
 QWidget* dropField(kit::Field& field, Renderer& renderer) {
   auto* edit = new DropEdit("chevron-down", nullptr);
   edit->setReadOnly(field.entry == Entry::Choose);
-  edit->opensByDoubleClick = !field.handlesDoubleClick();
+  edit->opensByMouse = !field.handlesDoubleClick();
   keepInStep(*edit, field, renderer);
   if (field.entry == Entry::Pick) narrowWhileTyping(*edit, field, renderer);
   const auto fill = [&field] {
@@ -182,7 +189,7 @@ QWidget* dropField(kit::Field& field, Renderer& renderer) {
 
 QWidget* dateField(kit::Field& field, Renderer& renderer) {
   auto* edit = new DropEdit("calendar-days", nullptr);
-  edit->opensByDoubleClick = !field.handlesDoubleClick();
+  edit->opensByMouse = !field.handlesDoubleClick();
   keepInStep(*edit, field, renderer);
   QObject::connect(edit, &DropEdit::dropWanted, &renderer, [edit, &field] {
     if (!field.reachable()) return;
