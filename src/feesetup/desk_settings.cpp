@@ -19,12 +19,12 @@ Formszqt::Formszqt(kit::Desk& all) : Screen(all, "Formszqt", "收费前台设置
       tick->set(kept);
     });
   fpys.onChange([this] {
-    const int& kept = desk.session.receipt_style;
-    const int wanted = fpys.chosen() + 1;
-    if (wanted == kept) return;
-    fpys.set(kept - 1);
-    school::storeSetting(desk, "fpys", wanted);
-    fpys.set(kept - 1);
+    const int wanted = fpys.chosen();
+    if (wanted == layout_) return;
+    fpys.set(layout_);
+    if (!school::storeSetting(desk, "fpys", wanted + 1)) return;
+    layout_ = wanted;
+    fpys.set(layout_);
   });
   qfjz.offers("select * from sfxmb", "sfxmmc");
   todamc1.setChoices({"江西省学校收费专用收据"});
@@ -46,7 +46,10 @@ void Formszqt::load() {
   school::loadSettings(desk);
   const kit::Session& session = desk.session;
   for (kit::Check* tick : ticks()) tick->set(session.*school::flagOf(tick->name));
-  fpys.set(session.receipt_style - 1);
+  store::RecordSet kept = school::configuration(desk);
+  const double style = kept.empty() ? session.receipt_style : kept.get("fpys").number();
+  layout_ = style == session.receipt_style ? session.receipt_style - 1 : -1;
+  fpys.set(layout_);
   todamc1.set(session.custom_form);
   qfjz.set(session.arrears_item);
   qfts.set(std::to_string(session.reminder_days));

@@ -34,6 +34,7 @@ class Formszqt : public kit::Screen {  // 收费前台设置总控界面
  private:
   std::vector<kit::Check*> ticks();
   void storeText(std::string_view column, const store::Value& value);
+  int layout_ = -1;  // the receipt layout that is stored; -1: none of the three
 };
 
 }  // namespace feesetup

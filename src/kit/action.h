@@ -93,6 +93,7 @@ class Timer : public Member {
  public:
   Timer(Screen& screen, std::string name, std::chrono::milliseconds interval);
   const std::chrono::milliseconds interval;
+  bool ticksBehindScreens = false;  // also while its screen waits for one that it opened, or for an answer
   bool running() const { return running_; }
   void start();
   void stop();

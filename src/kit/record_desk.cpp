@@ -100,12 +100,12 @@ void RecordDesk::edit(const RowButton& button) {
 // All rows, whatever the list is filtered by.
 void RecordDesk::empty() {
   const Emptying& what = *plan.emptying;
+  if (store::RecordSet(desk_.store, Sql::table(what.tables.front())).empty())
+    return desk_.person.tell(Box::Information, what.none, "信息提示");
   const std::string choice = "\n\n选择“是”继续；否则，点“否”撤销此操作！   ";
   if (!desk_.person.ask(Box::AskStop, what.first, "警告") ||
       !desk_.person.ask(Box::AskStop, what.second + choice, "再次警告"))
     return;
-  if (store::RecordSet(desk_.store, Sql::table(what.tables.front())).empty())
-    return desk_.person.tell(Box::Information, what.none, "信息提示");
   store::Unit unit(desk_.store);
   for (const std::string_view table : what.tables) removeEach(desk_.store, Sql::table(table));
   unit.finish();

@@ -85,10 +85,11 @@ void DropEdit::keyPressEvent(QKeyEvent* event) {
 void DropEdit::mousePressEvent(QMouseEvent* event) {
   QLineEdit::mousePressEvent(event);
   if (isReadOnly()) emit dropWanted();
+  else if (opensByMouse && text().isEmpty() && event->button() == Qt::LeftButton) emit emptyClicked();
 }
 
 void DropEdit::mouseDoubleClickEvent(QMouseEvent* event) {
-  if (opensByDoubleClick && !isReadOnly() && event->button() == Qt::LeftButton) emit dropWanted();
+  if (opensByMouse && !isReadOnly() && event->button() == Qt::LeftButton) emit dropWanted();
   else QLineEdit::mouseDoubleClickEvent(event);
 }
 

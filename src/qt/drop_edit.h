@@ -1,5 +1,6 @@
 // A line edit with something that drops down: a list of choices or a calendar. Opens with its button, a double click,
-// Down, F4 or Alt+Down; where nothing can be typed, Up and Down step through the choices.
+// Down, F4 or Alt+Down, and asks for it by a click while it is empty; where nothing can be typed, Up and Down step through
+// the choices.
 #pragma once
 
 #include <QLineEdit>
@@ -12,10 +13,11 @@ class DropEdit : public QLineEdit {
   Q_OBJECT
  public:
   DropEdit(const QString& iconName, QWidget* parent);
-  bool opensByDoubleClick = true;
+  bool opensByMouse = true;
 
  signals:
   void dropWanted();
+  void emptyClicked();
   void stepped(int by);                // Up and Down without the list
   void searched(const QString& text);  // typed where nothing can be typed
 

@@ -117,8 +117,9 @@ void take(kit::Field& field, const QString& choice) {
   if (field.reachable() && std::find(choices.begin(), choices.end(), text) != choices.end()) field.take(text);
 }
 
-// While something is typed, a list below narrows to the entries that are meant by it; the focus stays in the edit, and
-// what was typed counts as it stands unless an entry is chosen with the arrow keys or the mouse.
+// A click into an empty edit opens the list below; while something is typed, it narrows to the entries that are meant
+// by it. The focus stays in the edit, and what was typed counts as it stands unless an entry is chosen with the arrow
+// keys or the mouse.
 void narrowWhileTyping(DropEdit& edit, kit::Field& field, Renderer& renderer) {
   constexpr qsizetype mostOffered = 50;
   auto* list = new NarrowedList(edit, [&field](const QString& choice) { take(field, choice); });
@@ -137,12 +138,16 @@ void narrowWhileTyping(DropEdit& edit, kit::Field& field, Renderer& renderer) {
       if (entries.size() < mostOffered) entries << choice;
     list->offer(entries);
   });
+  QObject::connect(&edit, &DropEdit::emptyClicked, &renderer, [&field, list] {
+    if (field.reachable()) field.drop();
+    if (field.reachable() && !field.choices().empty()) list->offer(choicesOf(field));
+  });
 }
 
 QWidget* dropField(kit::Field& field, Renderer& renderer) {
   auto* edit = new DropEdit("chevron-down", nullptr);
   edit->setReadOnly(field.entry == Entry::Choose);
-  edit->opensByDoubleClick = !field.handlesDoubleClick();
+  edit->opensByMouse = !field.handlesDoubleClick();
   keepInStep(*edit, field, renderer);
   if (field.entry == Entry::Pick) narrowWhileTyping(*edit, field, renderer);
   const auto fill = [&field] {
@@ -174,7 +179,7 @@ QWidget* dropField(kit::Field& field, Renderer& renderer) {
 
 QWidget* dateField(kit::Field& field, Renderer& renderer) {
   auto* edit = new DropEdit("calendar-days", nullptr);
-  edit->opensByDoubleClick = !field.handlesDoubleClick();
+  edit->opensByMouse = !field.handlesDoubleClick();
   keepInStep(*edit, field, renderer);
   QObject::connect(edit, &DropEdit::dropWanted, &renderer, [edit, &field] {
     if (!field.reachable()) return;

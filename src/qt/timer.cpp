@@ -13,9 +13,10 @@ void runTimer(kit::Timer& timer, kit::Screen& screen, Renderer& renderer) {
     if (timer.running() && !clock->isActive()) clock->start();
     if (!timer.running()) clock->stop();
   });
-  // A tick comes between two events of its screen, never inside one that shows a message or its progress.
+  // A tick comes between two events of its screen, never inside one that shows a message or its progress; a timer that
+  // only looks at the others may tick behind a message, too.
   QObject::connect(clock, &QTimer::timeout, &renderer, [&timer, &screen] {
-    if (!screen.busy() && !screen.closed()) timer.tick();
+    if ((timer.ticksBehindScreens || !screen.busy()) && !screen.closed()) timer.tick();
   });
 }
 

@@ -5,12 +5,14 @@
 #include <stdexcept>
 #include <variant>
 
-#include "store/record_set.h"
-
 namespace school {
 
 using kit::Desk;
 using kit::Session;
+
+store::RecordSet configuration(Desk& desk) {
+  return store::RecordSet(desk.store, "select * from morvanedjpzb where fn='kqd'", store::Connection::Config);
+}
 
 namespace {
 
@@ -47,9 +49,21 @@ const Setting& settingOf(std::string_view column) {
   return *found;
 }
 
+int days(const store::Value& value) {
+  constexpr double century = 36500;  // days beyond it mean nothing, and would not fit a date
+  return static_cast<int>(std::clamp(value.number(), -century, century));
+}
+
+store::Value stored(const Setting& setting, const store::Value& value) {
+  switch (setting.form) {
+    case Form::One: return value.yes() ? 1 : 0;
+    case Form::Days: return days(value);
+    default: return value;
+  }
+}
+
 void copy(Session& session, const Setting& setting, const store::Value& value) {
   if (std::holds_alternative<std::monostate>(setting.copy)) return;
-  constexpr double century = 36500;  // days beyond it mean nothing, and would not fit a date
   switch (setting.form) {
     case Form::One: session.*std::get<bool Session::*>(setting.copy) = value.number() == 1; break;
     case Form::YesNo: session.*std::get<bool Session::*>(setting.copy) = value.yes(); break;
@@ -61,14 +75,8 @@ void copy(Session& session, const Setting& setting, const store::Value& value) {
       if (!value.trimmed().empty()) session.*std::get<std::string Session::*>(setting.copy) = value.trimmed();
       break;
     case Form::Name: session.*std::get<std::string Session::*>(setting.copy) = value.trimmed(); break;
-    case Form::Days:
-      session.*std::get<int Session::*>(setting.copy) = static_cast<int>(std::clamp(value.number(), -century, century));
-      break;
+    case Form::Days: session.*std::get<int Session::*>(setting.copy) = days(value); break;
   }
-}
-
-store::RecordSet configuration(Desk& desk) {
-  return store::RecordSet(desk.store, "select * from morvanedjpzb where fn='kqd'", store::Connection::Config);
 }
 
 bool loadOnly(Desk& desk, std::initializer_list<std::string_view> columns) {
@@ -95,14 +103,14 @@ bool loadStandardBasis(Desk& desk) { return loadOnly(desk, {"bjsf1"}); }
 
 bool storeSetting(Desk& desk, std::string_view column, const store::Value& value) {
   const Setting& setting = settingOf(column);
-  const store::Value stored = setting.form == Form::One ? store::Value(value.yes() ? 1 : 0) : value;
+  const store::Value kept = stored(setting, value);
   store::Unit unit(desk.store, store::Connection::Config);
   store::RecordSet row = configuration(desk);
   if (row.empty()) return false;
-  row.set(column, stored);
+  row.set(column, kept);
   row.update();
   unit.finish();
-  copy(desk.session, setting, stored);
+  copy(desk.session, setting, kept);
   return true;
 }
 

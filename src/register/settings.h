@@ -4,9 +4,12 @@
 #include <string_view>
 
 #include "kit/desk.h"
+#include "store/record_set.h"
 
 namespace school {
 
+// The configuration record; empty when there is none.
+store::RecordSet configuration(kit::Desk& desk);
 // Copies the configuration record into the session. False: there is no record, and all stays as it was.
 bool loadSettings(kit::Desk& desk);
 // The same for qfjz and qfcejz alone: the fee window reads them again at each confirmation.

@@ -32,7 +32,8 @@ Formzct::Formzct(kit::Desk& all) : Screen(all, "Formzct", ""), ConsoleMenu(stati
   wireFront();
   wireOverviews();
   wireStatistics();
-  timer2.onTick([this] { sharing.refresh(); });
+  timer2.ticksBehindScreens = true;
+  timer2.onTick([this] { attempt([this] { sharing.refresh(); }); });  // a fault must not end what goes on in front
 }
 
 void Formzct::load() {

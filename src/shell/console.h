@@ -66,7 +66,7 @@ class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
   void openFeeWindowFor(kit::List& list, const char* table);
   void summarise(kit::List& list, const char* table);
   void pickFromClass();
-  void enablePaymentEntries(bool listed);
+  void enablePaymentEntries();
   void enableArrearsEntries(bool listed);
   void showPayments();
   void showArrears();

@@ -30,7 +30,8 @@ void Formzct::wireOverviews() {
       closeOverviews();
       card.xh.focus();
     });
-  students_overview.button("打开").onPress([this] { refillLater(students_overview, open<students::Formzctxscx1>()); });
+  students_overview.button("打开").onPress(
+      [this] { refillLater(students_overview, open<students::Formzctxscx1>([this] { ready.clear(); })); });
   payments_overview.button("打开").onPress([this] { refillLater(payments_overview, open<collection::Formzctsf31>()); });
   arrears_overview.button("打开").onPress([this] { queryArrears(); });
   students_overview.button("添加").onPress([this] { editStudent(kit::Mode::Add); });

@@ -101,15 +101,15 @@ void Formzct::clearCard() {
   card.clear();
   payments.clear();
   leaveDueArrears();
-  enablePaymentEntries(true);
+  enablePaymentEntries();
   enableArrearsEntries(true);
 }
 
-void Formzct::enablePaymentEntries(bool listed) {
+void Formzct::enablePaymentEntries() {
   const bool collects = may(desk, Collect);
   cd59.enable(collects);
   for (kit::Action* entry : {&cd50, &cd54, &cd55, &cd56, &cd510}) entry->enable(collects);
-  for (kit::Action* entry : {&cd571, &cd572}) entry->enable(collects && (!listed || may(desk, DeleteUnsubmitted)));
+  for (kit::Action* entry : {&cd571, &cd572}) entry->enable(collects && may(desk, DeleteUnsubmitted));
 }
 
 void Formzct::enableArrearsEntries(bool listed) {
@@ -133,7 +133,7 @@ void Formzct::redrawLists() {
 
 void Formzct::showPayments() {
   payments.showAll(base::trim(current_xh), card.xm.trimmed());
-  enablePaymentEntries(true);
+  enablePaymentEntries();
 }
 
 void Formzct::leaveDueArrears() {

@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "kit/rows.h"
+#include "register/settings.h"
 #include "shell/loading.h"
 #include "shell/start.h"
 #include "upkeep/first_run.h"
@@ -13,7 +14,6 @@
 
 namespace shell {
 
-using store::Connection;
 using store::RecordSet;
 using store::Sql;
 
@@ -48,7 +48,7 @@ void Formcsh5::load() {
     desk.session.first_user_added = false;  // the login behind it goes on
   }
   yhxm.focus();
-  RecordSet settings(desk.store, "select * from morvanedjpzb where fn='kqd'", Connection::Config);
+  RecordSet settings = school::configuration(desk);
   if (!settings.empty()) showPicture(static_cast<int>(settings.get("tupan").number()));
 }
 
@@ -60,7 +60,7 @@ void Formcsh5::showPicture(int number) {
 }
 
 void Formcsh5::nextPicture() {
-  RecordSet settings(desk.store, "select * from morvanedjpzb where fn='kqd'", Connection::Config);
+  RecordSet settings = school::configuration(desk);
   if (settings.empty()) return;
   const int number = static_cast<int>(settings.get("tupan").number());
   if (number < 1 || number > 9) return;  // no step leads on from a number without a picture
@@ -97,7 +97,6 @@ void Formcsh5::logIn() {
   desk.session.Rights = rights;
   desk.session.SessionUser = name;
   desk.session.SessionLevel = level_;
-  wrongTries_.erase(name);
   panel.show(false);
   desk.navigator.stand<Formcsh1>(desk);
   storedPassword_.clear();
@@ -107,7 +106,7 @@ void Formcsh5::logIn() {
 // Each further wrong password of a name costs twice the time, so that nobody tries them all.
 void Formcsh5::refuse(const std::string& name) {
   constexpr int longest = 30, doublings = 5;
-  secondsToWait_ = std::min(longest, 1 << std::min(wrongTries_[name]++, doublings));
+  secondsToWait_ = std::min(longest, 1 << std::min(wrongTries_[base::upper(name)]++, doublings));
   waitOn();
   second.start();
   stop(" 密码不对，请重新输入 ！       ", "错误提示");

@@ -1,5 +1,7 @@
 #include "students/student_query.h"
 
+#include <utility>
+
 #include "base/text.h"
 #include "kit/rows.h"
 #include "kit/validation.h"
@@ -31,7 +33,8 @@ const kit::QueryPlan plan{"xs",
 
 }  // namespace
 
-Formzctxscx1::Formzctxscx1(kit::Desk& all) : QueryScreen(all, "Formzctxscx1", "打开学籍资料信息设置", plan) {
+Formzctxscx1::Formzctxscx1(kit::Desk& all, kit::Handler nobody)
+    : QueryScreen(all, "Formzctxscx1", "打开学籍资料信息设置", plan) {
   zymc.offers("select * from zymcb order by zybh", "zymc");
   bjmc.offers(
       [this] {
@@ -52,9 +55,9 @@ Formzctxscx1::Formzctxscx1(kit::Desk& all) : QueryScreen(all, "Formzctxscx1", "�
   byxx.offers("select byxx from xs group by byxx", "byxx");
   csrq.day.calendarFrom = -usualAge;
   wireConditions();
-  single.onPress([this] {
+  single.onPress([this, nobody = std::move(nobody)] {
     close();
-    answer = open<Formzctxscx>();
+    answer = open<Formzctxscx>(nobody);
   });
 }
 
@@ -119,7 +122,8 @@ bool asksForDates(const Way& way) { return way.before.empty() && *way.column != 
 
 }  // namespace
 
-Formzctxscx::Formzctxscx(kit::Desk& all) : Screen(all, "Formzctxscx", "学生学籍资料查询设置") {
+Formzctxscx::Formzctxscx(kit::Desk& all, kit::Handler nobody)
+    : Screen(all, "Formzctxscx", "学生学籍资料查询设置"), nobody_(std::move(nobody)) {
   std::vector<std::string> names;
   for (const Way& one : ways()) names.emplace_back(one.name);
   way.setChoices(names);
@@ -169,7 +173,10 @@ void Formzctxscx::query() {
     filter = chosen->before + (major ? school::majorCode(desk.store, value.trimmed()) : value.trimmed()) + "'";
   }
   const long long count = rows(Sql("select * from xs ") + filter).count();
-  if (count == 0) return inform("相关记录不存在 ！      ", "信息提示");
+  if (count == 0) {
+    if (nobody_) nobody_();
+    return inform("相关记录不存在 ！      ", "信息提示");
+  }
   answer = kit::Filter{
       filter, way.text() +
                   (dates ? "：条件是从 [ " + from.trimmed() + " ] 到 [ " + to.trimmed() + " ]，符合条件的记录有："

@@ -7,7 +7,8 @@ namespace students {
 
 class Formzctxscx1 : public kit::QueryScreen {  // 打开学籍资料信息设置
  public:
-  explicit Formzctxscx1(kit::Desk& desk);
+  // nobody: what is done when the query by one condition finds no student; it stays open.
+  explicit Formzctxscx1(kit::Desk& desk, kit::Handler nobody = {});
   kit::Layout layout() override;
 
   kit::Field zymc{*this, "zymc", "专业名称", kit::Entry::Pick}, bjmc{*this, "bjmc", "班级名称", kit::Entry::Pick},
@@ -27,7 +28,7 @@ class Formzctxscx1 : public kit::QueryScreen {  // 打开学籍资料信息设�
 
 class Formzctxscx : public kit::Screen {  // 学生学籍资料查询设置
  public:
-  explicit Formzctxscx(kit::Desk& desk);
+  explicit Formzctxscx(kit::Desk& desk, kit::Handler nobody = {});
   kit::Layout layout() override;
 
   kit::Field way{*this, "way", "查询方式", kit::Entry::Choose};
@@ -40,6 +41,7 @@ class Formzctxscx : public kit::Screen {  // 学生学籍资料查询设置
  private:
   void wayChanged();
   void query();
+  const kit::Handler nobody_;
 };
 
 }  // namespace students

@@ -17,6 +17,7 @@ class Formyhxx4 : public kit::Screen {  // 系统启用设置
 
  private:
   void save();
+  bool addFirstUser();  // false: there are users already
 };
 
 }  // namespace upkeep

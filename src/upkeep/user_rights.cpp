@@ -79,6 +79,7 @@ constexpr const char* noRows = "该用户没有权限记录（可能改过姓名
 
 void Formyhxx1::clearAll() {
   shownFor_.clear();
+  granted_.clear();
   for (kit::Check& box : boxes) box.set(false);
 }
 
@@ -91,7 +92,9 @@ void Formyhxx1::showRights() {
   shownFor_ = yhxm.trimmed();
   store::forEach(rights, [this](RecordSet& row) {
     const double number = row.get("bh").number() - 1000;
-    if (number >= 0 && number <= kit::lastRight) box(static_cast<int>(number))->set(row.get("fn").yes());
+    const bool granted = row.get("fn").yes();
+    if (number >= 0 && number <= kit::lastRight) box(static_cast<int>(number))->set(granted);
+    granted_.push_back(granted);
   });
 }
 
@@ -101,6 +104,10 @@ void Formyhxx1::saveRights() {
   store::Unit unit(desk.store);
   RecordSet rights = rows(Sql("select * from yhxx1 where yhxm='") + shownFor_ + "' order by bh");
   if (rights.empty()) throw store::StoreError(store::Fault::RowGone, noRows);
+  std::vector<bool> granted;
+  store::forEach(rights, [&](RecordSet& row) { granted.push_back(row.get("fn").yes()); });
+  if (granted != granted_) throw kit::changedMeanwhile(shownFor_ + "的权限");
+  rights.first();
   for (int number = 0; number <= kit::lastRight && !rights.atEnd(); ++number, rights.next()) {
     rights.set("fn", box(number)->on());
     rights.update();

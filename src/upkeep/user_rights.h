@@ -38,7 +38,8 @@ class Formyhxx1 : public kit::Screen {  // 用户权限设置
   void showRights();
   void saveRights();
   std::array<kit::Check*, kit::lastRight + 1> byNumber_{};
-  std::string shownFor_;  // whose rights the boxes hold
+  std::string shownFor_;       // whose rights the boxes hold
+  std::vector<bool> granted_;  // what his rows held when they were shown
 };
 
 }  // namespace upkeep

@@ -126,6 +126,9 @@ TEST(Setup, SwitchesTheBasisOfTheStandardsAndFiltersThem) {
   });
   press("remove");
   EXPECT_EQ(desk.dump("sfbzbrxxs", "rxxs"), "统招\n");
+  const long long saved = desk.store.saved();
+  EXPECT_TRUE(opened<Formsz>(desk)->formStandards.list.visible());
+  EXPECT_EQ(desk.store.saved(), saved) << "who only looks writes nothing";
 }
 
 TEST(Setup, TheFilterGoesWithTheNameOfItsClass) {
@@ -197,6 +200,12 @@ TEST(DeskSettings, StoreEachTickAtOnce) {
   s->fpys.choose(2);
   EXPECT_EQ(desk.session.receipt_style, 3);
   EXPECT_EQ(desk.kept("fpys"), "3\n");
+
+  desk.configure({{"fpys", 7}});  // none of the three: any of them can be stored
+  auto again = opened<Formszqt>(desk);
+  EXPECT_EQ(again->fpys.chosen(), -1);
+  again->fpys.choose(2);
+  EXPECT_EQ(desk.kept("fpys"), "3\n");
 }
 
 TEST(DeskSettings, StoreTheirFieldsOnTheirButtons) {
@@ -217,6 +226,10 @@ TEST(DeskSettings, StoreTheirFieldsOnTheirButtons) {
   EXPECT_EQ(desk.kept("qfts|qfjz|todamc1"), "12|书费|江西省学校收费专用收据\n");
   EXPECT_EQ(desk.session.reminder_days, 12);
   EXPECT_EQ(desk.session.arrears_item, "书费");
+  s->qfts.type("99999999");
+  desk.told("设置成功 ！         ");
+  s->storeDays.press();
+  EXPECT_EQ(desk.kept("qfts"), "36500\n");
   desk.settings().remove();  // without a record nothing is stored, and nothing told
   const bool before = s->dysz.on();
   s->dysz.toggle();

@@ -51,6 +51,17 @@ TEST(ConsoleFaults, TheLoadOnlyReadsAndTheConsoleStandsWhateverTheStoreSays) {
   school.failures.off();
   EXPECT_EQ(s->title(), "澜岳学校综合管理系统 收费前台");
   EXPECT_TRUE(s->timer2.running());
+  school.add("czjl", {{"yhxm", "甲"}, {"gjsj", ""}});
+  bool goesOn = false;
+  s->run([&] {  // while a screen stands in front
+    s->timer2.tick();
+    EXPECT_EQ(s->sharing.list.count(), 1);
+    school.failures.at(1, Fault::Unreadable);
+    school.failed(Failures::words(Fault::Unreadable));
+    s->timer2.tick();
+    goesOn = true;
+  });
+  EXPECT_TRUE(goesOn);
 }
 
 TEST(ConsoleFaults, LeavingAlwaysWorks) {

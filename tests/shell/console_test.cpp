@@ -12,6 +12,7 @@
 #include "shell/rights.h"
 #include "students/class_transfer_window.h"
 #include "students/student_edit.h"
+#include "students/student_query.h"
 #include "students/suspension_list.h"
 #include "support/school.h"
 #include "upkeep/clearing.h"
@@ -102,6 +103,7 @@ TEST(Console, RightsSettleTheMenuOnce) {
   for (kit::Action* entry : s->paymentsPopUp()) EXPECT_FALSE(entry && entry->enabled());  // right 31 is missing
   find(*s, "1001");
   EXPECT_EQ(s->card.xm.text(), "");
+  for (kit::Action* button : {&s->k1, &s->k5}) button->press();  // nothing opens
 }
 
 TEST(Console, TheMenuLeadsToStatementSuspensionsAndClearing) {
@@ -208,6 +210,27 @@ TEST(Console, OverviewsFillOnlyWhenTheSettingSaysSo) {
     s->students_overview.button("返回").press();
     EXPECT_FALSE(s->students_overview.frame.visible());
     EXPECT_EQ(s->ConsolePanel, kit::Panel::None);
+  }
+}
+
+TEST(Console, TheStatusLineTellsWhatTheQueryFound) {
+  Office office;
+  auto s = opened<Formzct>(office);
+  s->k2.press();
+  s->timer1.tick();
+  for (const bool there : {true, false}) {
+    office.navigator.expect<students::Formzctxscx1>([](students::Formzctxscx1& query) { query.single.press(); });
+    office.navigator.expect<students::Formzctxscx>([&](students::Formzctxscx& query) {
+      query.way.pick("按姓名查询");
+      query.value.type(there ? "王小明" : "无此人");
+      if (!there) office.told("相关记录不存在 ！      ");
+      query.confirm.press();
+      EXPECT_EQ(query.closed(), there);
+    });
+    s->students_overview.button("打开").press();
+    s->timer4.tick();
+    EXPECT_EQ(s->ready.text(), there ? "按姓名查询：条件是 [ 王小明 ] ，符合条件的记录有： 1 条！" : "");
+    EXPECT_EQ(s->students_overview.list.count(), 1);
   }
 }
 
@@ -352,7 +375,12 @@ TEST(Console, WaivesFromTheCardAndFromTheOverview) {
 
   Office clerk{Collect, ArrearsQuery};
   auto t = opened<Formzct>(clerk);
-  EXPECT_FALSE(t->cd91.enabled() || t->cd92.enabled());
+  clerk.configure({{"sfctsz", 0}});
+  clerk.owe("1", "1001", {2026, 9, 1}, "300");
+  find(*t, "1001");
+  EXPECT_TRUE(t->cd66.enabled());
+  for (kit::Action* entry : {&t->cd61, &t->cd62, &t->cd91, &t->cd92, &t->cd571, &t->cd572})
+    EXPECT_FALSE(entry->enabled()) << entry->name;
 }
 
 TEST(Console, EditsArrearsFromTheOverview) {

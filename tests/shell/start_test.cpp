@@ -23,7 +23,8 @@ void addClerk(School& test, const std::string& name = "李强", const std::strin
 }
 
 void logIn(Formcsh5& s, const std::string& name = "李强", const std::string& password = " abc ") {
-  s.yhxm.pick(name);
+  s.yhxm.type(name);
+  s.yhxm.enter();
   s.yhmm.type(password);
   s.yhmm.enter();
 }
@@ -54,16 +55,19 @@ TEST(Splash, LeadsToTheFirstRunScreenWithoutUsersAndToTheLoginWithThem) {
 
 TEST(Login, ChecksInOrder) {
   School test;
-  addClerk(test);
+  test.navigator.expect<upkeep::Formyhxx4>([&](upkeep::Formyhxx4& first) {
+    addClerk(test);
+    first.cancel.press();
+  });
   auto s = opened<Formcsh5>(test);
   test.person.expect(Box::Warning, "  请选择用户名称 ！              ", "登录提示");
   s->login.press();
   s->yhxm.pick("李强");
+  s->yhmm.enter();  // blank: nothing is pressed
   s->yhmm.type("wrong");
   test.person.expect(Box::Stop, " 密码不对，请重新输入 ！       ", "错误提示");
   s->login.press();
   EXPECT_EQ(s->yhmm.text(), "");
-  s->yhmm.enter();  // blank: nothing is pressed
   s->second.tick();
 
   s->yhxm.type("李刚");  // another name after the choice: the chosen user's password no longer counts
@@ -77,7 +81,7 @@ TEST(Login, ChecksInOrder) {
 TEST(Login, AWrongPasswordCostsAGrowingPause) {
   School test;
   addClerk(test);
-  addClerk(test, "王芳");
+  for (const char* name : {"王芳", "Lee"}) addClerk(test, name);
   auto s = opened<Formcsh5>(test);
   const auto pauseAfter = [&](const char* name) {
     test.person.expect(Box::Stop, " 密码不对，请重新输入 ！       ", "错误提示");
@@ -93,6 +97,8 @@ TEST(Login, AWrongPasswordCostsAGrowingPause) {
   for (int i = 0; i < 7; ++i) pauses.push_back(pauseAfter("李强"));
   EXPECT_THAT(pauses, testing::ElementsAre(1, 2, 4, 8, 16, 30, 30));
   EXPECT_EQ(pauseAfter("王芳"), 1) << "each name for itself";
+  EXPECT_EQ(pauseAfter("Lee"), 1);
+  EXPECT_EQ(pauseAfter("lee"), 2) << "the same user, however the name is written";
   EXPECT_EQ(test.count("select * from czjl"), 0);
 }
 
@@ -135,6 +141,8 @@ TEST(Login, SetsTheSessionUpAndMarksWhatThisComputerLeftOpen) {
   School test;
   addClerk(test);
   test.add("czjl", {{"yhxm", "甲"}, {"jsjmc", "收费一号机"}, {"kjsj", "2026-9-6 8:00:00"}, {"gjsj", ""}});
+  test.add("czjl",
+           {{"yhxm", "甲"}, {"jsjmc", "收费一号机"}, {"kjsj", "2026-9-5 8:00:00"}, {"gjsj", "2026-9-5 9:00:00"}});
   test.add("czjl", {{"yhxm", "乙"}, {"jsjmc", "收费二号机"}, {"kjsj", "2026-9-7 8:00:00"}, {"gjsj", ""}});
   auto s = opened<Formcsh5>(test);
   logIn(*s);
@@ -142,9 +150,9 @@ TEST(Login, SetsTheSessionUpAndMarksWhatThisComputerLeftOpen) {
   EXPECT_EQ(test.session.SessionLevel, "一般操作员");
   EXPECT_EQ(test.session.SessionStart, "2026-9-7 8:30:05");
   EXPECT_FALSE(test.session.Rights[31]);
-  EXPECT_EQ(
-      test.dump("czjl", "yhxm|jsjmc|kjsj|gjsj"),
-      "甲|收费一号机|2026-9-6 8:00:00|强行中断\n乙|收费二号机|2026-9-7 8:00:00|\n李强|收费一号机|2026-9-7 8:30:05|\n");
+  EXPECT_EQ(test.dump("czjl", "yhxm|jsjmc|kjsj|gjsj"),
+            "甲|收费一号机|2026-9-6 8:00:00|强行中断\n甲|收费一号机|2026-9-5 8:00:00|2026-9-5 "
+            "9:00:00\n乙|收费二号机|2026-9-7 8:00:00|\n李强|收费一号机|2026-9-7 8:30:05|\n");
   EXPECT_TRUE(test.navigator.find<Formcsh1>());
   EXPECT_FALSE(s->panel.visible());
 }

@@ -150,16 +150,20 @@ TEST(StudentEdit, ATickedBoxOffersTheFeeWindow) {
   EXPECT_FALSE(s->xssf.on());
   s->xssf.toggle();
   EXPECT_EQ(stored(), 1);
-  s = opened<Formzctxs>(school, kit::Editing{}, [&](const std::string& current_xh) {
+  const auto collect = [&](const std::string& current_xh) {
     EXPECT_TRUE(s->closed()) << "the record is in, whatever becomes of the fee window";
     handedOn = current_xh;
-  });
+  };
+  s = opened<Formzctxs>(school, kit::Editing{}, collect);
   EXPECT_TRUE(s->xssf.on());
-  fill(*s);
-  school.person.answer(true, Box::Ask, "学籍资料信息成功录入！要打开收费窗口收费吗？    ", "信息提示");
-  s->confirm.press();
-  EXPECT_EQ(handedOn, "20260001010001");
-  EXPECT_TRUE(s->closed());
+  for (const bool yes : {false, true}) {
+    if (yes) s = opened<Formzctxs>(school, kit::Editing{}, collect);
+    fill(*s);
+    school.person.answer(yes, Box::Ask, "学籍资料信息成功录入！要打开收费窗口收费吗？    ", "信息提示");
+    s->confirm.press();
+    EXPECT_EQ(handedOn, yes ? "20260001010002" : "");
+    EXPECT_TRUE(s->closed());
+  }
   openedFor(school, Mode::Add)->xssf.toggle();
   EXPECT_EQ(stored(), 0);
 }

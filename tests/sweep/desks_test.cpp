@@ -153,7 +153,7 @@ TEST_P(EveryRecordDesk, EmptiesWhatItNamesAfterTwoQuestions) {
     EXPECT_EQ(booksOf(world.parts.store), before);
   }
   for (const char* told : {what.done, what.none}) {
-    asked(true, true);
+    if (told == what.done) asked(true, true);  // an empty table is told at once
     scripted.expect(Box::Information, told, "信息提示");
     desk.clearAll->press();
     std::set<std::string> emptied, kept;

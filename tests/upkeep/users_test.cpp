@@ -1,6 +1,7 @@
 #include "upkeep/users.h"
 
-#include "support/test_desk.h"
+#include "kit/validation.h"
+#include "support/school.h"
 #include "upkeep/first_run.h"
 #include "upkeep/password.h"
 #include "upkeep/password_change.h"
@@ -26,8 +27,13 @@ TEST(FirstRun, BlankEntryIsRefusedThenTheFirstUserMayDoEverything) {
   s->yhmm.type("   ");
   test.person.expect(Box::Stop, "输入项不能为空！     ", "操作提示");
   s->confirm.press();
+  s->yhxm.type("王'芳");  // nobody of that name could ever log in
+  s->yhmm.type("1");
+  test.person.expect(Box::Stop, kit::quoteRefused, "错误提示");
+  s->confirm.press();
   EXPECT_EQ(test.count("select * from yhxx"), 0);
 
+  s->yhxm.type("王芳");
   s->yhmm.type(" 123456 ");
   test.person.expect(Box::Information, "设置完成！系统默认您为“超级管理员”！     ", "信息提示");
   s->confirm.press();
@@ -37,6 +43,18 @@ TEST(FirstRun, BlankEntryIsRefusedThenTheFirstUserMayDoEverything) {
   EXPECT_NE(storedPassword(test, "王芳"), "123456");
   EXPECT_TRUE(passwordFits(storedPassword(test, "王芳"), "123456 "));
   EXPECT_FALSE(passwordFits(storedPassword(test, "王芳"), "12345"));
+}
+
+TEST(FirstRun, ThereIsOneFirstUser) {
+  support::School test;
+  auto s = opened<Formyhxx4>(test);
+  addUser(test.store, "李强", superLevel, "1", test.clock.now());  // on another desk
+  s->yhxm.type("过客");
+  s->yhmm.type("1");
+  test.person.expect(Box::Stop, "其他计算机已经设置了用户，请撤销后重新启动本系统再登录！     ", "操作提示");
+  s->confirm.press();
+  EXPECT_FALSE(s->closed() || test.session.first_user_added);
+  EXPECT_EQ(test.dump("yhxx", "yhxm"), "李强\n");
 }
 
 TEST(Rights, FollowThePlaceOfTheRowAndStopAtAHundred) {
@@ -73,6 +91,19 @@ TEST(UserEdit, ChangingWithoutTouchingTheDotsKeepsThePassword) {
   test.person.answer(true, Box::Ask, "您确认要修改记录吗？  ", "修改提示")
       .expect(Box::Information, "选定记录已修改 ！     ", "信息提示");
   test.navigator.expect<Formyhxx2>([](Formyhxx2& s) {
+    s.yhmm.type("x");
+    s.yhmm.type("");
+    s.confirm.press();
+  });
+  list->modify.press();
+  EXPECT_TRUE(passwordFits(storedPassword(test, "李刚"), "abc"));
+
+  test.person.answer(true, Box::Ask, "您确认要修改记录吗？  ", "修改提示")
+      .expect(Box::Information, "选定记录已修改 ！     ", "信息提示");
+  test.navigator.expect<Formyhxx2>([](Formyhxx2& s) {
+    s.yhmm.clear();
+    s.yhmm.leave();
+    EXPECT_EQ(s.yhmm.text(), keptPassword);
     s.yhmm.type("xyz");
     s.confirm.press();
   });
@@ -81,15 +112,19 @@ TEST(UserEdit, ChangingWithoutTouchingTheDotsKeepsThePassword) {
 }
 
 TEST(UserEdit, AddsWithTypedSuperLevelAndDeletesWithTheRights) {
-  TestDesk test;
+  support::School test;
   auto list = opened<Formyhxx>(test);
-  test.person.expect(Box::Stop, "输入项均不能为空！    ", "错误提示")
-      .expect(Box::Information, "用户添加成功！   ", "信息提示");
-  test.navigator.expect<Formyhxx2>([](Formyhxx2& s) {
-    s.yhxm.type("赵敏");
-    s.confirm.press();
-    s.yhjb.type("超级管理员");
+  test.navigator.expect<Formyhxx2>([&](Formyhxx2& s) {
+    for (kit::Field* blank : {&s.yhxm, &s.yhjb, &s.yhmm}) {
+      s.yhxm.type("赵敏");
+      s.yhjb.type("超级管理员");
+      s.yhmm.type("1");
+      blank->type(" ");
+      test.refused("输入项均不能为空！    ");
+      s.confirm.press();
+    }
     s.yhmm.type("1");
+    test.told("用户添加成功！   ");
     s.confirm.press();
   });
   list->add.press();
@@ -129,6 +164,31 @@ TEST(UserRights, GrantsWhatIsTickedAndReadiesForTheNextUser) {
   s->yhxm.pick("李强");
   EXPECT_TRUE(s->box(31)->on());
   for (int number = 0; number <= kit::lastRight; ++number) EXPECT_TRUE(s->box(number)) << number;
+}
+
+// The ticks of one name are never saved for another, nor over what another desk has granted meanwhile.
+TEST(UserRights, GoOnlyToTheUserTheyWereShownFor) {
+  support::School test;
+  for (const char* name : {"李强", "赵敏"}) addUser(test.store, name, "一般操作员", "1", test.clock.now());
+  auto s = opened<Formyhxx1>(test);
+  s->yhxm.pick("李强");
+  s->box(31)->toggle();
+  s->yhxm.type("赵敏");
+  s->save.press();  // shows hers first
+  EXPECT_FALSE(s->box(31)->on());
+  s->box(30)->toggle();
+  store::RecordSet other(test.store, "select * from yhxx1 where yhxm='赵敏' and bh=1031");
+  kit::writeRow(other, {{"fn", true}});
+  test.conflict("赵敏的权限");
+  s->save.press();
+  EXPECT_EQ(test.count("select * from yhxx1 where fn=true"), 1);
+
+  s->yhxm.pick("赵敏");
+  EXPECT_TRUE(s->box(31)->on());
+  test.told("该用户没有权限记录（可能改过姓名），不能授权！请先删除该用户，再重新添加。    ");
+  s->yhxm.type("李刚");
+  s->yhxm.enter();
+  EXPECT_FALSE(s->save.enabled() || s->box(31)->on());
 }
 
 TEST(PasswordChange, TestsInOrderThenChanges) {
