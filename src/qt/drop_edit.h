@@ -1,6 +1,6 @@
 // A line edit with something that drops down: a list of choices or a calendar. Opens with its button, a double click,
-// Down, F4 or Alt+Down, and asks for it by a click while it is empty; where nothing can be typed, Up and Down step through
-// the choices.
+// Down, F4 or Alt+Down, and asks for it by a click while it is empty; where nothing can be typed, Up and Down step
+// through the choices.
 #pragma once
 
 #include <QLineEdit>
