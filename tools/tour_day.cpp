@@ -361,7 +361,7 @@ int playDay(const std::filesystem::path& folder, const std::filesystem::path& pi
                             askQuestions(people), lookAtTheSchool(people), collectAClass(people), leave()})
     append(steps, more);
   Player day(steps, pictures, numbered);
-  app::Office(folder.string()).run();
+  app::Office({folder}).run();
   numbered = day.pictures();
   if (!day.finished()) return -1;
   School after(folder);

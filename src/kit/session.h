@@ -29,6 +29,7 @@ struct Session {
   bool shortfall_opens_arrears = false;  // qfcejz
   bool standard_basis_class = false;     // bjsf1
 
+  bool folder_wanted = false;     // the program starts anew with another folder of data
   bool first_user_added = false;  // the first-run screen did its work; the program starts anew for the login
 
   // Of the receipt that was printed last: a reprint shows them again.

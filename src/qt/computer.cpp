@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QDesktopServices>
+#include <QDir>
 #include <QGuiApplication>
 #include <QProcess>
 #include <QScreen>
@@ -29,6 +30,14 @@ platform::WorkArea QtDesktop::workArea() {
 }
 
 std::string QtDesktop::computerName() { return fromQt(QSysInfo::machineHostName().left(longestName)); }
+
+// A folder that was chosen is shared by computers of different screens.
+std::filesystem::path QtDesktop::deskFolder() {
+  if (!chosen_) return folder_;
+  const QString own = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+  QDir().mkpath(own);
+  return fromQt(own);
+}
 
 void QtDesktop::SetDisplayMode(int width, int height, int depth, int rate) {
   wishedMode = {width, height, depth, rate};

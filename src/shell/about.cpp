@@ -9,6 +9,7 @@ Formcsh2::Formcsh2(kit::Desk& all) : Screen(all, "Formcsh2", "关于...") {
   product.prominent = true;
   version.set("v9.0.1");
   date.set("2008年8月1日");
+  folder.set(desk.desktop.programFolder().string());
   cancel.onPress([this] { close(); });
 }
 

@@ -183,7 +183,7 @@ void Formzct::closeLogRow() {
 }
 
 void Formzct::restoreDisplay() {
-  const auto file = desk.desktop.programFolder() / "Screen.txt";
+  const auto file = desk.desktop.deskFolder() / "Screen.txt";
   const int width = static_cast<int>(base::leadingNumber(platform::readFile(file)));
   desk.session.ScreenWidth = width;
   struct Mode {

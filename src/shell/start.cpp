@@ -4,7 +4,7 @@ namespace shell {
 
 void noteScreenWidth(kit::Desk& desk) {
   desk.session.ScreenWidth = desk.desktop.workArea().right;
-  platform::writeFile(desk.desktop.programFolder() / "Screen.txt", std::to_string(desk.session.ScreenWidth) + "\n");
+  platform::writeFile(desk.desktop.deskFolder() / "Screen.txt", std::to_string(desk.session.ScreenWidth) + "\n");
 }
 
 void connect(kit::Desk& desk, const Location& main, const Location& config) {

@@ -115,6 +115,12 @@ Location locate(const std::string& text) {
   return {file, text.substr(from, text.size() - from - (text.ends_with('\'') ? 1 : 0))};
 }
 
+bool holdsDatabases(const fs::path& programFolder) {
+  std::error_code ignored;  // a folder that does not answer holds nothing
+  return fs::exists(fileIn(programFolder, Connection::Main).parent_path(), ignored) ||
+         fs::exists(fileIn(programFolder, Connection::Config).parent_path(), ignored);
+}
+
 void createWhenNew(const fs::path& programFolder) {
   try {
     create(programFolder);

@@ -53,6 +53,35 @@ TEST(Splash, LeadsToTheFirstRunScreenWithoutUsersAndToTheLoginWithThem) {
   EXPECT_NE(test.session.ConfigConnection.find("\\配置文件\\morvanedjpz.mdb"), std::string::npos);
 }
 
+TEST(Splash, OffersWaysOnAfterAFault) {
+  School test;
+  addClerk(test);
+  support::Failures failures(test.store);
+  for (const bool chosen : {false, true}) {
+    test.desktop.chosen = chosen;
+    std::filesystem::create_directories(test.desktop.programFolder() / "mv_Database");
+    failures.at(1, store::Fault::Busy);
+    test.failed(support::Failures::words(store::Fault::Busy));
+    auto s = opened<Form1>(test);
+    failures.off();
+    EXPECT_TRUE(s->retry.visible() && s->leave.visible());
+    EXPECT_EQ(s->choose.visible(), chosen) << "a folder that was not chosen here cannot be chosen anew";
+    EXPECT_FALSE(s->timer.running() || s->closed());
+    s->retry.press();
+    EXPECT_TRUE(s->timer.running());
+    EXPECT_FALSE(s->retry.visible());
+  }
+  // A folder whose share is gone is no place for a new office.
+  std::filesystem::remove_all(test.desktop.programFolder() / "mv_Database");
+  std::filesystem::remove_all(test.desktop.programFolder() / "配置文件");
+  test.failed("文件夹“" + test.desktop.programFolder().string() +
+              "”中没有本系统的数据，请检查共享文件夹是否已经连接。");
+  auto s = opened<Form1>(test);
+  s->choose.press();
+  EXPECT_TRUE(s->closed());
+  EXPECT_TRUE(test.session.folder_wanted);
+}
+
 TEST(Login, ChecksInOrder) {
   School test;
   test.navigator.expect<upkeep::Formyhxx4>([&](upkeep::Formyhxx4& first) {

@@ -101,6 +101,8 @@ class FakeDesktop : public platform::Desktop {
   platform::WorkArea workArea() override { return area; }
   std::string computerName() override { return computer; }
   std::filesystem::path programFolder() override { return folder_; }
+  bool folderChosen() override { return chosen; }
+  std::filesystem::path deskFolder() override { return folder_; }
   void SetDisplayMode(int width, int height, int, int) override {
     faults.pass();
     modes.push_back({width, height});
@@ -122,7 +124,7 @@ class FakeDesktop : public platform::Desktop {
   std::string computer = "收费一号机";
   std::vector<std::pair<int, int>> modes;
   std::vector<std::filesystem::path> started, documents;
-  bool opensDocuments = true;
+  bool opensDocuments = true, chosen = false;
 
  private:
   std::filesystem::path folder_;
