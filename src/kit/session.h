@@ -9,7 +9,7 @@ namespace kit {
 
 struct Session {
   // Who works where; written by the login.
-  std::string SessionUser, SessionLevel, ComputerName, SessionStart, SchoolName;
+  std::string SessionUser, SessionLevel, ComputerName, ComputerMark, SessionStart, SchoolName;
   std::string MainConnection, ConfigConnection;
   std::array<bool, 100> Rights{};
   int ScreenWidth = 0;

@@ -22,6 +22,7 @@ class Desktop {
   virtual ~Desktop() = default;
   virtual WorkArea workArea() = 0;
   virtual std::string computerName() = 0;
+  virtual std::string computerMark() = 0;             // tells computers of one name apart
   virtual std::filesystem::path programFolder() = 0;  // holds the databases and pictures
   // The person chose that folder on this computer, and may choose another one.
   virtual bool folderChosen() = 0;

@@ -9,6 +9,8 @@
 #include <QStandardPaths>
 #include <QSysInfo>
 #include <QUrl>
+#include <fstream>
+#include <set>
 
 #include "qt/text.h"
 
@@ -37,6 +39,25 @@ std::filesystem::path QtDesktop::deskFolder() {
   const QString own = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
   QDir().mkpath(own);
   return fromQt(own);
+}
+
+// Copies of one installation share what the system has written down about itself; the address of the network card stays
+// the computer's own.
+std::string QtDesktop::computerMark() {
+  namespace fs = std::filesystem;
+  std::set<std::string> cards;
+  std::error_code unread;
+  for (const fs::directory_entry& one : fs::directory_iterator("/sys/class/net", unread)) {
+    const auto firstLine = [&](const char* file) {
+      std::string line;
+      std::getline(std::ifstream(one.path() / file), line);
+      return line;
+    };
+    const bool builtIn = fs::exists(one.path() / "device", unread) && firstLine("addr_assign_type") == "0";
+    if (builtIn) cards.insert(firstLine("address"));
+  }
+  const std::string system = QSysInfo::machineUniqueId().toStdString();
+  return cards.empty() ? system : system + " " + *cards.begin();
 }
 
 void QtDesktop::SetDisplayMode(int width, int height, int depth, int rate) {

@@ -18,6 +18,7 @@ class QtDesktop : public platform::Desktop {
   QtDesktop(std::filesystem::path programFolder, bool chosen) : folder_(std::move(programFolder)), chosen_(chosen) {}
   platform::WorkArea workArea() override;
   std::string computerName() override;
+  std::string computerMark() override;
   std::filesystem::path programFolder() override { return folder_; }
   bool folderChosen() override { return chosen_; }
   std::filesystem::path deskFolder() override;

@@ -33,7 +33,13 @@ Formzct::Formzct(kit::Desk& all) : Screen(all, "Formzct", ""), ConsoleMenu(stati
   wireOverviews();
   wireStatistics();
   timer2.ticksBehindScreens = true;
-  timer2.onTick([this] { attempt([this] { sharing.refresh(); }); });  // a fault must not end what goes on in front
+  timer2.onTick([this] {
+    showToday();
+    attempt([this] {  // a fault must not end what goes on in front
+      sharing.sayAlive();
+      sharing.refresh();
+    });
+  });
 }
 
 void Formzct::load() {
@@ -50,7 +56,7 @@ void Formzct::load() {
   for (Overview* overview : {&students_overview, &payments_overview, &arrears_overview}) overview->enableByRights(desk);
   ready.set("就绪");
   user.set("当前用户：" + desk.session.SessionUser + " 级别：" + desk.session.SessionLevel);
-  third.set("今天是 " + desk.clock.today().chinese());
+  showToday();
   setTitle(desk.session.SchoolName + "综合管理系统 收费前台");
   timer2.start();
   card.xh.focus();
@@ -59,6 +65,8 @@ void Formzct::load() {
   classes.fillTree();
   sharing.refresh();
 }
+
+void Formzct::showToday() { third.set("今天是 " + desk.clock.today().chinese()); }
 
 void Formzct::wireMenu() {
   const auto opens = [this](kit::Action& entry, auto open) { entry.onPress(open); };
@@ -175,8 +183,7 @@ bool Formzct::mayClose() {
 }
 
 void Formzct::closeLogRow() {
-  RecordSet session = rows(Sql("select * from czjl where kjsj='") + base::trim(desk.session.SessionStart) +
-                           "' and jsjmc='" + base::trim(desk.session.ComputerName) + "'");
+  RecordSet session = sharing.ownRow();
   if (session.empty()) return;
   session.set("gjsj", desk.clock.now().plain());
   session.update();

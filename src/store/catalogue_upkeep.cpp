@@ -7,7 +7,9 @@ std::vector<Table> upkeepTables() {
   const Columns user{text("yhxm"), text("yhjb"), text("yhmm")};
   const Columns right{text("yhxm"), number("bh"), yesNo("fn"), marker};
   // gjsj holds the moment of the end, a word when the session was cut off, and the empty text while it runs.
-  const Columns session{text("yhxm"), text("jsjmc"), moment("kjsj"), text("gjsj"), marker};
+  const Columns session{
+      text("yhxm"), text("jsjmc"), moment("kjsj"), text("gjsj"),
+      marker,       text("jsjbs"), moment("hdsj")};  // the computer's mark; when the session was last seen
   const Columns helpTopic{text("name"), text("bt"), text("fn"), number("bh")};
   const Columns message{text("xlh"), date("rq"),  text("lyjb"), text("xm"), text("zt"),
                         text("ly"),  text("lyr"), text("ydbj"), marker};

@@ -173,6 +173,8 @@ TEST(Login, SetsTheSessionUpAndMarksWhatThisComputerLeftOpen) {
   test.add("czjl",
            {{"yhxm", "甲"}, {"jsjmc", "收费一号机"}, {"kjsj", "2026-9-5 8:00:00"}, {"gjsj", "2026-9-5 9:00:00"}});
   test.add("czjl", {{"yhxm", "乙"}, {"jsjmc", "收费二号机"}, {"kjsj", "2026-9-7 8:00:00"}, {"gjsj", ""}});
+  for (const char* mark : {"one", "another of this name"})
+    test.add("czjl", {{"yhxm", "丙"}, {"jsjmc", "收费一号机"}, {"jsjbs", mark}, {"gjsj", ""}});
   auto s = opened<Formcsh5>(test);
   logIn(*s);
   EXPECT_EQ(test.session.SessionUser, "李强");
@@ -181,7 +183,8 @@ TEST(Login, SetsTheSessionUpAndMarksWhatThisComputerLeftOpen) {
   EXPECT_FALSE(test.session.Rights[31]);
   EXPECT_EQ(test.dump("czjl", "yhxm|jsjmc|kjsj|gjsj"),
             "甲|收费一号机|2026-9-6 8:00:00|强行中断\n甲|收费一号机|2026-9-5 8:00:00|2026-9-5 "
-            "9:00:00\n乙|收费二号机|2026-9-7 8:00:00|\n李强|收费一号机|2026-9-7 8:30:05|\n");
+            "9:00:00\n乙|收费二号机|2026-9-7 "
+            "8:00:00|\n丙|收费一号机||强行中断\n丙|收费一号机||\n李强|收费一号机|2026-9-7 8:30:05|\n");
   EXPECT_TRUE(test.navigator.find<Formcsh1>());
   EXPECT_FALSE(s->panel.visible());
 }
