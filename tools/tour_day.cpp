@@ -354,6 +354,10 @@ int playDay(const std::filesystem::path& folder, const std::filesystem::path& pi
   {
     School before(folder);
     people = choosePeople(before);
+    // The day opens the fee window by the menu alone.
+    RecordSet settings(before.store, "select * from morvanedjpzb where fn='kqd'", store::Connection::Config);
+    settings.set("sfctsz", 0);
+    settings.update();
     paymentsBefore = before.count("select * from jfjl");
   }
   Steps steps = logIn("王芳");
