@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
+#include <QStandardPaths>
 
 #include "qt/text.h"
 #include "store/error.h"
@@ -13,10 +14,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* key = "dataFolder";
+constexpr const char *file = "/fee-office/fee-office.conf", *key = "dataFolder";
 
 // The person's own setting; where there is none, the one that the administrator wrote for the whole computer.
-QSettings settings() { return QSettings("fee-office", "fee-office"); }
+QString remembered() {
+  const QString found = QStandardPaths::locate(QStandardPaths::GenericConfigLocation, file + 1);
+  return found.isEmpty() ? QString() : QSettings(found, QSettings::IniFormat).value(key).toString();
+}
+
+void remember(const QString& folder) {
+  QSettings(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + file, QSettings::IniFormat)
+      .setValue(key, folder);
+}
 
 QString sharedFiles(const QString& programFolder) { return programFolder + "/../share/fee-office"; }
 
@@ -46,7 +55,7 @@ std::optional<DataFolder> knownDataFolder(const QString& named, const QString& p
   const fs::path own = pathOf(programFolder);
   const bool installed = QFileInfo::exists(sharedFiles(programFolder));
   if (store::holdsDatabases(own) || (!installed && QFileInfo(programFolder).isWritable())) return DataFolder{own};
-  const QString chosen = settings().value(key).toString();
+  const QString chosen = remembered();
   if (chosen.isEmpty()) return std::nullopt;
   return DataFolder{pathOf(chosen), true};
 }
@@ -68,7 +77,7 @@ std::optional<DataFolder> chooseDataFolder(kit::Person& person, const QString& p
       if (!wanted || !makeOffice(person, folder.path)) continue;
       copyPictures(programFolder, folder.path);
     }
-    settings().setValue(key, qt::toQt(folder.path.string()));
+    remember(qt::toQt(folder.path.string()));
     return folder;
   }
   return std::nullopt;

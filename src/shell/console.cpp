@@ -16,6 +16,7 @@
 #include "students/suspension_list.h"
 #include "upkeep/clearing.h"
 #include "upkeep/password_change.h"
+#include "upkeep/school_name.h"
 #include "upkeep/user_list.h"
 #include "upkeep/user_rights.h"
 
@@ -49,6 +50,7 @@ void Formzct::load() {
                              {cd14, {ClassTransfer}},
                              {cd31, {Users}},
                              {cd33, {GrantRights}},
+                             {cd35, {Users}},
                              {cd34, {Initialise}},
                              {cd91, {WaiveArrears}},
                              {cd92, {WaiveArrears}},
@@ -57,7 +59,7 @@ void Formzct::load() {
   ready.set("就绪");
   user.set("当前用户：" + desk.session.SessionUser + " 级别：" + desk.session.SessionLevel);
   showToday();
-  setTitle(desk.session.SchoolName + "综合管理系统 收费前台");
+  showSchool();
   timer2.start();
   card.xh.focus();
   clearCard();
@@ -65,6 +67,8 @@ void Formzct::load() {
   classes.fillTree();
   sharing.refresh();
 }
+
+void Formzct::showSchool() { setTitle(desk.session.SchoolName + "综合管理系统 收费前台"); }
 
 void Formzct::showToday() { third.set("今天是 " + desk.clock.today().chinese()); }
 
@@ -84,6 +88,10 @@ void Formzct::wireMenu() {
   opens(cd32, [this] { open<upkeep::Formyhxx3>(); });
   opens(cd33, [this] { open<upkeep::Formyhxx1>(); });
   opens(cd34, [this] { open<upkeep::Formcsh3>(); });
+  opens(cd35, [this] {
+    open<upkeep::Formxxmc>();
+    showSchool();
+  });
   opens(cd43, [this] { open<Formcsh2>(); });
   opens(cd72, [this] { open<students::Formxxfk3>(); });
   for (kit::Action* entry : {&cd121, &cd77, &cd70, &cd75, &cd71, &cd73, &cd76, &cd74, &cd41, &cd42, &cd44})

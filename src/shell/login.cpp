@@ -10,6 +10,7 @@
 #include "shell/start.h"
 #include "upkeep/first_run.h"
 #include "upkeep/password.h"
+#include "upkeep/school_name.h"
 #include "upkeep/users.h"
 
 namespace shell {
@@ -42,7 +43,7 @@ void Formcsh5::load() {
   desk.session.ComputerMark = desk.desktop.computerMark();
   connect(desk, {"\\mv_Database\\morvanegxgl.mdb", store::mainPassword},
           {"\\配置文件\\morvanedjpz.mdb", store::configPassword});
-  desk.session.SchoolName = schoolName;
+  desk.session.SchoolName = upkeep::schoolName(desk.store);
   school.set(desk.session.SchoolName);
   if (rows("select * from yhxx").empty()) {
     open<upkeep::Formyhxx4>();

@@ -4,6 +4,7 @@
 #include "shell/start.h"
 #include "store/files.h"
 #include "upkeep/first_run.h"
+#include "upkeep/school_name.h"
 
 namespace shell {
 
@@ -18,7 +19,7 @@ Form1::Form1(kit::Desk& all) : Screen(all, "Form1", "") {
   leave.onPress([this] { close(); });
   timer.onTick([this] {
     if (++ticks_ < 3) return;
-    desk.session.SchoolName = schoolName;
+    desk.session.SchoolName = school_;
     timer.stop();
     desk.navigator.stand<Formcsh5>(desk);
     close();
@@ -41,6 +42,8 @@ void Form1::begin() {
       throw platform::PlatformError("文件夹“" + folder.string() +
                                     "”中没有本系统的数据，请检查共享文件夹是否已经连接。");
     noUser = rows("select * from yhxx").empty();
+    school_ = upkeep::schoolName(desk.store);
+    product.set(productTitleOf(school_));
     if (!noUser) store::Unit writable(desk.store);
   });
   if (!begun) return offerWays(true);

@@ -23,6 +23,7 @@ class Form1 : public kit::Screen {  // splash, without a caption
  private:
   void begin();
   void offerWays(bool offered);
+  std::string school_;
   int ticks_ = 0;
 };
 

@@ -13,6 +13,7 @@ std::vector<Table> upkeepTables() {
   const Columns helpTopic{text("name"), text("bt"), text("fn"), number("bh")};
   const Columns message{text("xlh"), date("rq"),  text("lyjb"), text("xm"), text("zt"),
                         text("ly"),  text("lyr"), text("ydbj"), marker};
+  const Columns setting{text("mc"), text("nr")};  // of the whole office: name and content
   const Columns configuration{text("fn"),      number("tupan"), number("dysz"),  number("sfctsz"), number("sfxmmcsz"),
                               text("sfxmmc"),  yesNo("qfmr"),   yesNo("jfjljz"), yesNo("dybzok"),  number("fpys"),
                               text("todamc1"), yesNo("zdqh"),   text("qfjz"),    number("qfts"),   yesNo("qfcejz"),
@@ -23,6 +24,7 @@ std::vector<Table> upkeepTables() {
       {"czjl", Connection::Main, session, {"kjsj", "gjsj", "jsjmc"}},
       {"czbz", Connection::Main, helpTopic, {}},
       {"mvlyb", Connection::Main, message, {"xm"}},
+      {"xtsz", Connection::Main, setting, {}},
       {"morvanedjpzb", Connection::Config, configuration, {}},
   };
 }

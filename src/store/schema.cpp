@@ -46,7 +46,7 @@ void addSettings(Engine& engine, Connection connection) {
   insert->step();
 }
 
-// 2: the engine's tokens. 3: whether a session lives.
+// 2: the engine's tokens. 3: whether a session lives, settings of the whole office.
 constexpr std::array<Step, 3> steps{{{1, addSettings}, {2, nullptr}, {3, nullptr}}};
 static_assert(steps.back().version == catalogueVersion, "each version of the catalogue has its step");
 

@@ -95,7 +95,8 @@ TEST(Console, RightsSettleTheMenuOnce) {
   Office office{Income, StudentQuery};
   auto s = opened<Formzct>(office);
   EXPECT_TRUE(s->cd11.enabled());
-  EXPECT_FALSE(s->cd21.enabled() || s->cd31.enabled() || s->cd33.enabled() || s->cd34.enabled() || s->cd14.enabled());
+  EXPECT_FALSE(s->cd21.enabled() || s->cd31.enabled() || s->cd33.enabled() || s->cd34.enabled() || s->cd35.enabled() ||
+               s->cd14.enabled());
   EXPECT_TRUE(s->cd32.enabled());
   EXPECT_TRUE(s->students_overview.button("打开").enabled());
   EXPECT_FALSE(s->students_overview.button("添加").enabled());
