@@ -1,5 +1,7 @@
 #include "app/data_folder.h"
 
+#include <sys/stat.h>
+
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
@@ -39,6 +41,7 @@ void copyPictures(const QString& programFolder, const fs::path& folder) {
 }
 
 bool makeOffice(kit::Person& person, const fs::path& folder) {
+  followRightsOf(folder);
   try {
     store::createWhenNew(folder);
     return true;
@@ -81,6 +84,11 @@ std::optional<DataFolder> chooseDataFolder(kit::Person& person, const QString& p
     return folder;
   }
   return std::nullopt;
+}
+
+void followRightsOf(const fs::path& folder) {
+  struct stat found {};
+  if (stat(folder.c_str(), &found) == 0) umask(~found.st_mode & (S_IRWXG | S_IRWXO));
 }
 
 }  // namespace app

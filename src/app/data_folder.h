@@ -24,4 +24,7 @@ std::optional<DataFolder> knownDataFolder(const QString& named, const QString& p
 std::optional<DataFolder> chooseDataFolder(kit::Person& person, const QString& programFolder,
                                            const std::function<QString()>& pick);
 
+// What this desk writes must be open to the others: from here on new files get the rights of the folder.
+void followRightsOf(const std::filesystem::path& folder);
+
 }  // namespace app

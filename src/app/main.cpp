@@ -1,6 +1,4 @@
 // fee-office [data folder]: the program.
-#include <sys/stat.h>
-
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -30,12 +28,6 @@ void provideSessionFolder() {
   const bool made =
       QDir().mkpath(folder) && QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
   if (made) qputenv("XDG_RUNTIME_DIR", folder.toUtf8());
-}
-
-// What this desk writes must be open to the others: new files get the rights of the folder.
-void followRightsOf(const std::filesystem::path& folder) {
-  struct stat found {};
-  if (stat(folder.c_str(), &found) == 0) umask(~found.st_mode & (S_IRWXG | S_IRWXO));
 }
 
 QString pickFolder() {
@@ -69,7 +61,7 @@ int main(int argc, char** argv) {
   qt::QtPerson person(shell::productTitle);
   auto folder = app::knownDataFolder(words.value(1), own);
   while (folder || (folder = app::chooseDataFolder(person, own, pickFolder))) {
-    followRightsOf(folder->path);
+    app::followRightsOf(folder->path);
     app::Office office(*folder);
     application.onFault = [&office](const std::exception_ptr& fault) { office.tell(fault); };
     try {

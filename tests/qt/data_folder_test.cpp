@@ -48,11 +48,14 @@ TEST_F(DataFolders, AreAskedForOnceUnderAnInstalledProgram) {
   test.person.answer(false, Box::AskInfo, wish, title);
   EXPECT_FALSE(app::chooseDataFolder(test.person, program, [] { return QString(); }));
 
+  std::filesystem::permissions(qt::fromQt(data), std::filesystem::perms(0770));
   test.person.answer(true, Box::AskInfo, wish, title).answer(false, Box::AskInfo, empty, title);
   test.person.answer(true, Box::AskInfo, wish, title).answer(true, Box::AskInfo, empty, title);
   const auto chosen = app::chooseDataFolder(test.person, program, [this] { return data; });
   ASSERT_TRUE(chosen);
   EXPECT_TRUE(store::holdsDatabases(qt::fromQt(data)));
+  EXPECT_TRUE(QFile::permissions(data + "/mv_Database/morvanegxgl.mdb") & QFile::WriteGroup) << "open to other desks";
+  app::followRightsOf(qt::fromQt(program));
   EXPECT_TRUE(QFile::exists(data + "/背景图")) << "the pictures come along";
   EXPECT_EQ(known()->path, chosen->path);
   EXPECT_TRUE(known()->chosen);
