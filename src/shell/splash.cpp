@@ -44,7 +44,8 @@ void Form1::begin() {
     noUser = rows("select * from yhxx").empty();
     school_ = upkeep::schoolName(desk.store);
     product.set(productTitleOf(school_));
-    if (!noUser) store::Unit writable(desk.store);
+    if (!store::mayWrite(folder))
+      throw platform::PlatformError("没有读写文件夹“" + folder.string() + "”中数据库的权限，请检查权限后再试！");
   });
   if (!begun) return offerWays(true);
   if (!noUser) return timer.start();
