@@ -30,6 +30,7 @@ target_compile_options(engine PRIVATE -w -O2)
 target_compile_definitions(engine PRIVATE
   SQLITE_TEMP_STORE=3          # temporary files would be plain text
   SQLITE_THREADSAFE=2
+  SQLITE_DEFAULT_FILE_PERMISSIONS=0666  # the rights of new files are for the umask to say
   SQLITE_DQS=0
   SQLITE_OMIT_LOAD_EXTENSION
   SQLITE_OMIT_SHARED_CACHE

@@ -56,7 +56,8 @@ foreach(name ${ROOMS})
   endif()
 endforeach()
 
-add_library(office STATIC ${CMAKE_SOURCE_DIR}/src/app/office.cpp ${CMAKE_SOURCE_DIR}/src/app/views.cpp)
+add_library(office STATIC ${CMAKE_SOURCE_DIR}/src/app/data_folder.cpp ${CMAKE_SOURCE_DIR}/src/app/office.cpp
+            ${CMAKE_SOURCE_DIR}/src/app/views.cpp)
 gui_target(office SEES app qt ${ROOMS} LINK views qt screens)
 
 # gui_program(NAME sources... LINK libraries...): the program itself and the tools that open windows.

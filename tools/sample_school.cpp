@@ -52,11 +52,7 @@ bool hasDatabases(const std::filesystem::path& folder) {
     store::Store store(folder);
     return !store::RecordSet(store, "select * from yhxx").empty();
   }
-  for (const store::Connection which : {store::Connection::Main, store::Connection::Config}) {
-    const auto text = store::connectionText(folder, store::livePath(which), store::password(which));
-    if (std::filesystem::exists(store::locate(text).path.parent_path())) return true;
-  }
-  return false;
+  return store::holdsDatabases(folder);
 }
 
 int fail(const std::string& why) {

@@ -216,7 +216,7 @@ int main(int argc, char** argv) {
   }
   append(steps, leave());
   Player day(steps, folder);
-  app::Office(program).run();
+  app::Office({program}).run();
 
   // The next morning: everything is still there.
   Steps again = logIn("王芳");
@@ -227,7 +227,7 @@ int main(int argc, char** argv) {
                  {"Formzct/classes", "班级学生", [](QWidget&) {}}});
   append(again, leave());
   Player next(again, folder, day.pictures());
-  app::Office(program).run();
+  app::Office({program}).run();
 
   if (!day.finished() || !next.finished()) {
     std::fprintf(stderr, "tour: the program ended before the road did\n");

@@ -354,6 +354,10 @@ int playDay(const std::filesystem::path& folder, const std::filesystem::path& pi
   {
     School before(folder);
     people = choosePeople(before);
+    // The day opens the fee window by the menu alone.
+    RecordSet settings(before.store, "select * from morvanedjpzb where fn='kqd'", store::Connection::Config);
+    settings.set("sfctsz", 0);
+    settings.update();
     paymentsBefore = before.count("select * from jfjl");
   }
   Steps steps = logIn("王芳");
@@ -361,7 +365,7 @@ int playDay(const std::filesystem::path& folder, const std::filesystem::path& pi
                             askQuestions(people), lookAtTheSchool(people), collectAClass(people), leave()})
     append(steps, more);
   Player day(steps, pictures, numbered);
-  app::Office(folder.string()).run();
+  app::Office({folder}).run();
   numbered = day.pictures();
   if (!day.finished()) return -1;
   School after(folder);

@@ -9,8 +9,11 @@
 
 namespace app {
 
-Office::Office(const std::string& programFolder)
-    : store_(programFolder), person_(shell::productTitle), navigator_(app::views()), desktop_(programFolder) {
+Office::Office(const DataFolder& folder)
+    : store_(folder.path),
+      person_(shell::productTitle),
+      navigator_(app::views()),
+      desktop_(folder.path, folder.chosen) {
   store_.onWait = [this](bool waiting) { progress_.waiting(waiting); };
 }
 

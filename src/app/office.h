@@ -4,6 +4,7 @@
 #include <exception>
 #include <string>
 
+#include "app/data_folder.h"
 #include "qt/computer.h"
 #include "qt/navigator.h"
 #include "qt/person.h"
@@ -15,9 +16,10 @@ namespace app {
 
 class Office {
  public:
-  explicit Office(const std::string& programFolder);
-  int run();                                   // from the splash to the last window; a QApplication must exist
-  void tell(const std::exception_ptr& fault);  // one that came past every screen
+  explicit Office(const DataFolder& folder);
+  int run();  // from the splash to the last window; a QApplication must exist
+  bool folderWanted() const { return session_.folder_wanted; }  // the person leaves this folder for another one
+  void tell(const std::exception_ptr& fault);                   // one that came past every screen
   qt::QtNavigator& windows() { return navigator_; }
 
  private:

@@ -43,6 +43,7 @@
 #include "upkeep/clearing.h"
 #include "upkeep/first_run.h"
 #include "upkeep/password_change.h"
+#include "upkeep/school_name.h"
 #include "upkeep/user_edit.h"
 #include "upkeep/user_list.h"
 #include "upkeep/user_rights.h"
@@ -85,6 +86,7 @@ const std::vector<Entry>& screens() {
       screen<upkeep::Formyhxx1>("Formyhxx1"),
       screen<upkeep::Formyhxx2>("Formyhxx2"),
       screen<upkeep::Formyhxx3>("Formyhxx3"),
+      screen<upkeep::Formxxmc>("Formxxmc"),
       screen<students::Formzctxs>("Formzctxs"),
       screen<students::Formzctxsll>("Formzctxsll"),
       screen<students::Formzctxscx>("Formzctxscx"),

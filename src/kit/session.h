@@ -9,7 +9,7 @@ namespace kit {
 
 struct Session {
   // Who works where; written by the login.
-  std::string SessionUser, SessionLevel, ComputerName, SessionStart, SchoolName;
+  std::string SessionUser, SessionLevel, ComputerName, ComputerMark, SessionStart, SchoolName;
   std::string MainConnection, ConfigConnection;
   std::array<bool, 100> Rights{};
   int ScreenWidth = 0;
@@ -29,6 +29,7 @@ struct Session {
   bool shortfall_opens_arrears = false;  // qfcejz
   bool standard_basis_class = false;     // bjsf1
 
+  bool folder_wanted = false;     // the program starts anew with another folder of data
   bool first_user_added = false;  // the first-run screen did its work; the program starts anew for the login
 
   // Of the receipt that was printed last: a reprint shows them again.

@@ -22,7 +22,11 @@ class Desktop {
   virtual ~Desktop() = default;
   virtual WorkArea workArea() = 0;
   virtual std::string computerName() = 0;
-  virtual std::filesystem::path programFolder() = 0;  // holds the databases, pictures and Screen.txt
+  virtual std::string computerMark() = 0;             // tells computers of one name apart
+  virtual std::filesystem::path programFolder() = 0;  // holds the databases and pictures
+  // The person chose that folder on this computer, and may choose another one.
+  virtual bool folderChosen() = 0;
+  virtual std::filesystem::path deskFolder() = 0;  // what belongs to this computer alone: Screen.txt
   // Width and height in pixels, depth in bits, rate in Hz. A wish: a desktop of today keeps its own mode.
   virtual void SetDisplayMode(int width, int height, int depth, int rate) = 0;
   virtual bool startProgram(const std::filesystem::path& program) = 0;  // does not wait; false: it could not be started

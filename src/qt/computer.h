@@ -15,10 +15,13 @@ class QtClock : public platform::Clock {
 
 class QtDesktop : public platform::Desktop {
  public:
-  explicit QtDesktop(std::filesystem::path programFolder) : folder_(std::move(programFolder)) {}
+  QtDesktop(std::filesystem::path programFolder, bool chosen) : folder_(std::move(programFolder)), chosen_(chosen) {}
   platform::WorkArea workArea() override;
   std::string computerName() override;
+  std::string computerMark() override;
   std::filesystem::path programFolder() override { return folder_; }
+  bool folderChosen() override { return chosen_; }
+  std::filesystem::path deskFolder() override;
   void SetDisplayMode(int width, int height, int depth, int rate) override;
   bool startProgram(const std::filesystem::path& program) override;
   std::filesystem::path exportFolder() override;
@@ -31,6 +34,7 @@ class QtDesktop : public platform::Desktop {
 
  private:
   std::filesystem::path folder_;
+  bool chosen_;
 };
 
 }  // namespace qt

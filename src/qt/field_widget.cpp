@@ -4,10 +4,12 @@
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 #include <QStyleOptionFrame>
+#include <QToolButton>
 #include <algorithm>
 
 #include "base/pinyin.h"
 #include "qt/drop_edit.h"
+#include "qt/icon.h"
 #include "qt/member_widgets.h"
 #include "qt/narrowed_list.h"
 #include "qt/text.h"
@@ -218,9 +220,20 @@ QWidget* memoField(kit::Field& field, Renderer& renderer) {
   return edit;
 }
 
+// Shows what was typed as long as its eye is pressed: nobody types while the dots are open.
+void showDots(QLineEdit& edit) {
+  edit.setEchoMode(QLineEdit::Password);
+  QAction* const eye = edit.addAction(icon("eye"), QLineEdit::TrailingPosition);
+  eye->setToolTip("按住显示密码");
+  for (auto* button : edit.findChildren<QToolButton*>()) {
+    QObject::connect(button, &QToolButton::pressed, &edit, [&edit] { edit.setEchoMode(QLineEdit::Normal); });
+    QObject::connect(button, &QToolButton::released, &edit, [&edit] { edit.setEchoMode(QLineEdit::Password); });
+  }
+}
+
 QWidget* lineField(kit::Field& field, Renderer& renderer) {
   auto* edit = new QLineEdit;
-  if (field.entry == Entry::Password) edit->setEchoMode(QLineEdit::Password);
+  if (field.entry == Entry::Password) showDots(*edit);
   keepInStep(*edit, field, renderer);
   return edit;
 }

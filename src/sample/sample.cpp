@@ -83,6 +83,7 @@ class Writer {
     RecordSet settings(store_, Sql("select * from morvanedjpzb where fn='kqd'"), store::Connection::Config);
     settings.set("qfjz", feeItems[tuition].name);
     settings.set("qfts", 7);
+    settings.set("sfctsz", 1);  // a number and Enter open the fee window
     settings.update();
   }
 

@@ -16,6 +16,7 @@
 #include "students/suspension_list.h"
 #include "upkeep/clearing.h"
 #include "upkeep/password_change.h"
+#include "upkeep/school_name.h"
 #include "upkeep/user_list.h"
 #include "upkeep/user_rights.h"
 
@@ -33,7 +34,13 @@ Formzct::Formzct(kit::Desk& all) : Screen(all, "Formzct", ""), ConsoleMenu(stati
   wireOverviews();
   wireStatistics();
   timer2.ticksBehindScreens = true;
-  timer2.onTick([this] { attempt([this] { sharing.refresh(); }); });  // a fault must not end what goes on in front
+  timer2.onTick([this] {
+    showToday();
+    attempt([this] {  // a fault must not end what goes on in front
+      sharing.sayAlive();
+      sharing.refresh();
+    });
+  });
 }
 
 void Formzct::load() {
@@ -43,6 +50,7 @@ void Formzct::load() {
                              {cd14, {ClassTransfer}},
                              {cd31, {Users}},
                              {cd33, {GrantRights}},
+                             {cd35, {Users}},
                              {cd34, {Initialise}},
                              {cd91, {WaiveArrears}},
                              {cd92, {WaiveArrears}},
@@ -50,8 +58,8 @@ void Formzct::load() {
   for (Overview* overview : {&students_overview, &payments_overview, &arrears_overview}) overview->enableByRights(desk);
   ready.set("就绪");
   user.set("当前用户：" + desk.session.SessionUser + " 级别：" + desk.session.SessionLevel);
-  third.set("今天是 " + desk.clock.today().chinese());
-  setTitle(desk.session.SchoolName + "综合管理系统 收费前台");
+  showToday();
+  showSchool();
   timer2.start();
   card.xh.focus();
   clearCard();
@@ -59,6 +67,10 @@ void Formzct::load() {
   classes.fillTree();
   sharing.refresh();
 }
+
+void Formzct::showSchool() { setTitle(desk.session.SchoolName + "综合管理系统 收费前台"); }
+
+void Formzct::showToday() { third.set("今天是 " + desk.clock.today().chinese()); }
 
 void Formzct::wireMenu() {
   const auto opens = [this](kit::Action& entry, auto open) { entry.onPress(open); };
@@ -76,6 +88,10 @@ void Formzct::wireMenu() {
   opens(cd32, [this] { open<upkeep::Formyhxx3>(); });
   opens(cd33, [this] { open<upkeep::Formyhxx1>(); });
   opens(cd34, [this] { open<upkeep::Formcsh3>(); });
+  opens(cd35, [this] {
+    open<upkeep::Formxxmc>();
+    showSchool();
+  });
   opens(cd43, [this] { open<Formcsh2>(); });
   opens(cd72, [this] { open<students::Formxxfk3>(); });
   for (kit::Action* entry : {&cd121, &cd77, &cd70, &cd75, &cd71, &cd73, &cd76, &cd74, &cd41, &cd42, &cd44})
@@ -175,15 +191,14 @@ bool Formzct::mayClose() {
 }
 
 void Formzct::closeLogRow() {
-  RecordSet session = rows(Sql("select * from czjl where kjsj='") + base::trim(desk.session.SessionStart) +
-                           "' and jsjmc='" + base::trim(desk.session.ComputerName) + "'");
+  RecordSet session = sharing.ownRow();
   if (session.empty()) return;
   session.set("gjsj", desk.clock.now().plain());
   session.update();
 }
 
 void Formzct::restoreDisplay() {
-  const auto file = desk.desktop.programFolder() / "Screen.txt";
+  const auto file = desk.desktop.deskFolder() / "Screen.txt";
   const int width = static_cast<int>(base::leadingNumber(platform::readFile(file)));
   desk.session.ScreenWidth = width;
   struct Mode {

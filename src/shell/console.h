@@ -42,6 +42,8 @@ class Formzct : public kit::Screen, public ConsoleMenu {  // 收费前台
 
  private:
   // console.cpp: wiring, load, exit.
+  void showSchool();
+  void showToday();
   void wireMenu();
   void wireToolbar();
   void wireFront();

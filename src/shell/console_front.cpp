@@ -174,7 +174,41 @@ SharingFrame::SharingFrame(kit::Screen& screen, kit::Desk& desk)
 
 void SharingFrame::refresh() {
   RecordSet sessions(desk_.store, "select * from czjl where gjsj=''");
-  list.fill(sessions);
+  list.clear();
+  store::forEach(sessions, [this](RecordSet& row) {
+    const std::string began = row.get("kjsj").text();
+    list.addRow({row.get("yhxm").text(), row.get("jsjmc").text(), lives(row) ? began : "已中断 " + began}, row.mark());
+  });
+}
+
+RecordSet SharingFrame::ownRow() const {
+  const auto& [session, computer] = std::pair(desk_.session.SessionStart, desk_.session.ComputerName);
+  return {desk_.store,
+          Sql("select * from czjl where kjsj='") + base::trim(session) + "' and jsjmc='" + base::trim(computer) + "'"};
+}
+
+// What the person does meanwhile has saved nothing by it.
+void SharingFrame::sayAlive() {
+  constexpr long long often = 60;
+  const base::DateTime now = desk_.clock.now();
+  RecordSet own = ownRow();
+  if (own.empty() || !own.get("gjsj").empty()) return;
+  const auto last = own.get("hdsj").moment();
+  if (last && *last <= now && now < last->plusSeconds(often)) return;
+  const long long before = desk_.store.saved();
+  own.set("hdsj", now);
+  own.update();
+  desk_.savedBefore += desk_.store.saved() - before;
+}
+
+bool SharingFrame::lives(RecordSet& row) {
+  constexpr long long silence = 180;
+  const base::DateTime now = desk_.clock.now();
+  const store::Value moment = row.get("hdsj").empty() ? row.get("kjsj") : row.get("hdsj");
+  Seen& seen = seen_.try_emplace(row.mark(), Seen{moment.text(), now}).first->second;
+  if (seen.moment != moment.text()) seen = {moment.text(), now, true};
+  const base::DateTime heard = seen.changed ? seen.since : std::min(seen.since, moment.moment().value_or(seen.since));
+  return now < heard.plusSeconds(silence);
 }
 
 ClassPanel::ClassPanel(kit::Screen& screen, kit::Desk& desk)

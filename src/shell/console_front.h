@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <map>
 
 #include "kit/screen.h"
 #include "students/student_card.h"
@@ -64,16 +65,26 @@ class ArrearsFrame {
   kit::Desk& desk_;
 };
 
-// 系统共享状态：the open sessions on all computers.
+// 系统共享状态：the open sessions on all computers. Each one says once a minute that it lives.
 class SharingFrame {
  public:
   SharingFrame(kit::Screen& screen, kit::Desk& desk);
   void refresh();
+  void sayAlive();
+  store::RecordSet ownRow() const;  // in the log; it may be gone
 
   kit::Frame frame;
   kit::List list;
 
  private:
+  // The clocks of two computers differ: what counts is how long ago, by this one's, the row was seen to change.
+  struct Seen {
+    std::string moment;  // as the row says
+    base::DateTime since;
+    bool changed = false;
+  };
+  bool lives(store::RecordSet& row);
+  std::map<std::int64_t, Seen> seen_;
   kit::Desk& desk_;
 };
 

@@ -10,6 +10,7 @@
 #include "shell/start.h"
 #include "upkeep/first_run.h"
 #include "upkeep/password.h"
+#include "upkeep/school_name.h"
 #include "upkeep/users.h"
 
 namespace shell {
@@ -39,9 +40,10 @@ Formcsh5::Formcsh5(kit::Desk& all) : Screen(all, "Formcsh5", "") {
 void Formcsh5::load() {
   attempt([this] { noteScreenWidth(desk); });
   desk.session.ComputerName = base::left(desk.desktop.computerName(), 255);
+  desk.session.ComputerMark = desk.desktop.computerMark();
   connect(desk, {"\\mv_Database\\morvanegxgl.mdb", store::mainPassword},
           {"\\配置文件\\morvanedjpz.mdb", store::configPassword});
-  desk.session.SchoolName = schoolName;
+  desk.session.SchoolName = upkeep::schoolName(desk.store);
   school.set(desk.session.SchoolName);
   if (rows("select * from yhxx").empty()) {
     open<upkeep::Formyhxx4>();
@@ -128,8 +130,10 @@ std::string Formcsh5::writeLog(const std::string& name) {
   store::Unit unit(desk.store);
   RecordSet log = rows(Sql("select * from czjl where jsjmc='") + computer + "'");
   // The log knows a session by its computer alone: a second copy on this computer marks the first one's row, too.
-  store::forEach(log, [](RecordSet& row) {
-    if (!row.get("gjsj").empty()) return;
+  // Another computer that bears the same name has a mark of its own.
+  store::forEach(log, [this](RecordSet& row) {
+    const std::string mark = row.get("jsjbs").text();
+    if (!row.get("gjsj").empty() || (!mark.empty() && mark != desk.session.ComputerMark)) return;
     row.set("gjsj", "强行中断");
     row.update();
   });
@@ -139,6 +143,8 @@ std::string Formcsh5::writeLog(const std::string& name) {
   log.set("kjsj", now);
   log.set("gjsj", "");
   log.set("bsh", now.plain());
+  log.set("jsjbs", desk.session.ComputerMark);
+  log.set("hdsj", now);
   log.update();
   const std::string began = log.get("kjsj").text();
   unit.finish();

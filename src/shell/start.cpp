@@ -2,9 +2,11 @@
 
 namespace shell {
 
+std::string productTitleOf(const std::string& school) { return school + "收费管理软件 豪华版"; }
+
 void noteScreenWidth(kit::Desk& desk) {
   desk.session.ScreenWidth = desk.desktop.workArea().right;
-  platform::writeFile(desk.desktop.programFolder() / "Screen.txt", std::to_string(desk.session.ScreenWidth) + "\n");
+  platform::writeFile(desk.desktop.deskFolder() / "Screen.txt", std::to_string(desk.session.ScreenWidth) + "\n");
 }
 
 void connect(kit::Desk& desk, const Location& main, const Location& config) {

@@ -5,8 +5,8 @@
 
 namespace shell {
 
-constexpr const char* schoolName = "澜岳学校";
-constexpr const char* productTitle = "澜岳学校收费管理软件 豪华版";
+constexpr const char* productTitle = "学校收费管理软件 豪华版";  // while the school is not known
+std::string productTitleOf(const std::string& school);
 
 // Keeps the right edge of the work area as ScreenWidth and writes it to Screen.txt; the exit reads it back.
 void noteScreenWidth(kit::Desk& desk);

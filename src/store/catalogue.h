@@ -27,7 +27,7 @@ struct Table {
   const Column* find(std::string_view column) const;  // without regard to case; null when there is none
 };
 
-constexpr int catalogueVersion = 2;
+constexpr int catalogueVersion = 3;
 std::span<const Table> tables();
 const Table* findTable(std::string_view name);
 

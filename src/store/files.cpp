@@ -9,6 +9,7 @@
 
 #include "store/error.h"
 #include "store/schema.h"
+#include "store/server.h"
 #include "store/sqlite_engine.h"
 #include "store/store.h"
 
@@ -113,6 +114,23 @@ Location locate(const std::string& text) {
     break;
   }
   return {file, text.substr(from, text.size() - from - (text.ends_with('\'') ? 1 : 0))};
+}
+
+bool holdsDatabases(const fs::path& programFolder) {
+  std::error_code ignored;  // a folder that does not answer holds nothing
+  return fs::exists(fileIn(programFolder, Connection::Main).parent_path(), ignored) ||
+         fs::exists(fileIn(programFolder, Connection::Config).parent_path(), ignored);
+}
+
+bool mayWrite(const fs::path& programFolder) {
+  if (serverOf(programFolder)) return true;
+  std::error_code ignored;  // what does not answer is told when it is opened
+  for (const Connection which : {Connection::Main, Connection::Config}) {
+    const fs::path file = fileIn(programFolder, which);
+    for (const fs::path& one : {file, file.parent_path()})
+      if (fs::exists(one, ignored) && ::access(one.c_str(), W_OK) != 0) return false;
+  }
+  return true;
 }
 
 void createWhenNew(const fs::path& programFolder) {

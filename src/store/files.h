@@ -20,6 +20,12 @@ struct Location {
 };
 Location locate(const std::string& connectionText);  // what a connection text names
 
+// Whether an office works in the folder; one on a server keeps the file that leads to it there.
+bool holdsDatabases(const std::filesystem::path& programFolder);
+
+// Whether this person has the rights to work in it; nobody needs them there when the databases are on a server.
+bool mayWrite(const std::filesystem::path& programFolder);
+
 // Creates both databases when the program folder has neither of their folders, and completes a creation that was
 // interrupted. A folder or a file that is missing beside the other is left missing: it is lost, not new.
 void createWhenNew(const std::filesystem::path& programFolder);

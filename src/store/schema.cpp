@@ -46,7 +46,8 @@ void addSettings(Engine& engine, Connection connection) {
   insert->step();
 }
 
-constexpr std::array<Step, 2> steps{{{1, addSettings}, {2, nullptr}}};  // the second: the engine's tokens
+// 2: the engine's tokens. 3: whether a session lives, settings of the whole office.
+constexpr std::array<Step, 3> steps{{{1, addSettings}, {2, nullptr}, {3, nullptr}}};
 static_assert(steps.back().version == catalogueVersion, "each version of the catalogue has its step");
 
 std::string definition(const Column& column, const Phrases& phrases) {

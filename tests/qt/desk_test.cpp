@@ -201,7 +201,7 @@ TEST(Application, tellsOnceWhatCameFromAnEventAndGoesOn) {
 }
 
 TEST(Computer, knowsItsWorkAreaAndKeepsItsDisplayMode) {
-  qt::QtDesktop desktop("/tmp");
+  qt::QtDesktop desktop("/tmp", false);
   const auto area = desktop.workArea();
   EXPECT_EQ(std::make_pair(area.right - area.left, area.bottom - area.top), std::make_pair(1366, 768));
   EXPECT_FALSE(desktop.computerName().empty());

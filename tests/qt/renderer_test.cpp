@@ -13,6 +13,7 @@
 #include <QRadioButton>
 #include <QTableView>
 #include <QTest>
+#include <QToolButton>
 #include <QTreeWidget>
 
 #include "demo_screen.h"
@@ -121,7 +122,13 @@ TEST_F(RendererTest, typesIntoAMemoAndShowsDotsForAPassword) {
   EXPECT_EQ(screen.bz.text(), "ab\n");
   QTest::keyClicks(&find("password"), "geheim");
   EXPECT_EQ(screen.password.text(), "geheim");
-  EXPECT_NE(find<QLineEdit>("password").displayText(), "geheim");
+  const auto& dots = find<QLineEdit>("password");
+  const auto eye = dots.findChild<QToolButton*>();
+  for (const bool pressed : {false, true, false}) {
+    const auto event = pressed ? QTest::MousePress : QTest::MouseRelease;
+    QTest::mouseEvent(event, eye, Qt::LeftButton, {}, eye->rect().center());
+    EXPECT_EQ(dots.displayText() == "geheim", pressed);
+  }
 }
 
 TEST_F(RendererTest, aListDropsDownFilledAndAnEntryIsTaken) {

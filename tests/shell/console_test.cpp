@@ -95,7 +95,8 @@ TEST(Console, RightsSettleTheMenuOnce) {
   Office office{Income, StudentQuery};
   auto s = opened<Formzct>(office);
   EXPECT_TRUE(s->cd11.enabled());
-  EXPECT_FALSE(s->cd21.enabled() || s->cd31.enabled() || s->cd33.enabled() || s->cd34.enabled() || s->cd14.enabled());
+  EXPECT_FALSE(s->cd21.enabled() || s->cd31.enabled() || s->cd33.enabled() || s->cd34.enabled() || s->cd35.enabled() ||
+               s->cd14.enabled());
   EXPECT_TRUE(s->cd32.enabled());
   EXPECT_TRUE(s->students_overview.button("打开").enabled());
   EXPECT_FALSE(s->students_overview.button("添加").enabled());
@@ -458,6 +459,43 @@ TEST(Console, SaysGoodbyeInItsOrder) {
     EXPECT_EQ(office.desktop.modes, c.modes);
     EXPECT_EQ(office.desktop.started.size(), 1u);
   }
+}
+
+TEST(Console, TellsASessionThatDiedFromOneThatLives) {
+  Office office;
+  office.add("czjl", {{"yhxm", "甲"}, {"jsjmc", "b"}, {"kjsj", "2026-9-7 7:00:00"}, {"gjsj", ""}, {"jsjbs", "2"}});
+  const auto seen = [](const char* moment) { return base::DateTime::parse(moment).value(); };
+  // A clock that is ten minutes slow, one that is ten minutes fast.
+  office.add("czjl", {{"yhxm", "乙"}, {"kjsj", "2026-9-7 8:10:00"}, {"gjsj", ""}, {"hdsj", seen("2026-9-7 8:20:00")}});
+  office.add("czjl", {{"yhxm", "丙"}, {"kjsj", "2026-9-7 8:20:00"}, {"gjsj", ""}, {"hdsj", seen("2026-9-7 8:40:00")}});
+  auto s = opened<Formzct>(office);
+  const auto dead = [&] {
+    std::string names;
+    for (long long row = 0; row < s->sharing.list.count(); ++row)
+      if (s->sharing.list.cell(row, 2).starts_with("已中断 2026-9-7")) names += s->sharing.list.cell(row, 0);
+    return names;
+  };
+  const auto after = [&](long long seconds) {
+    office.clock.moment = office.clock.moment.plusSeconds(seconds);
+    s->run([&] {
+      s->timer2.tick();
+      EXPECT_EQ(office.store.saved(), office.desk.savedBefore) << "the person's own event saved nothing by it";
+    });
+  };
+  EXPECT_EQ(dead(), "甲乙");
+  auto slow = store::RecordSet(office.store, "select * from czjl where yhxm='乙'");
+  slow.set("hdsj", seen("2026-9-7 8:20:30"));
+  slow.update();
+  after(30);
+  EXPECT_EQ(dead(), "甲") << "what changes lives, whatever its clock says";
+  EXPECT_EQ(office.value("select * from czjl where yhxm='李强'", "hdsj"), "2026-9-7 8:30:35");
+  after(30);
+  EXPECT_EQ(office.value("select * from czjl where yhxm='李强'", "hdsj"), "2026-9-7 8:30:35") << "once a minute";
+  after(180);
+  EXPECT_EQ(dead(), "甲乙丙");
+  EXPECT_EQ(office.value("select * from czjl where yhxm='李强'", "hdsj"), "2026-9-7 8:34:05");
+  after(16 * 3600);
+  EXPECT_EQ(s->third.text(), "今天是 2026年9月8日") << "the day follows midnight";
 }
 
 }  // namespace

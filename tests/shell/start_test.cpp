@@ -53,6 +53,35 @@ TEST(Splash, LeadsToTheFirstRunScreenWithoutUsersAndToTheLoginWithThem) {
   EXPECT_NE(test.session.ConfigConnection.find("\\配置文件\\morvanedjpz.mdb"), std::string::npos);
 }
 
+TEST(Splash, OffersWaysOnAfterAFault) {
+  School test;
+  addClerk(test);
+  support::Failures failures(test.store);
+  for (const bool chosen : {false, true}) {
+    test.desktop.chosen = chosen;
+    std::filesystem::create_directories(test.desktop.programFolder() / "mv_Database");
+    failures.at(1, store::Fault::Busy);
+    test.failed(support::Failures::words(store::Fault::Busy));
+    auto s = opened<Form1>(test);
+    failures.off();
+    EXPECT_TRUE(s->retry.visible() && s->leave.visible());
+    EXPECT_EQ(s->choose.visible(), chosen) << "a folder that was not chosen here cannot be chosen anew";
+    EXPECT_FALSE(s->timer.running() || s->closed());
+    s->retry.press();
+    EXPECT_TRUE(s->timer.running());
+    EXPECT_FALSE(s->retry.visible());
+  }
+  // A folder whose share is gone is no place for a new office.
+  std::filesystem::remove_all(test.desktop.programFolder() / "mv_Database");
+  std::filesystem::remove_all(test.desktop.programFolder() / "配置文件");
+  test.failed("文件夹“" + test.desktop.programFolder().string() +
+              "”中没有本系统的数据，请检查共享文件夹是否已经连接。");
+  auto s = opened<Form1>(test);
+  s->choose.press();
+  EXPECT_TRUE(s->closed());
+  EXPECT_TRUE(test.session.folder_wanted);
+}
+
 TEST(Login, ChecksInOrder) {
   School test;
   test.navigator.expect<upkeep::Formyhxx4>([&](upkeep::Formyhxx4& first) {
@@ -144,6 +173,8 @@ TEST(Login, SetsTheSessionUpAndMarksWhatThisComputerLeftOpen) {
   test.add("czjl",
            {{"yhxm", "甲"}, {"jsjmc", "收费一号机"}, {"kjsj", "2026-9-5 8:00:00"}, {"gjsj", "2026-9-5 9:00:00"}});
   test.add("czjl", {{"yhxm", "乙"}, {"jsjmc", "收费二号机"}, {"kjsj", "2026-9-7 8:00:00"}, {"gjsj", ""}});
+  for (const char* mark : {"one", "another of this name"})
+    test.add("czjl", {{"yhxm", "丙"}, {"jsjmc", "收费一号机"}, {"jsjbs", mark}, {"gjsj", ""}});
   auto s = opened<Formcsh5>(test);
   logIn(*s);
   EXPECT_EQ(test.session.SessionUser, "李强");
@@ -152,7 +183,8 @@ TEST(Login, SetsTheSessionUpAndMarksWhatThisComputerLeftOpen) {
   EXPECT_FALSE(test.session.Rights[31]);
   EXPECT_EQ(test.dump("czjl", "yhxm|jsjmc|kjsj|gjsj"),
             "甲|收费一号机|2026-9-6 8:00:00|强行中断\n甲|收费一号机|2026-9-5 8:00:00|2026-9-5 "
-            "9:00:00\n乙|收费二号机|2026-9-7 8:00:00|\n李强|收费一号机|2026-9-7 8:30:05|\n");
+            "9:00:00\n乙|收费二号机|2026-9-7 "
+            "8:00:00|\n丙|收费一号机||强行中断\n丙|收费一号机||\n李强|收费一号机|2026-9-7 8:30:05|\n");
   EXPECT_TRUE(test.navigator.find<Formcsh1>());
   EXPECT_FALSE(s->panel.visible());
 }

@@ -100,7 +100,10 @@ class FakeDesktop : public platform::Desktop {
   ~FakeDesktop() override;
   platform::WorkArea workArea() override { return area; }
   std::string computerName() override { return computer; }
+  std::string computerMark() override { return mark; }
   std::filesystem::path programFolder() override { return folder_; }
+  bool folderChosen() override { return chosen; }
+  std::filesystem::path deskFolder() override { return folder_; }
   void SetDisplayMode(int width, int height, int, int) override {
     faults.pass();
     modes.push_back({width, height});
@@ -119,10 +122,10 @@ class FakeDesktop : public platform::Desktop {
 
   PlatformFaults faults;  // of all that stands around the desk
   platform::WorkArea area{0, 0, 1366, 728};
-  std::string computer = "收费一号机";
+  std::string computer = "收费一号机", mark = "one";
   std::vector<std::pair<int, int>> modes;
   std::vector<std::filesystem::path> started, documents;
-  bool opensDocuments = true;
+  bool opensDocuments = true, chosen = false;
 
  private:
   std::filesystem::path folder_;

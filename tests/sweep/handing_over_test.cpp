@@ -19,11 +19,11 @@ enum class Way { Confirm, Cancel, Frame, EarlyFault, LateFault };  // Escape is 
 
 // The session but for method and date of the last receipt, which a reprint shows again.
 auto lasting(const kit::Session& s) {
-  return std::make_tuple(s.SessionUser, s.SessionLevel, s.ComputerName, s.SessionStart, s.SchoolName, s.MainConnection,
-                         s.ConfigConnection, s.Rights, s.ScreenWidth, s.print_receipt, s.open_fee_window, s.only_items,
-                         s.due_rows_ticked, s.auto_load_lists, s.arrears_in_remark, s.receipt_style, s.custom_form,
-                         s.switch_layout, s.arrears_item, s.reminder_days, s.shortfall_opens_arrears,
-                         s.standard_basis_class, s.first_user_added);
+  return std::make_tuple(s.SessionUser, s.SessionLevel, s.ComputerName, s.ComputerMark, s.SessionStart, s.SchoolName,
+                         s.MainConnection, s.ConfigConnection, s.Rights, s.ScreenWidth, s.print_receipt,
+                         s.open_fee_window, s.only_items, s.due_rows_ticked, s.auto_load_lists, s.arrears_in_remark,
+                         s.receipt_style, s.custom_form, s.switch_layout, s.arrears_item, s.reminder_days,
+                         s.shortfall_opens_arrears, s.standard_basis_class, s.first_user_added);
 }
 
 // All that a person sees of a screen.

@@ -5,6 +5,7 @@
 #include "upkeep/first_run.h"
 #include "upkeep/password.h"
 #include "upkeep/password_change.h"
+#include "upkeep/school_name.h"
 #include "upkeep/user_edit.h"
 #include "upkeep/user_list.h"
 #include "upkeep/user_rights.h"
@@ -55,6 +56,26 @@ TEST(FirstRun, ThereIsOneFirstUser) {
   s->confirm.press();
   EXPECT_FALSE(s->closed() || test.session.first_user_added);
   EXPECT_EQ(test.dump("yhxx", "yhxm"), "李强\n");
+}
+
+TEST(SchoolName, IsTheOfficesOnceItIsSet) {
+  support::School test;
+  EXPECT_EQ(schoolName(test.store), "澜岳学校");
+  for (const char* name : {"江北中学", "江北第一中学"}) {
+    auto s = opened<Formxxmc>(test);
+    for (const auto& [entry, words] : {std::pair<std::string, std::string>{" ", "学校名称不能为空！     "},
+                                       {support::times(21, "校"), "学校名称不能超过20个字！     "}}) {
+      s->xxmc.type(entry);
+      test.person.expect(Box::Stop, words, "操作提示");
+      s->confirm.press();
+    }
+    s->xxmc.type(std::string(" ") + name + " ");
+    test.told("学校名称已保存，其他计算机在下次登录时使用！     ");
+    s->confirm.press();
+    EXPECT_TRUE(s->closed());
+    EXPECT_EQ(test.session.SchoolName, name);
+    EXPECT_EQ(test.dump("xtsz", "mc|nr"), std::string("学校名称|") + name + "\n");
+  }
 }
 
 TEST(Rights, FollowThePlaceOfTheRowAndStopAtAHundred) {

@@ -7,7 +7,9 @@ namespace shell {
 using namespace kit;
 
 Layout Form1::layout() {
-  return {.root = column({stretch(), product, note("正在启动 ..."), stretch()}),
+  return {.root = column({stretch(), product, state, stretch(), buttons({retry, choose, leave})}),
+          .confirm = &retry,
+          .cancel = &leave,
           .width = 560,
           .height = 320,
           .frameless = true};
@@ -24,10 +26,10 @@ Layout Formcsh5::layout() {
 }
 
 Layout Formcsh2::layout() {
-  return {.root = column({product, form({version, date}), buttons({cancel})}),
+  return {.root = column({product, form({version, date, folder}), buttons({cancel})}),
           .confirm = &cancel,
           .cancel = &cancel,
-          .width = 420};
+          .width = 520};
 }
 
 }  // namespace shell
