@@ -150,20 +150,25 @@ QRectF placeOf(const platform::Text& mark) {
   return {line.x, mark.y, line.width, height};
 }
 
-void setPaper(QPagedPaintDevice& device, const platform::Drawing& drawing) {
-  const QPageSize paper(QSizeF(drawing.width, drawing.height), QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
+bool paintPages(QPagedPaintDevice& device, const platform::Drawing& drawing, const std::vector<int>& pages,
+                const printing::Placing& placing) {
+  const QPageSize paper(QSizeF(placing.paper.width, placing.paper.height), QPageSize::Millimeter, QString(),
+                        QPageSize::ExactMatch);
   QPageLayout layout(paper, QPageLayout::Portrait, QMarginsF(), QPageLayout::Millimeter, QMarginsF());
   layout.setMode(QPageLayout::FullPageMode);  // places count from the paper's corner, whatever the printer cannot reach
   device.setPageLayout(layout);
-}
-
-bool paintPages(QPagedPaintDevice& device, const platform::Drawing& drawing, int first, int last) {
   QPainter painter;
   if (!painter.begin(&device)) return false;
   painter.scale(device.logicalDpiX() / inchMillimetres, device.logicalDpiY() / inchMillimetres);
-  for (int page = first; page <= last; ++page) {
-    if (page > first && !device.newPage()) return false;
-    paintPage(painter, drawing.pages[static_cast<std::size_t>(page - 1)]);
+  if (placing.turned) {
+    painter.translate(placing.paper.width, 0);
+    painter.rotate(90);
+  }
+  painter.translate(placing.right, placing.down);
+  painter.scale(placing.scale, placing.scale);
+  for (std::size_t i = 0; i < pages.size(); ++i) {
+    if (i > 0 && !device.newPage()) return false;
+    paintPage(painter, drawing.pages[static_cast<std::size_t>(pages[i] - 1)]);
   }
   return painter.end();
 }
