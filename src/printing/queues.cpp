@@ -166,7 +166,9 @@ void print(const Job& job, std::string_view pdf) {
   options.set("print-scaling", "none");
   options.set(CUPS_COPIES, std::to_string(job.copies));
   options.set("multiple-document-handling", "separate-documents-collated-copies");
-  options.set(CUPS_SIDES, job.bothSides ? CUPS_SIDES_TWO_SIDED_PORTRAIT : CUPS_SIDES_ONE_SIDED);
+  options.set(CUPS_SIDES, !job.bothSides ? CUPS_SIDES_ONE_SIDED
+                          : job.turned   ? CUPS_SIDES_TWO_SIDED_LANDSCAPE
+                                         : CUPS_SIDES_TWO_SIDED_PORTRAIT);
 
   const int id = cupsCreateJob(http.get(), job.queue.c_str(), job.title.c_str(), options.count(), options.all());
   if (id == 0) throw platform::PlatformError(whyRefused(job.queue));

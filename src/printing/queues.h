@@ -35,7 +35,7 @@ struct Abilities {
 struct Job {
   std::string queue, title, media;
   int copies = 1;
-  bool bothSides = false;
+  bool bothSides = false, turned = false;  // what lies across its paper is turned over on the short edge
 };
 
 std::vector<Queue> queues();  // none, too, when the print service does not answer

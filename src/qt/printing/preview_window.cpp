@@ -207,7 +207,7 @@ void PreviewWindow::print() {
   if (!paper) return;
   try {
     const QByteArray pdf = pdfOf(drawing_, *pages, paper->placing);
-    printing::print(settings_->job(), {pdf.data(), static_cast<std::size_t>(pdf.size())});
+    printing::print(settings_->job(paper->placing), {pdf.data(), static_cast<std::size_t>(pdf.size())});
   } catch (const platform::PlatformError& error) {
     QMessageBox::critical(this, "打印提示", toQt(error.what()));
     return;

@@ -99,6 +99,8 @@ PrintSettings::PrintSettings(const platform::Drawing& drawing, QWidget* parent)
   pages_->setToolTip("空着打印全部；只打印几页，例如 2,5-6");
   pages_->setFixedWidth(90);
   copies_->setRange(1, mostCopies);
+  for (QWidget* field : std::initializer_list<QWidget*>{printer_, paper_, copies_, right_, down_})
+    field->setMinimumHeight(pages_->sizeHint().height());
 
   if (queues_.empty()) {
     printer_->addItem("没有找到打印机");
@@ -168,12 +170,13 @@ void PrintSettings::correctPages() {
   pages_->selectAll();
 }
 
-printing::Job PrintSettings::job() const {
+printing::Job PrintSettings::job(const printing::Placing& placing) const {
   return {.queue = fromQt(printer_->currentData().toString()),
           .title = drawing_.title,
           .media = fromQt(paper_->currentData().toString()),
           .copies = copies_->value(),
-          .bothSides = bothSides_->isChecked()};
+          .bothSides = bothSides_->isChecked(),
+          .turned = placing.turned};
 }
 
 printing::Size PrintSettings::paper() const { return papers_[static_cast<std::size_t>(paper_->currentIndex())].size; }

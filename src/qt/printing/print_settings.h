@@ -29,7 +29,7 @@ class PrintSettings : public QWidget {
 
   std::optional<std::vector<int>> pages() const;  // nothing: the field cannot be read
   void correctPages();
-  printing::Job job() const;
+  printing::Job job(const printing::Placing& placing) const;
   printing::Size paper() const;
   QString paperText() const;
   OtherPaper otherPaper() const;  // what was said of the paper chosen
