@@ -11,8 +11,6 @@ namespace printing {
 namespace {
 
 constexpr double tolerance = 2;  // millimetres by which sheets called the same differ
-constexpr double pointMillimetres = 25.4 / 72;
-constexpr double leastInk = 0.7;  // of a text's height: what lies lower is no part of most characters
 
 bool near(Size one, Size other) {
   return std::abs(one.width - other.width) <= tolerance && std::abs(one.height - other.height) <= tolerance;
@@ -65,21 +63,11 @@ bool holdsSheet(const Placing& placing, Size drawing) {
   return within({drawing.width * placing.scale, drawing.height * placing.scale}, held(placing));
 }
 
-bool holdsMarks(const Placing& placing, const platform::Drawing& drawing) {
+bool holdsPart(const Placing& placing, const Area& part) {
   const Size paper = held(placing);
-  const auto lies = [&](double x, double y) {
-    const double across = placing.right + x * placing.scale, along = placing.down + y * placing.scale;
-    return across >= 0 && along >= 0 && across <= paper.width && along <= paper.height;
-  };
-  const auto on = [&](const platform::Mark& mark) {
-    if (const auto* line = std::get_if<platform::Line>(&mark))
-      return lies(line->x1, line->y1) && lies(line->x2, line->y2);
-    const auto& text = std::get<platform::Text>(mark);
-    return text.text.empty() ||
-           (lies(text.x, text.y) && lies(text.x, text.y + leastInk * text.size * pointMillimetres));
-  };
-  return std::ranges::all_of(drawing.pages,
-                             [&](const platform::Page& page) { return std::ranges::all_of(page.marks, on); });
+  return placing.right + part.left * placing.scale >= 0 && placing.down + part.top * placing.scale >= 0 &&
+         placing.right + part.right * placing.scale <= paper.width &&
+         placing.down + part.bottom * placing.scale <= paper.height;
 }
 
 std::optional<std::vector<int>> pagesOf(const std::string& text, int count) {

@@ -5,9 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "platform/drawing.h"
-
 namespace printing {
+
+struct Area {
+  double left = 0, top = 0, right = 0, bottom = 0;  // millimetres from the drawing's top left corner
+};
 
 struct Size {
   double width = 0, height = 0;  // millimetres
@@ -33,8 +35,8 @@ Placing fitted(Size drawing, Size paper);
 
 // The whole of the drawing's own sheet lies on the paper, wherever it was moved to.
 bool holdsSheet(const Placing& placing, Size drawing);
-// Every mark begins, and every line ends, on the paper.
-bool holdsMarks(const Placing& placing, const platform::Drawing& drawing);
+// The part of the drawing lies on the paper where it was moved to.
+bool holdsPart(const Placing& placing, const Area& part);
 
 // "2,5-6" of so many pages, in rising order; all of them when the text is blank, nothing when it cannot be read.
 std::optional<std::vector<int>> pagesOf(const std::string& text, int count);

@@ -62,20 +62,16 @@ TEST(Placing, LiesUprightOrTurnedInItsOwnSizeOrFitted) {
 }
 
 TEST(Placing, ContentBeyondAnEdgeIsSeen) {
-  const platform::Drawing drawing{
-      .title = "",
-      .width = 210,
-      .height = 140,
-      .pages = {{{platform::Text{20, 128, "foot", platform::Face::Song, 12}}}, {{platform::Line{10, 20, 200, 20}}}}};
+  const printing::Area part{10, 20, 200, 132};
   const struct {
     double right, down;
     bool holds;
-  } cases[] = {{0, 0, true},    {9, 8, true},   {11, 0, false}, {-9, 0, true},
-               {-11, 0, false}, {0, 10, false}, {0, -21, false}};
+  } cases[] = {{0, 0, true},    {9, 8, true},  {11, 0, false}, {-9, 0, true},
+               {-11, 0, false}, {0, 9, false}, {0, -21, false}};
   for (const auto& one : cases)
     for (const bool turned : {false, true}) {
       const Size paper = turned ? Size{140, 210} : Size{210, 140};
-      EXPECT_EQ(printing::holdsMarks({paper, turned, 1, one.right, one.down}, drawing), one.holds)
+      EXPECT_EQ(printing::holdsPart({paper, turned, 1, one.right, one.down}, part), one.holds)
           << one.right << " " << one.down;
     }
 }

@@ -228,10 +228,10 @@ TEST_F(PrintServer, WhatWouldBeLostIsAskedEveryTimeAndWhatFitsOnce) {
                   "版面是 210 × 140 毫米，选择的纸张是 A4（210 × 297 毫米）。\n按原尺寸打印时，内容印在纸张的一角。"});
   }
   Preview preview(receipt);
-  preview.field<QDoubleSpinBox>("down")->setValue(-20);
+  preview.field<QDoubleSpinBox>("right")->setValue(25);  // a text begins on the paper and ends beside it
   EXPECT_EQ(preview.print({"停止"}), QStringList{"按现在的右移和下移，一部分内容落在纸张外面，印不出来！"});
   EXPECT_TRUE(preview.open());
-  preview.field<QDoubleSpinBox>("down")->setValue(0);
+  preview.field<QDoubleSpinBox>("right")->setValue(0);
   EXPECT_EQ(preview.print(), QStringList{});
   EXPECT_FALSE(preview.open());
 }

@@ -18,8 +18,10 @@ constexpr double inchMillimetres = 25.4;
 // the face's own measures are, so that faces stand on one line.
 void paintPage(QPainter& painter, const platform::Page& page);
 
-// Where a text stands on its page, in millimetres; of a wrapped one the first line.
+// Where a text stands on its page, in millimetres.
 QRectF placeOf(const platform::Text& mark);
+// What the page's texts and lines take of it.
+QRectF inkOf(const platform::Page& page);
 
 // Paints the pages numbered, counted from 1, onto a device that gets the paper, without margins; false: it took
 // nothing.

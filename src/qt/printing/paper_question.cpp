@@ -2,6 +2,9 @@
 
 #include <QMessageBox>
 #include <QPushButton>
+#include <algorithm>
+
+#include "qt/printing/drawing_painter.h"
 
 namespace qt {
 namespace {
@@ -37,6 +40,13 @@ bool askEdge(QWidget* parent) {
   return box.clickedButton() == on;
 }
 
+bool holdsInk(const printing::Placing& placing, const platform::Drawing& drawing) {
+  return std::ranges::all_of(drawing.pages, [&](const platform::Page& page) {
+    const QRectF ink = inkOf(page);
+    return printing::holdsPart(placing, {ink.left(), ink.top(), ink.right(), ink.bottom()});
+  });
+}
+
 }  // namespace
 
 std::optional<Placed> placed(const platform::Drawing& drawing, const PrintSettings& settings, QWidget* parent) {
@@ -53,10 +63,12 @@ std::optional<Placed> placed(const platform::Drawing& drawing, const PrintSettin
     }
     if (result.said == OtherPaper::Fit) result.placing = printing::fitted(own, paper);
   }
-  const bool whole = printing::holdsMarks(result.placing, drawing);
+  const printing::Placing unmoved = result.placing;
   result.placing.right = settings.right();
   result.placing.down = settings.down();
-  if (whole && !printing::holdsMarks(result.placing, drawing) && !askEdge(parent)) return std::nullopt;
+  const bool moved = settings.right() != 0 || settings.down() != 0;
+  if (moved && !holdsInk(result.placing, drawing) && holdsInk(unmoved, drawing) && !askEdge(parent))
+    return std::nullopt;
   return result;
 }
 
