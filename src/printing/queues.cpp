@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <memory>
 #include <span>
 
@@ -63,6 +64,10 @@ std::vector<std::string> texts(ipp_attribute_t* attribute) {
     if (const char* text = ippGetString(attribute, i, nullptr)) all.emplace_back(text);
   return all;
 }
+
+// Printers of endless paper take sheets so long that the service's own arithmetic runs over: nothing of their limit is
+// left.
+double limit(double millimetres) { return millimetres > 0 ? millimetres : std::numeric_limits<double>::infinity(); }
 
 std::string whyRefused(const std::string& queue) {
   const std::string printer = "打印机“" + queue + "”";
@@ -132,7 +137,7 @@ Abilities abilities(const std::string& queue) {
     if (!media) continue;
     const Size size{media->width / unit, media->length / unit};
     if (name.starts_with("custom_min_")) result.smallest = size;
-    else if (name.starts_with("custom_max_")) result.largest = size;
+    else if (name.starts_with("custom_max_")) result.largest = {limit(size.width), limit(size.height)};
     else if (std::ranges::none_of(result.papers, [&](const Paper& paper) { return paper.size == size; }))
       result.papers.push_back({name, size});
   }
