@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "printing/queues.h"
-
 namespace {
 
 using printing::Placing;
@@ -74,20 +72,6 @@ TEST(Placing, ContentBeyondAnEdgeIsSeen) {
       EXPECT_EQ(printing::holdsPart({paper, turned, 1, one.right, one.down}, part), one.holds)
           << one.right << " " << one.down;
     }
-}
-
-TEST(Queues, NameTheSheetOfASizeOrTakeItMadeToMeasure) {
-  printing::Abilities able{.papers = {{"iso_a5_148x210mm", {148, 210}}, {"iso_a4_210x297mm", {210, 297}}},
-                           .usual = "iso_a4_210x297mm",
-                           .smallest = {},
-                           .largest = {}};
-  EXPECT_EQ(able.named({297.3, 209.9})->media, "iso_a4_210x297mm");
-  EXPECT_EQ(able.named({210, 140}), nullptr);
-  EXPECT_FALSE(able.takes({210, 140}));
-  able.largest = {300, 400};
-  EXPECT_TRUE(able.takes({210, 140}));
-  EXPECT_FALSE(able.takes({310, 140}));
-  EXPECT_EQ(printing::mediaOf({210, 139.7}), "Custom.210.00x139.70mm");
 }
 
 }  // namespace
