@@ -1,5 +1,5 @@
 # The windows: the room `qt`, the hand-made views of the rooms, the register of screens, the program.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport Svg Test)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Svg Test)
 
 # The icons of src/qt/icons.txt, out of the pinned icon set, as one compiled-in resource.
 set(ICON_SET ${CMAKE_SOURCE_DIR}/node_modules/lucide-static/icons)
@@ -23,7 +23,7 @@ function(gui_target name)
   set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
   target_include_directories(${name} PRIVATE ${tree})
   target_compile_options(${name} PRIVATE ${WARNINGS})
-  target_link_libraries(${name} PUBLIC ${GUI_LINK} Qt6::Widgets Qt6::PrintSupport Qt6::Svg)
+  target_link_libraries(${name} PUBLIC ${GUI_LINK} Qt6::Widgets Qt6::Svg)
   window_headers(${name})
 endfunction()
 
@@ -35,7 +35,7 @@ function(window_headers target)
   endif()
   add_library(window_headers STATIC ${CMAKE_BINARY_DIR}/empty.cpp)
   target_compile_options(window_headers PRIVATE ${WARNINGS})
-  target_link_libraries(window_headers PRIVATE Qt6::Widgets Qt6::PrintSupport Qt6::Svg)
+  target_link_libraries(window_headers PRIVATE Qt6::Widgets Qt6::Svg)
   target_precompile_headers(window_headers PRIVATE <algorithm> <functional> <map> <memory> <string> <vector> <QtWidgets>)
   target_precompile_headers(${target} REUSE_FROM window_headers)
 endfunction()
@@ -43,7 +43,7 @@ endfunction()
 file(GLOB qt_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/qt/*.cpp ${CMAKE_SOURCE_DIR}/src/qt/printing/*.cpp)
 add_library(qt STATIC ${qt_sources} ${ICON_RESOURCE})
 set_target_properties(qt PROPERTIES AUTORCC ON)
-gui_target(qt SEES qt base store platform kit LINK base store platform kit Qt6::Widgets Qt6::PrintSupport Qt6::Svg)
+gui_target(qt SEES qt base store platform printing kit LINK base store platform printing kit Qt6::Widgets Qt6::Svg)
 
 # Hand-made views: src/<room>/view/*.cpp. Each may use qt and what its room may use.
 add_library(views INTERFACE)

@@ -192,6 +192,7 @@ void checkRows(const std::filesystem::path& folder) {
 int main(int argc, char** argv) {
   const QTemporaryDir runtime;
   if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) qputenv("XDG_RUNTIME_DIR", runtime.path().toUtf8());
+  qputenv("CUPS_SERVER", runtime.filePath("none").toUtf8());  // the pictures are the same on every computer
   qputenv("QT_QPA_PLATFORMTHEME", "none");  // the toolkit's own file dialog: the player knows its parts
   // What is exported comes into the tour's folder.
   if (argc == 2) qputenv("HOME", QString::fromStdString(std::filesystem::absolute(argv[1]).string()).toUtf8());

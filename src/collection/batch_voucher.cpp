@@ -25,7 +25,11 @@ platform::Drawing batchVoucher(const BatchVoucher& voucher) {
   table(page, form, fiveRows, fiveRowsBottom);
   total(page, form, voucher.total, fiveRowsTotalY);
   foot(page, form, "交费日期：" + voucher.jfrq, voucher.cashier, fiveRowsFootY);
-  return {.title = "集中收费上交凭证", .width = paperWidth, .height = paperHeight, .pages = {std::move(page)}};
+  return {.title = "集中收费上交凭证",
+          .width = paperWidth,
+          .height = paperHeight,
+          .pages = {std::move(page)},
+          .kind = platform::Kind::Voucher};
 }
 
 }  // namespace collection

@@ -76,7 +76,8 @@ double Formzctsf2::room(const FormLabel& label) const {
 }
 
 platform::Drawing Formzctsf2::drawing() const {
-  platform::Drawing drawing{.title = title_, .width = paperWidth, .height = paperHeight, .pages = {{}}};
+  platform::Drawing drawing{
+      .title = title_, .width = paperWidth, .height = paperHeight, .pages = {{}}, .kind = platform::Kind::Receipt};
   for (const FormLabel* label : labels())
     put(drawing.pages.front(),
         {millimetres(label->left), millimetres(label->top), label->size, room(*label), platform::Face::Song,

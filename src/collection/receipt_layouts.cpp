@@ -71,7 +71,11 @@ void footer(Page& page, const Form& form, const PrintedReceipt& receipt, double 
 }
 
 Drawing onPaper(const PrintedReceipt& receipt, double height) {
-  return {.title = receiptTitle(receipt), .width = paperWidth, .height = height, .pages = {}};
+  return {.title = receiptTitle(receipt),
+          .width = paperWidth,
+          .height = height,
+          .pages = {},
+          .kind = platform::Kind::Receipt};
 }
 
 }  // namespace

@@ -34,10 +34,13 @@ struct Page {
   std::vector<Mark> marks;
 };
 
+enum class Kind { Report, Receipt, Voucher };  // of document: each has its printer and paper
+
 struct Drawing {
   std::string title;                 // of the print job and of the file saved
   double width = 210, height = 297;  // the paper, millimetres
   std::vector<Page> pages;
+  Kind kind = Kind::Report;
 };
 
 }  // namespace platform

@@ -38,6 +38,8 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toUtf8());
   if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());  // what windows remember goes with it
+  // No printer of the machine's: none, or those of tools/cups-for-tests.
+  if (qEnvironmentVariableIsEmpty("PRINT_TEST_FOLDER")) qputenv("CUPS_SERVER", folder.filePath("none").toUtf8());
   testing::InitGoogleMock(&argc, argv);
   qt::Application application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);

@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QPdfWriter>
 #include <cmath>
+#include <numeric>
 
 #include "platform/desktop.h"
 #include "qt/printing/drawing_painter.h"
@@ -10,18 +11,21 @@
 
 namespace qt {
 
-void savePdf(const platform::Drawing& drawing, const std::filesystem::path& path) {
+QByteArray pdfOf(const platform::Drawing& drawing, const std::vector<int>& pages, const printing::Placing& placing) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
-  {
-    QPdfWriter writer(&buffer);
-    writer.setTitle(toQt(drawing.title));
-    writer.setResolution(1200);
-    setPaper(writer, drawing);
-    if (!paintPages(writer, drawing, 1, static_cast<int>(drawing.pages.size())))
-      throw platform::PlatformError("PDF 文件未能生成，请重试。");
-  }
+  QPdfWriter writer(&buffer);
+  writer.setTitle(toQt(drawing.title));
+  writer.setResolution(1200);
+  if (!paintPages(writer, drawing, pages, placing)) throw platform::PlatformError("PDF 文件未能生成，请重试。");
+  return bytes;
+}
+
+void savePdf(const platform::Drawing& drawing, const std::filesystem::path& path) {
+  std::vector<int> pages(drawing.pages.size());
+  std::iota(pages.begin(), pages.end(), 1);
+  const QByteArray bytes = pdfOf(drawing, pages, {.paper = {drawing.width, drawing.height}});
   platform::writeFile(path, bytes.toStdString());
 }
 

@@ -95,31 +95,50 @@ struct Brush {
   }
 };
 
-void paintWrapped(Brush& brush, const platform::Text& mark, double scale, const QFont& face, QString text) {
-  text.replace('\n', QChar::LineSeparator);
+bool wraps(const platform::Text& mark) { return mark.wrap && mark.fit > 0; }
+
+QStringList wrapped(const platform::Text& mark, const QFont& face) {
+  const QString text = toQt(mark.text).replace('\n', QChar::LineSeparator);
   QTextLayout layout(text, face);
   QTextOption option;
   option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   layout.setTextOption(option);
-  double y = mark.y + baseline * em * scale;
+  QStringList lines;
   layout.beginLayout();
   for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-    line.setLineWidth(mark.fit / scale);
-    brush.text({mark.x, y}, scale, face, text.mid(line.textStart(), line.textLength()).remove(QChar::LineSeparator));
-    y += linePitch * em * scale;
+    line.setLineWidth(mark.fit / (mark.size * pointMillimetres / em));
+    lines << text.mid(line.textStart(), line.textLength()).remove(QChar::LineSeparator);
   }
   layout.endLayout();
+  return lines;
+}
+
+void paintWrapped(Brush& brush, const platform::Text& mark, const QFont& face) {
+  const double full = mark.size * pointMillimetres;
+  double y = mark.y + baseline * full;
+  for (const QString& line : wrapped(mark, face)) {
+    brush.text({mark.x, y}, full / em, face, line);
+    y += linePitch * full;
+  }
 }
 
 void paint(Brush& brush, const platform::Text& mark) {
   const Faces::Measured& face = brush.faces.of(mark.face);
-  const double full = mark.size * pointMillimetres;
-  if (mark.wrap && mark.fit > 0) return paintWrapped(brush, mark, full / em, face.font, toQt(mark.text));
+  if (wraps(mark)) return paintWrapped(brush, mark, face.font);
   const Fitted line = fitted(mark, face);
-  brush.text({line.x, mark.y + baseline * full}, line.scale, face.font, line.text);
+  brush.text({line.x, mark.y + baseline * mark.size * pointMillimetres}, line.scale, face.font, line.text);
 }
 
 void paint(Brush& brush, const platform::Line& mark) { brush.line(mark); }
+
+QRectF place(const platform::Text& mark, const Faces::Measured& face) {
+  const double height = mark.size * pointMillimetres;
+  if (wraps(mark))
+    return {mark.x, mark.y, mark.fit,
+            height * (1 + linePitch * static_cast<double>(wrapped(mark, face.font).size() - 1))};
+  const Fitted line = fitted(mark, face);
+  return {line.x, mark.y, line.width, height};
+}
 
 QImage picture(const QFont& face, const QString& text) {
   QImage image(2 * em, 2 * em, QImage::Format_Grayscale8);
@@ -143,27 +162,38 @@ void paintPage(QPainter& painter, const platform::Page& page) {
   painter.restore();
 }
 
-QRectF placeOf(const platform::Text& mark) {
-  const double height = mark.size * pointMillimetres;
-  if (mark.wrap && mark.fit > 0) return {mark.x, mark.y, mark.fit, height};
-  const Fitted line = fitted(mark, Faces().of(mark.face));
-  return {line.x, mark.y, line.width, height};
+QRectF placeOf(const platform::Text& mark) { return place(mark, Faces().of(mark.face)); }
+
+QRectF inkOf(const platform::Page& page) {
+  QRectF ink;
+  Faces faces;
+  for (const platform::Mark& mark : page.marks)
+    if (const auto* line = std::get_if<platform::Line>(&mark))
+      ink |= QRectF(QPointF(line->x1, line->y1), QPointF(line->x2, line->y2)).normalized();
+    else if (const auto& text = std::get<platform::Text>(mark); !text.text.empty())
+      ink |= place(text, faces.of(text.face));
+  return ink;
 }
 
-void setPaper(QPagedPaintDevice& device, const platform::Drawing& drawing) {
-  const QPageSize paper(QSizeF(drawing.width, drawing.height), QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
+bool paintPages(QPagedPaintDevice& device, const platform::Drawing& drawing, const std::vector<int>& pages,
+                const printing::Placing& placing) {
+  const QPageSize paper(QSizeF(placing.paper.width, placing.paper.height), QPageSize::Millimeter, QString(),
+                        QPageSize::ExactMatch);
   QPageLayout layout(paper, QPageLayout::Portrait, QMarginsF(), QPageLayout::Millimeter, QMarginsF());
   layout.setMode(QPageLayout::FullPageMode);  // places count from the paper's corner, whatever the printer cannot reach
   device.setPageLayout(layout);
-}
-
-bool paintPages(QPagedPaintDevice& device, const platform::Drawing& drawing, int first, int last) {
   QPainter painter;
   if (!painter.begin(&device)) return false;
   painter.scale(device.logicalDpiX() / inchMillimetres, device.logicalDpiY() / inchMillimetres);
-  for (int page = first; page <= last; ++page) {
-    if (page > first && !device.newPage()) return false;
-    paintPage(painter, drawing.pages[static_cast<std::size_t>(page - 1)]);
+  if (placing.turned) {
+    painter.translate(placing.paper.width, 0);
+    painter.rotate(90);
+  }
+  painter.translate(placing.right, placing.down);
+  painter.scale(placing.scale, placing.scale);
+  for (std::size_t i = 0; i < pages.size(); ++i) {
+    if (i > 0 && !device.newPage()) return false;
+    paintPage(painter, drawing.pages[static_cast<std::size_t>(pages[i] - 1)]);
   }
   return painter.end();
 }

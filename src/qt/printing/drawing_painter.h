@@ -6,6 +6,7 @@
 #include <QString>
 
 #include "platform/drawing.h"
+#include "printing/placing.h"
 
 class QPagedPaintDevice;
 
@@ -17,13 +18,15 @@ constexpr double inchMillimetres = 25.4;
 // the face's own measures are, so that faces stand on one line.
 void paintPage(QPainter& painter, const platform::Page& page);
 
-// Where a text stands on its page, in millimetres; of a wrapped one the first line.
+// Where a text stands on its page, in millimetres.
 QRectF placeOf(const platform::Text& mark);
+// What the page's texts and lines take of it.
+QRectF inkOf(const platform::Page& page);
 
-// Gives the device the drawing's paper, without margins.
-void setPaper(QPagedPaintDevice& device, const platform::Drawing& drawing);
-// The pages from first to last, counted from 1; false: the device took nothing.
-bool paintPages(QPagedPaintDevice& device, const platform::Drawing& drawing, int first, int last);
+// Paints the pages numbered, counted from 1, onto a device that gets the paper, without margins; false: it took
+// nothing.
+bool paintPages(QPagedPaintDevice& device, const platform::Drawing& drawing, const std::vector<int>& pages,
+                const printing::Placing& placing);
 
 // The characters of a text that none of the face's families can show.
 QString missingCharacters(platform::Face face, const QString& text);

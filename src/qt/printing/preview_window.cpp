@@ -7,9 +7,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPrintDialog>
-#include <QPrinter>
-#include <QPrinterInfo>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -23,6 +20,8 @@
 #include "qt/printing/drawing_files.h"
 #include "qt/printing/drawing_painter.h"
 #include "qt/printing/page_view.h"
+#include "qt/printing/paper_question.h"
+#include "qt/printing/print_settings.h"
 #include "qt/text.h"
 #include "qt/xp_button.h"
 
@@ -68,12 +67,15 @@ PreviewWindow::PreviewWindow(const platform::Drawing& drawing, QWidget* parent) 
   scroll_->viewport()->installEventFilter(this);
   auto* all = new QVBoxLayout(this);
   all->addLayout(row);
+  all->addWidget(settings_ = new PrintSettings(drawing_));
   all->addWidget(note_ = new QLabel);
   note_->setObjectName("note");
   note_->hide();
   all->addWidget(scroll_, 1);
   resize(1180, 690);
   scroll_->setFocus();
+  settings_->changed = [this] { note(settings_->trouble()); };
+  settings_->changed();
   refresh();
 }
 
@@ -195,32 +197,34 @@ void PreviewWindow::refresh() {
 }
 
 void PreviewWindow::print() {
-  if (QPrinterInfo::availablePrinterNames().isEmpty()) {
-    QMessageBox box(
-        QMessageBox::Warning, "打印提示",
-        "没有找到打印机。\n请检查打印机是否已接通电源，并已在系统中安装；也可以先另存为 PDF 文件，以后再打印。",
-        QMessageBox::NoButton, this);
-    const auto* save = box.addButton("另存为 PDF", QMessageBox::AcceptRole);
-    box.addButton("取消", QMessageBox::RejectRole);
-    box.exec();
-    if (box.clickedButton() == save) savePdfAs();
+  if (!settings_->anyPrinter()) return offerPdf();
+  const auto pages = settings_->pages();
+  if (!pages) {
+    settings_->correctPages();
+    return note(QString("页数请像 2,5-6 那样填写，最大是 %1；空着打印全部。").arg(drawing_.pages.size()));
+  }
+  const auto paper = placed(drawing_, *settings_, this);
+  if (!paper) return;
+  try {
+    const QByteArray pdf = pdfOf(drawing_, *pages, paper->placing);
+    printing::print(settings_->job(paper->placing), {pdf.data(), static_cast<std::size_t>(pdf.size())});
+  } catch (const platform::PlatformError& error) {
+    QMessageBox::critical(this, "打印提示", toQt(error.what()));
     return;
   }
-  QPrinter printer(QPrinter::HighResolution);
-  printer.setDocName(toQt(drawing_.title));
-  setPaper(printer, drawing_);
-  QPrintDialog dialog(&printer, this);
-  dialog.setWindowTitle("打印");
-  dialog.setMinMax(1, static_cast<int>(drawing_.pages.size()));
-  if (dialog.exec() == QDialog::Accepted) print(printer);
+  settings_->remember(paper->said);
+  accept();
 }
 
-void PreviewWindow::print(QPrinter& printer) {
-  const bool some = printer.printRange() == QPrinter::PageRange;
-  const int first = some ? printer.fromPage() : 1;
-  const int last = some ? printer.toPage() : static_cast<int>(drawing_.pages.size());
-  if (paintPages(printer, drawing_, first, last)) return accept();
-  QMessageBox::critical(this, "打印提示", "打印没有成功，请检查打印机“" + printer.printerName() + "”后重试。");
+void PreviewWindow::offerPdf() {
+  QMessageBox box(QMessageBox::Warning, "打印提示",
+                  "没有找到打印机。\n请检查打印机是否已接通电源，并已在系统中安装；也可以先另存为 PDF "
+                  "文件，以后再打印。",
+                  QMessageBox::NoButton, this);
+  const auto* save = box.addButton("另存为 PDF", QMessageBox::AcceptRole);
+  box.addButton("取消", QMessageBox::RejectRole);
+  box.exec();
+  if (box.clickedButton() == save) savePdfAs();
 }
 
 void PreviewWindow::savePdfAs() {

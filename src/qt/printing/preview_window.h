@@ -9,12 +9,12 @@ class QAction;
 class QBoxLayout;
 class QLabel;
 class QLineEdit;
-class QPrinter;
 class QScrollArea;
 
 namespace qt {
 
 class PageView;
+class PrintSettings;
 class XPButton;
 
 class PreviewWindow : public QDialog {
@@ -30,7 +30,7 @@ class PreviewWindow : public QDialog {
   XPButton* addButton(QBoxLayout& row, const char* name, const QString& caption, const QString& icon,
                       std::initializer_list<QKeySequence> keys, void (PreviewWindow::*pressed)());
   void print();
-  void print(QPrinter& printer);
+  void offerPdf();
   void savePdfAs();
   void zoomIn();
   void zoomOut();
@@ -46,6 +46,7 @@ class PreviewWindow : public QDialog {
 
   const platform::Drawing& drawing_;
   PageView* view_;
+  PrintSettings* settings_;
   QScrollArea* scroll_;
   XPButton *previous_, *next_;
   QLabel *place_, *note_;
