@@ -28,7 +28,9 @@ Formzctsf2::Formzctsf2(kit::Desk& desk, const ReceiptPrint& print)
     const int top = 2640 + 240 * line;
     Labelsfxm.emplace_back(*this, "Labelsfxm" + std::to_string(line), 960, top, 1050);
     Labelje.emplace_back(*this, "Labelje" + std::to_string(line), 5400, top, 735);
+    Labelje.back().amount = true;
   }
+  total.amount = true;
   notice.size = 7.5;
   notice.set("电脑打印 手写无效");
 }
@@ -81,7 +83,7 @@ platform::Drawing Formzctsf2::drawing() const {
   for (const FormLabel* label : labels())
     put(drawing.pages.front(),
         {millimetres(label->left), millimetres(label->top), label->size, room(*label), platform::Face::Song,
-         label->lines},
+         label->lines, label->amount ? millimetres(label->left + label->width) : 0},
         label->text());
   return drawing;
 }

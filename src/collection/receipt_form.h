@@ -15,8 +15,9 @@ struct FormLabel : kit::Field {
   const int left;
   int top;
   const int width;
-  int lines = 1;    // of the label's height
-  double size = 9;  // points
+  int lines = 1;        // of the label's height
+  double size = 9;      // points
+  bool amount = false;  // ends where the label does
 };
 
 class Formzctsf2 : public kit::Screen {  // 江西省学校专用收据

@@ -51,7 +51,8 @@ void put(platform::Page& page, const TextPlace& place, const std::string& text) 
   const double excess = size < place.size ? taken - place.size * place.lines * pointMillimetres : 0;
   double y = place.y - std::max(0.0, excess) / 2;
   for (const std::string& line : lines) {
-    page.marks.push_back(platform::Text{place.x, y, line, place.face, size, place.room});
+    page.marks.push_back(
+        platform::Text{place.x, y, line, place.face, size, place.room, false, platform::Align::Left, false, place.to});
     y += pitch;
   }
 }

@@ -16,6 +16,7 @@ struct TextPlace {
   double x = 0, y = 0, size = 0, room = 0;  // room: millimetres to the right that the text may take
   platform::Face face = platform::Face::Kai;
   int lines = 1;  // of the full size that there is height for
+  double to = 0;  // where an amount ends; 0: it begins at x
 };
 
 void put(platform::Page& page, const TextPlace& place, const std::string& text);

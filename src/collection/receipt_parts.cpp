@@ -15,6 +15,7 @@ constexpr double thin = 0.15, thick = 0.6, rule = 0.2;
 constexpr double frameTop = 41, firstRow = 47;  // of the table; each row ends with a rule
 constexpr double underRule = 0.8;               // from a rule to the text below it
 constexpr double beforeRule = 0.7;              // from a text to the column rule to its right
+constexpr double amountsEnd = 116.5;            // of all rows and of the total
 constexpr double itemX = 45, itemTo = 78, unitX = 81, amountX = 97, amountTo = 118, totalX = 98;
 
 void horizontal(Page& page, double from, double to, double y, double width = rule) {
@@ -23,6 +24,11 @@ void horizontal(Page& page, double from, double to, double y, double width = rul
 
 void label(Page& page, const Label& one, double size) {
   page.marks.push_back(Text{one.x, one.y, one.text, Face::Kai, size});
+}
+
+void putAmount(Page& page, double x, double y, double to, base::Money amount) {
+  page.marks.push_back(Text{x, y, base::paddedAmount(amount), Face::Kai, rowSize, to - x, false, platform::Align::Left,
+                            false, amountsEnd});
 }
 
 }  // namespace
@@ -71,8 +77,7 @@ void cell(Page& page, double x, double y, double to, const std::string& text) {
 void payment(Page& page, double y, const std::string& item, base::Money amount) {
   cell(page, itemX, y, itemTo, item);
   page.marks.push_back(Text{unitX, y, "  元", Face::Kai, rowSize});
-  page.marks.push_back(
-      Text{amountX, y, base::paddedAmount(amount), Face::Kai, rowSize, amountTo - amountX - beforeRule});
+  putAmount(page, amountX, y, amountTo - beforeRule, amount);
 }
 
 void totalLabel(Page& page, const Form& form, double y, const char* text) {
@@ -81,7 +86,7 @@ void totalLabel(Page& page, const Form& form, double y, const char* text) {
 
 void total(Page& page, const Form& form, base::Money amount, double y) {
   totalLabel(page, form, y, "实 收 金 额  ");
-  page.marks.push_back(Text{totalX, y, base::paddedAmount(amount), Face::Kai, rowSize, remarkX - totalX - 1});
+  putAmount(page, totalX, y, remarkX - 1, amount);
   cell(page, remarkX, y, form.right(), "大写：" + base::AmountInWords(amount < base::Money() ? -amount : amount));
 }
 

@@ -19,12 +19,15 @@ struct Text {
   double fit = 0;     // millimetres the text may take: it shrinks, then is cut with a mark; 0: no limit
   bool wrap = false;  // within fit, over as many lines as it takes, instead of shrinking; from the left always
   Align align = Align::Left;
+  bool bold = false;
+  double to = 0;  // of an amount: it ends there, not counting the blanks before it, unless it is too long to begin at x
   friend bool operator==(const Text&, const Text&) = default;
 };
 
 struct Line {
   double x1 = 0, y1 = 0, x2 = 0, y2 = 0;  // millimetres
   double width = 0.2;                     // millimetres
+  bool grey = false;
   friend bool operator==(const Line&, const Line&) = default;
 };
 

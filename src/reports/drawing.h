@@ -13,6 +13,7 @@ namespace reports {
 struct Printing {
   std::string school;
   base::DateTime time;
+  std::string period{};  // below the title, when the report has one
 };
 
 platform::Drawing draw(const Report& report, store::RecordSet& rows, const Printing& printing);

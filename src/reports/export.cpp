@@ -47,8 +47,21 @@ std::vector<Heading> withPayItems(kit::Desk& desk, std::vector<Heading> headings
   return headings;
 }
 
-platform::SheetPlan planOf(kit::Desk& desk, const std::string& title, std::vector<std::string> headings) {
-  return {desk.desktop.exportFolder(), title + " " + desk.clock.today().iso(), title, std::move(headings)};
+std::vector<platform::SheetKind> kindsOf(const std::vector<store::Type>& types, const std::set<std::size_t>& dates) {
+  using enum platform::SheetKind;
+  std::vector<platform::SheetKind> kinds;
+  for (const store::Type type : types) {
+    const bool day = dates.contains(kinds.size());
+    kinds.push_back(day ? Day : type == store::Type::Money ? Amount : type == store::Type::Number ? Number : Text);
+  }
+  return kinds;
+}
+
+platform::SheetPlan planOf(kit::Desk& desk, const std::string& title, std::vector<std::string> headings,
+                           std::vector<platform::SheetKind> kinds) {
+  return {
+      desk.desktop.exportFolder(), title + " " + desk.clock.today().iso(), title, std::move(headings), std::move(kinds),
+      desk.session.SessionUser};
 }
 
 std::filesystem::path write(kit::Desk& desk, const platform::SheetPlan& plan, RecordSet& rows, long long total,
@@ -94,7 +107,8 @@ void exportToSheet(kit::Desk& desk, const std::string& sheetTitle, const Sql& sq
     RecordSet rows(desk.store, sql);
     total = rows.count();
     if (total > 0 && total <= mostRows)
-      file = write(desk, planOf(desk, sheetTitle, headingsOf(rows.fields(), headings)), rows, total, dates);
+      file = write(desk, planOf(desk, sheetTitle, headingsOf(rows.fields(), headings), kindsOf(rows.types(), dates)),
+                   rows, total, dates);
   }
   if (total == 0) return desk.person.tell(Box::Stop, "没有需要导出的数据             ", "错误");
   if (total > mostRows) return tooMany(desk, total);

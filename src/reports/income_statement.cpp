@@ -10,6 +10,14 @@ namespace reports {
 
 using kit::Format;
 
+namespace {
+
+std::string nameOf(Period period) {
+  return base::caption(period.statement_year) + "年" + base::caption(period.statement_month) + "月份";
+}
+
+}  // namespace
+
 Formkh1::Formkh1(kit::Desk& all, kit::Mode order, Period period)
     : Screen(all, "Formkh1", ""), EditMode(order), period_(period) {
   notice.set("正在执行您的设置 ...");
@@ -48,7 +56,7 @@ void Formkh1::print() {
     unit.finish();
   }
   if (mayPrint(desk, "要打印经营损益表数据吗？请确认打印机连接正常、打印纸准备就绪！ ", ""))
-    showReport(desk, reportNamed("bbdy_kh"));
+    showReport(desk, reportNamed("bbdy_kh"), nameOf(answer->period));
 }
 
 // The headings are those of another list; the office has read its statement under them for years.
@@ -84,8 +92,7 @@ void Formkh::show() {
   }
   month_total.set(month.fixed2());
   year_total.set(year.fixed2());
-  const auto [statement_year, statement_month] = income_.period;
-  period.set(base::caption(statement_year) + "年" + base::caption(statement_month) + "月份数据");
+  period.set(nameOf(income_.period) + "数据");
 }
 
 // A period that could not be computed is not the shown one: the links go on from what stands here.

@@ -44,12 +44,12 @@ bool mayPrint(kit::Desk& desk, const std::string& question, const std::string& t
   return desk.person.ask(kit::Box::AskWarning, question + "\n点“是”继续；否则，点“否”撤销此操作！ ", title);
 }
 
-void showReport(kit::Desk& desk, const Report& report) {
+void showReport(kit::Desk& desk, const Report& report, const std::string& period) {
   platform::Drawing drawing;
   {
     RecordSet rows(desk.store, Sql::table(report.table));
     if (rows.empty()) return;
-    drawing = draw(report, rows, {desk.session.SchoolName, desk.clock.now()});
+    drawing = draw(report, rows, {desk.session.SchoolName, desk.clock.now(), period});
   }
   desk.printer.show(drawing);
 }

@@ -46,6 +46,6 @@ std::function<void(kit::Desk&, const kit::Filter&)> printing(Print what);
 bool mayPrint(kit::Desk& desk, const std::string& question, const std::string& title = "信息提示");
 
 // A preview of the report over its table as it stands; nothing when the table has no rows.
-void showReport(kit::Desk& desk, const Report& report);
+void showReport(kit::Desk& desk, const Report& report, const std::string& period = "");
 
 }  // namespace reports

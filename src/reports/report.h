@@ -7,7 +7,13 @@
 
 namespace reports {
 
-enum class Shows { Text, Date, Number, Money };  // numbers and money stand on the right of their column
+enum class Shows {
+  Text,
+  Date,
+  Rank,
+  Number,
+  Money
+};  // numbers and money stand on the right of their column, ranks amid
 
 struct Column {
   const char* heading;

@@ -17,9 +17,14 @@ namespace {
 namespace fs = std::filesystem;
 using platform::PlatformError;
 
-constexpr std::size_t longestTitle = 31;                       // characters, by the format
+constexpr std::size_t longestTitle = 31, longestHeader = 200;  // characters, by the format
 constexpr std::size_t margin = 2, narrowest = 6, widest = 60;  // of a column, in digits
-constexpr std::size_t dateWidth = 10;
+constexpr std::size_t dateWidth = 10, filterArrow = 3;
+constexpr std::size_t separated = 3;                             // digits of an amount between two marks
+constexpr double digitDots = 7, cellDots = 5, dotsPerInch = 96;  // of the usual face of 11 points, and beside its texts
+constexpr double sideMargin = 0.4, paperLength = 11.69;          // inches; A4 on its side
+constexpr int smallestScale = 65;  // per cent: a smaller print of that face has less than 7 points
+constexpr lxw_col_t keysOfRows = 2;
 constexpr int firstYear = 1900;  // earlier days the format does not know
 constexpr std::uint8_t a4 = 9;
 
@@ -63,7 +68,10 @@ class XlsxSheet : public platform::Sheet {
 
   void open();
   void setUpPage();
-  lxw_format* format(const char* numbers);
+  void setUpColumns();
+  void fitToPaper();
+  lxw_format* format(const char* numbers, lxw_format_alignments align = LXW_ALIGN_NONE);
+  lxw_format* formatOf(std::size_t column) const;
   void writeHeadings();
   std::size_t write(lxw_col_t column, const platform::SheetCell& cell);  // gives back the room it takes
   void text(lxw_col_t column, const std::string& text, lxw_format* format);
@@ -76,7 +84,7 @@ class XlsxSheet : public platform::Sheet {
   const fs::path unfinished_;
   std::unique_ptr<lxw_workbook, Drop> book_;
   lxw_worksheet* sheet_ = nullptr;
-  lxw_format *text_ = nullptr, *amount_ = nullptr, *date_ = nullptr;
+  lxw_format *text_ = nullptr, *number_ = nullptr, *amount_ = nullptr, *date_ = nullptr;
   lxw_row_t row_ = 0;
   std::vector<std::size_t> widths_;
 };
@@ -108,8 +116,9 @@ void XlsxSheet::open() {
   if (book_) sheet_ = workbook_add_worksheet(book_.get(), sheetTitle(plan_.title).c_str());
   if (!sheet_) notWritten();
   text_ = format("@");
-  amount_ = format("0.00##");
-  date_ = format("yyyy-mm-dd");
+  number_ = format("General");
+  amount_ = format("#,##0.00##");
+  date_ = format("yyyy-mm-dd", LXW_ALIGN_CENTER);
   setUpPage();
 }
 
@@ -118,14 +127,54 @@ void XlsxSheet::setUpPage() {
   worksheet_ignore_errors(sheet_, LXW_IGNORE_NUMBER_STORED_AS_TEXT, "A1:XFD1048576");
   worksheet_set_paper(sheet_, a4);
   worksheet_set_landscape(sheet_);
-  worksheet_fit_to_pages(sheet_, 1, 0);
+  worksheet_set_margins(sheet_, sideMargin, sideMargin, -1, -1);
   worksheet_repeat_rows(sheet_, 0, 0);
+  std::string title;
+  for (const char one : plan_.title) title += one == '&' ? "&&" : std::string(1, one);
+  check(worksheet_set_header(sheet_, ("&C&\"-,Bold\"" + base::left(title, longestHeader)).c_str()));
+  check(worksheet_set_footer(sheet_, "&C第 &P 页，共 &N 页&R&D"));
+  std::string name = plan_.title, creator = plan_.creator;
+  lxw_doc_properties properties{};
+  properties.title = name.data();
+  properties.author = creator.data();
+  check(workbook_set_properties(book_.get(), &properties));
 }
 
-lxw_format* XlsxSheet::format(const char* numbers) {
+lxw_format* XlsxSheet::formatOf(std::size_t column) const {
+  switch (plan_.kinds[column]) {
+    case platform::SheetKind::Text: break;
+    case platform::SheetKind::Number: return number_;
+    case platform::SheetKind::Amount: return amount_;
+    case platform::SheetKind::Day: return date_;
+  }
+  return text_;
+}
+
+// What is filled in later is read like the rest: a long number stays whole only in a column of texts.
+void XlsxSheet::setUpColumns() {
+  for (std::size_t i = 0; i < widths_.size(); ++i) {
+    const auto column = static_cast<lxw_col_t>(i);
+    widths_[i] = std::clamp(widths_[i] + margin, narrowest, widest);
+    check(worksheet_set_column(sheet_, column, column, static_cast<double>(widths_[i]), formatOf(i)));
+  }
+  if (!widths_.empty()) check(worksheet_autofilter(sheet_, 0, 0, row_, static_cast<lxw_col_t>(widths_.size() - 1)));
+}
+
+// A list that would get too small to read goes on to pages beside each other, each with the columns that name its rows.
+void XlsxSheet::fitToPaper() {
+  double inches = 0;
+  for (const std::size_t width : widths_) inches += (static_cast<double>(width) * digitDots + cellDots) / dotsPerInch;
+  if (inches * smallestScale / 100 <= paperLength - 2 * sideMargin) return worksheet_fit_to_pages(sheet_, 1, 0);
+  worksheet_set_print_scale(sheet_, smallestScale);
+  worksheet_repeat_columns(sheet_, 0, keysOfRows - 1);
+  worksheet_print_across(sheet_);
+}
+
+lxw_format* XlsxSheet::format(const char* numbers, lxw_format_alignments align) {
   lxw_format* made = workbook_add_format(book_.get());
   if (!made) notWritten();
   format_set_num_format(made, numbers);
+  format_set_align(made, align);
   return made;
 }
 
@@ -134,7 +183,7 @@ void XlsxSheet::writeHeadings() {
   format_set_bold(bold);
   for (const std::string& heading : plan_.headings) {
     text(static_cast<lxw_col_t>(widths_.size()), heading, bold);
-    widths_.push_back(widthOf(heading));
+    widths_.push_back(widthOf(heading) + filterArrow);
   }
 }
 
@@ -150,13 +199,14 @@ std::size_t XlsxSheet::write(lxw_col_t column, const platform::SheetCell& cell) 
     return widthOf(*words);
   }
   if (const auto* number = std::get_if<double>(&cell)) {
-    check(worksheet_write_number(sheet_, row_, column, *number, nullptr));
+    check(worksheet_write_number(sheet_, row_, column, *number, number_));
     return base::plainNumber(*number).size();
   }
   if (const auto* money = std::get_if<base::Money>(&cell)) {
     const double yuan = static_cast<double>(money->units()) / static_cast<double>(base::Money::yuan(1).units());
     check(worksheet_write_number(sheet_, row_, column, yuan, amount_));
-    return std::max(money->plain().size(), money->fixed2().size());
+    const std::size_t digits = std::max(money->plain().size(), money->fixed2().size());
+    return digits + digits / separated;
   }
   if (const auto* day = std::get_if<base::Date>(&cell)) {
     if (day->year < firstYear) {
@@ -183,11 +233,8 @@ void XlsxSheet::check(lxw_error result) {
 }
 
 std::filesystem::path XlsxSheet::finish() {
-  for (std::size_t i = 0; i < widths_.size(); ++i) {
-    const auto column = static_cast<lxw_col_t>(i);
-    const auto width = static_cast<double>(std::clamp(widths_[i] + margin, narrowest, widest));
-    check(worksheet_set_column(sheet_, column, column, width, nullptr));
-  }
+  setUpColumns();
+  fitToPaper();
   // The library does not look at what becomes of its scratch files: on a full disk the sheet would lack rows without a
   // word. So the rows' file is looked at here, and what arrived in the workbook is held against it.
   lxw_worksheet_write_single_row(sheet_);

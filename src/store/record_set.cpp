@@ -259,4 +259,10 @@ std::vector<std::string> RecordSet::fields() {
   return result;
 }
 
+std::vector<Type> RecordSet::types() {
+  std::vector<Type> result;
+  for (const Column* column : state_->rows().query().columns) result.push_back(column->type);
+  return result;
+}
+
 }  // namespace store

@@ -51,6 +51,7 @@ class RecordSet {
   long long removeAll();
   long long setMarked(std::span<const std::int64_t> marks, std::string_view column, const Value& value);
   std::vector<std::string> fields();
+  std::vector<Type> types();  // theirs
 
   // What lists keep instead of rows. A mark stands for a row of the set's table as long as it exists. goTo reads that
   // row as it is now (inside a unit: nobody else can change it until the end) and makes it current, with nothing behind

@@ -236,6 +236,26 @@ TEST_F(Printing, AlignedTextEndsOrCentresWhereItWasAskedTo) {
     }
 }
 
+TEST_F(Printing, AmountsEndOnOneEdgeAndTheirFiguresAreOfOneWidth) {
+  auto receipt = receiptOf(3, false);
+  const long long fen[] = {280000, 35050, 5};
+  for (std::size_t row = 0; row < 3; ++row) receipt.rows[row].je = base::Money::fen(fen[row]);
+  for (const Drawing& drawing :
+       {collection::layoutOne(receipt), collection::layoutTwo(receipt), collection::batchVoucher(voucherOf(false))})
+    for (const platform::Mark& mark : drawing.pages[0].marks) {
+      const auto* text = std::get_if<Text>(&mark);
+      const bool amount = text && text->y > 47 && (text->x == 97 || text->x == 98);
+      EXPECT_TRUE(!amount || std::abs(qt::placeOf(*text).right() - 116.5) < 0.01) << text->text;
+    }
+  for (const bool bold : {false, true})
+    for (const Face face : {Face::Kai, Face::Hei, Face::Song}) {
+      const auto width = [&](const char* figures) {
+        return qt::placeOf({.x = 9, .y = 9, .text = figures, .face = face, .bold = bold}).width();
+      };
+      EXPECT_DOUBLE_EQ(width("1111.11"), width("2080.46"));
+    }
+}
+
 TEST_F(Printing, NoCharacterOfTheLayoutsIsMissing) {
   for (const auto& drawing : {collection::layoutOne(receiptOf(10, true)), collection::layoutTwo(receiptOf(5, false)),
                               collection::batchVoucher(voucherOf(true))})

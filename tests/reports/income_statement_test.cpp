@@ -148,9 +148,14 @@ TEST(IncomeStatement, PrintsWhatItShowsAndKeepsThePrintTableOnNo) {
       s.print.press();
       EXPECT_EQ(office.dump("dy_kh", "bh|sfxm|je|hjje|bsh"),
                 "1|住宿费|0|0|2026-9-7 8:30:05\n2|学费|350|290|2026-9-7 8:30:05\n");
-      EXPECT_EQ(office.printer.shown.size(), yes ? 1u : 0u);
+      ASSERT_EQ(office.printer.shown.size(), yes ? 1u : 0u);
     }
   });
+  const auto namesMonth = [](const platform::Mark& mark) {
+    const auto* text = std::get_if<platform::Text>(&mark);
+    return text && text->text == " 2026年 9月份";
+  };
+  EXPECT_EQ(std::ranges::count_if(office.printer.shown.at(0).pages.at(0).marks, namesMonth), 1);
 }
 
 TEST(IncomeStatement, WithoutPaymentsShowsThePeriodAndPrintsNothing) {

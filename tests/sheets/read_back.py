@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """read_back.py FILE: the one sheet of a workbook, read with nothing but the standard library.
 
-First a line with the sheet's name and how many rows stand still, then a line a cell: place, kind (text or number),
+First a line with the sheet's name and how many rows stand still, one with the formats of the columns and the filter's
+range, one with what stands on paper and in what size, and the creator, then a line a cell: place, kind (text or number),
 number format, value; a bold cell's kind ends in a star.
 """
 import re, sys, xml.etree.ElementTree as tree, zipfile
@@ -19,6 +20,11 @@ escaped = re.compile("_x([0-9A-F]{4})_")
 
 pane = next(sheet.iter(main + "pane"))
 print(next(parts["xl/workbook.xml"].iter(main + "sheet")).get("name"), pane.get("ySplit"), pane.get("state"))
+print(*(formats[int(one.get("style", "0"))][0] for one in sheet.iter(main + "col")),
+      next(sheet.iter(main + "autoFilter")).get("ref"))
+setup, creator = next(sheet.iter(main + "pageSetup")), "{http://purl.org/dc/elements/1.1/}creator"
+print(*(next(sheet.iter(main + name)).text for name in ("oddHeader", "oddFooter")), setup.get("scale") or "one page wide",
+      next(parts["docProps/core.xml"].iter(creator)).text)
 for cell in sheet.iter(main + "c"):
     kind = cell.get("t", "n")
     text = "".join(cell.itertext())

@@ -15,6 +15,7 @@ namespace sheets {
 namespace {
 
 namespace fs = std::filesystem;
+using platform::SheetKind;
 using platform::SheetPlan;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -36,7 +37,9 @@ struct XlsxSheetsTest : testing::Test {
   SheetPlan plan{desktop.programFolder() / "我的 文档" / "导出",
                  "学员交费记录 2026-09-07",
                  "学员交费记录",
-                 {"学号", "日期", "金额", "数量"}};
+                 {"学号", "日期", "金额", "数量"},
+                 {SheetKind::Text, SheetKind::Day, SheetKind::Amount, SheetKind::Number},
+                 "王芳"};
 
   std::vector<std::string> filesThere() const {
     std::vector<std::string> names;
@@ -53,20 +56,22 @@ TEST_F(XlsxSheetsTest, EveryKindOfCellReadsBackAsWhatItIs) {
   sheet->add({std::string("王<小>&明\n\x01"), base::Date{1899, 12, 31}, base::Money::ofUnits(12345678901), 86.5});
   sheet->add({std::string(), base::Date{1900, 3, 1}, std::monostate{}, std::monostate{}});
   EXPECT_EQ(readBack(sheet->finish()), R"(学员交费记录 1 frozen
+@ yyyy-mm-dd #,##0.00## General A1:D5
+&C&"-,Bold"学员交费记录 &C第 &P 页，共 &N 页&R&D one page wide 王芳
 A1 text* @ 学号
 B1 text* @ 日期
 C1 text* @ 金额
 D1 text* @ 数量
 A2 text @ 360102200809010011
 B2 number yyyy-mm-dd 46272
-C2 number 0.00## 312.5
+C2 number #,##0.00## 312.5
 D2 number General 3
 A3 text @ 0012
-C3 number 0.00## -12.3456
+C3 number #,##0.00## -12.3456
 A4 text @ 王<小>&明
 <1>
 B4 text @ 1899-12-31
-C4 number 0.00## 1234567.8901
+C4 number #,##0.00## 1234567.8901
 D4 number General 86.5
 B5 number yyyy-mm-dd 61
 )");
@@ -87,8 +92,16 @@ TEST_F(XlsxSheetsTest, NamesThatTheFormatForbidsAreMadeToFit) {
   EXPECT_THAT(readBack(file), HasSubstr("_一_二_三_" + std::string(24, 'x') + " 1 frozen\n"));
 }
 
+TEST_F(XlsxSheetsTest, AWideListIsPrintedOnPagesBesideEachOtherInstead) {
+  plan.headings.assign(20, "二十列中的一列");
+  plan.kinds.assign(20, SheetKind::Text);
+  plan.title = "甲&乙";
+  EXPECT_THAT(readBack(sheets.create(plan)->finish()), HasSubstr("Bold\"甲&&乙 &C第 &P 页，共 &N 页&R&D 65 王芳"));
+}
+
 TEST_F(XlsxSheetsTest, ColumnsAreAsWideAsWhatTheyHold) {
   plan.headings = {"学号", "备注"};
+  plan.kinds = {SheetKind::Text, SheetKind::Text};
   const auto sheet = sheets.create(plan);
   sheet->add({std::string("202400000000000001"), std::string(300, 'x')});
   const fs::path file = sheet->finish();

@@ -1,10 +1,12 @@
 #include "qt/printing/drawing_painter.h"
 
 #include <QFontMetricsF>
+#include <QGlyphRun>
 #include <QHash>
 #include <QImage>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
+#include <QRawFont>
 #include <QTextLayout>
 #include <array>
 #include <optional>
@@ -22,12 +24,64 @@ constexpr double linePitch = 1.25;  // ems
 constexpr double smallest = 0.5;    // of the size asked for; what then still does not fit is cut
 
 // One font for measuring and drawing on every device: no hinting, so that widths do not depend on the dots.
-QFont font(platform::Face face) {
+QFont font(platform::Face face, bool bold) {
   QFont one = faceFont(face, 10);
+  one.setBold(bold);
   one.setPixelSize(em);
   one.setHintingPreference(QFont::PreferNoHinting);
   return one;
 }
+
+// The figures of a face and the signs beside them. Every figure takes the room of a 0, whatever its own is, so that
+// numbers below each other line up.
+class Figures {
+ public:
+  explicit Figures(const QFont& font) : raw_(QRawFont::fromFont(font)) {
+    constexpr std::string_view all = "0123456789.-, ";
+    const auto glyphs = raw_.glyphIndexesForString(QLatin1String(all.data(), static_cast<qsizetype>(all.size())));
+    const auto advances = raw_.advancesForGlyphIndexes(glyphs);
+    if (glyphs.size() != static_cast<qsizetype>(all.size()) || glyphs.contains(0)) return;
+    for (qsizetype i = 0; i < glyphs.size(); ++i) {
+      const bool figure = i < 10;
+      const double own = advances[i].x(), room = figure ? advances[0].x() : own;
+      of_[static_cast<unsigned char>(all[static_cast<std::size_t>(i)])] = {glyphs[i], (room - own) / 2, room};
+    }
+  }
+  // A text of figures alone; of any other there is nothing.
+  std::optional<double> width(std::string_view text) const {
+    double width = 0;
+    for (const char one : text) {
+      const double room = at(one).room;
+      if (room == 0) return std::nullopt;
+      width += room;
+    }
+    return width;
+  }
+  QGlyphRun run(std::string_view text) const {
+    QList<quint32> glyphs;
+    QList<QPointF> places;
+    double x = 0;
+    for (const char one : text) {
+      glyphs << at(one).glyph;
+      places << QPointF(x + at(one).before, 0);
+      x += at(one).room;
+    }
+    QGlyphRun run;
+    run.setRawFont(raw_);
+    run.setGlyphIndexes(glyphs);
+    run.setPositions(places);
+    return run;
+  }
+
+ private:
+  struct Figure {
+    quint32 glyph = 0;
+    double before = 0, room = 0;  // to its left, and in all
+  };
+  const Figure& at(char one) const { return of_[static_cast<unsigned char>(one)]; }
+  QRawFont raw_;
+  std::array<Figure, 256> of_{};
+};
 
 // The faces of a page, looked up once each, and how wide the texts in them are: lists say the same things often.
 class Faces {
@@ -35,6 +89,7 @@ class Faces {
   struct Measured {
     QFont font;
     QFontMetricsF metrics;
+    Figures figures;
     mutable QHash<QString, double> widths{};
 
     double width(const QString& text) const {
@@ -42,35 +97,46 @@ class Faces {
       return known != widths.constEnd() ? *known : *widths.insert(text, metrics.horizontalAdvance(text));
     }
   };
-  const Measured& of(platform::Face face) {
-    auto& held = faces_[static_cast<std::size_t>(face)];
+  const Measured& of(platform::Face face, bool bold) {
+    auto& held = faces_[2 * static_cast<std::size_t>(face) + (bold ? 1 : 0)];
     if (!held) {
-      const QFont one = font(face);
-      held.emplace(Measured{one, QFontMetricsF(one), {}});
+      const QFont one = font(face, bold);
+      held.emplace(Measured{one, QFontMetricsF(one), Figures(one), {}});
     }
     return *held;
   }
 
  private:
-  std::array<std::optional<Measured>, 3> faces_;
+  std::array<std::optional<Measured>, 6> faces_;
 };
 
 // A text on one line as it is drawn: shrunk, then cut, to fit its room.
 struct Fitted {
-  QString text;
-  double x, scale, width;  // millimetres
+  QString text;              // of figures alone: nothing
+  std::string_view figures;  // these instead
+  double x, scale, width;    // millimetres
 };
 
 Fitted fitted(const platform::Text& mark, const Faces::Measured& face) {
-  Fitted result{toQt(mark.text), mark.x, mark.size * pointMillimetres / em, 0};
-  result.width = face.width(result.text) * result.scale;
+  Fitted result{{}, mark.text, mark.x, mark.size * pointMillimetres / em, 0};
+  if (mark.to > 0) result.figures.remove_prefix(std::min(result.figures.find_first_not_of(' '), mark.text.size()));
+  const std::optional<double> lined = face.figures.width(result.figures);
+  if (!lined) {
+    result.text = QString::fromUtf8(result.figures.data(), static_cast<qsizetype>(result.figures.size()));
+    result.figures = {};
+  }
+  result.width = (lined ? *lined : face.width(result.text)) * result.scale;
   if (mark.fit > 0 && result.width > mark.fit) {
     const double share = std::max(mark.fit / result.width, smallest);
     const bool cut = result.width * smallest > mark.fit;
     result.scale *= share;
-    if (cut) result.text = face.metrics.elidedText(result.text, Qt::ElideRight, mark.fit / result.scale);
+    if (cut) {
+      result.text = face.metrics.elidedText(toQt(mark.text), Qt::ElideRight, mark.fit / result.scale);
+      result.figures = {};
+    }
     result.width = cut ? face.width(result.text) * result.scale : mark.fit;
   }
+  if (mark.to > 0) result.x = std::max(mark.x, mark.to - result.width);
   if (mark.align == platform::Align::Right) result.x -= result.width;
   if (mark.align == platform::Align::Centre) result.x -= result.width / 2;
   return result;
@@ -84,13 +150,20 @@ struct Brush {
   const QTransform millimetres = painter.transform();
   double scale = 1;  // millimetres of its unit
 
-  void text(QPointF start, double letters, const QFont& face, const QString& words) {
-    if (scale != letters) painter.setTransform(QTransform(millimetres).scale(scale = letters, letters));
+  void letters(double size) {
+    if (scale != size) painter.setTransform(QTransform(millimetres).scale(scale = size, size));
+  }
+  void text(QPointF start, double size, const QFont& face, const QString& words) {
+    letters(size);
     painter.setFont(face);
     painter.drawText(start / scale, words);
   }
+  void text(QPointF start, double size, const QGlyphRun& figures) {
+    letters(size);
+    painter.drawGlyphRun(start / scale, figures);
+  }
   void line(const platform::Line& mark) {
-    painter.setPen(QPen(Qt::black, mark.width / scale, Qt::SolidLine, Qt::SquareCap));
+    painter.setPen(QPen(mark.grey ? Qt::darkGray : Qt::black, mark.width / scale, Qt::SolidLine, Qt::SquareCap));
     painter.drawLine(QPointF(mark.x1, mark.y1) / scale, QPointF(mark.x2, mark.y2) / scale);
   }
 };
@@ -123,13 +196,13 @@ void paintWrapped(Brush& brush, const platform::Text& mark, const QFont& face) {
 }
 
 void paint(Brush& brush, const platform::Text& mark) {
-  const Faces::Measured& face = brush.faces.of(mark.face);
+  const Faces::Measured& face = brush.faces.of(mark.face, mark.bold);
   if (wraps(mark)) return paintWrapped(brush, mark, face.font);
   const Fitted line = fitted(mark, face);
-  brush.text({line.x, mark.y + baseline * mark.size * pointMillimetres}, line.scale, face.font, line.text);
+  const QPointF start(line.x, mark.y + baseline * mark.size * pointMillimetres);
+  if (line.figures.empty()) brush.text(start, line.scale, face.font, line.text);
+  else brush.text(start, line.scale, face.figures.run(line.figures));
 }
-
-void paint(Brush& brush, const platform::Line& mark) { brush.line(mark); }
 
 QRectF place(const platform::Text& mark, const Faces::Measured& face) {
   const double height = mark.size * pointMillimetres;
@@ -158,11 +231,15 @@ void paintPage(QPainter& painter, const platform::Page& page) {
   painter.setRenderHint(QPainter::Antialiasing, false);  // thin rules stay black at the screen's density
   painter.setPen(Qt::black);
   Brush brush{painter};
-  for (const platform::Mark& mark : page.marks) std::visit([&](const auto& one) { paint(brush, one); }, mark);
+  // Texts first: each change of the pen makes files larger.
+  for (const platform::Mark& mark : page.marks)
+    if (const auto* text = std::get_if<platform::Text>(&mark)) paint(brush, *text);
+  for (const platform::Mark& mark : page.marks)
+    if (const auto* line = std::get_if<platform::Line>(&mark)) brush.line(*line);
   painter.restore();
 }
 
-QRectF placeOf(const platform::Text& mark) { return place(mark, Faces().of(mark.face)); }
+QRectF placeOf(const platform::Text& mark) { return place(mark, Faces().of(mark.face, mark.bold)); }
 
 QRectF inkOf(const platform::Page& page) {
   QRectF ink;
@@ -171,7 +248,7 @@ QRectF inkOf(const platform::Page& page) {
     if (const auto* line = std::get_if<platform::Line>(&mark))
       ink |= QRectF(QPointF(line->x1, line->y1), QPointF(line->x2, line->y2)).normalized();
     else if (const auto& text = std::get<platform::Text>(mark); !text.text.empty())
-      ink |= place(text, faces.of(text.face));
+      ink |= place(text, faces.of(text.face, text.bold));
   return ink;
 }
 
@@ -200,7 +277,7 @@ bool paintPages(QPagedPaintDevice& device, const platform::Drawing& drawing, con
 
 QString missingCharacters(platform::Face face, const QString& text) {
   // A missing character still has a width and often a box of its own: it looks like one that no face can have.
-  const QFont one = font(face);
+  const QFont one = font(face, false);
   const QImage none = picture(one, QString(QChar(0x0378))), empty = picture(one, QString());
   QString missing;
   for (const char32_t code : text.toStdU32String()) {
