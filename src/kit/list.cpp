@@ -57,8 +57,13 @@ void List::empty() {
   behind_.reset();
   window_.clear();
   windowFrom_ = -1;
-  selected_ = -1;
+  selected_ = sight_ = -1;
   ++version_;
+}
+
+void List::lookAt(long long row) {
+  sight_ = row;
+  changed();
 }
 
 void List::clear() {

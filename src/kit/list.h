@@ -63,6 +63,10 @@ class List : public Member {
   std::int64_t mark() const;
   void selectMark(std::int64_t mark);  // goes back to a row, when it is in the list
 
+  void lookAt(long long row);  // brings a row into sight
+  long long sight() const { return sight_; }
+  std::string freshBy;  // a column: rows in which it is empty are marked quietly as still in hand
+
   std::vector<Action*> menu;  // pop-up entries, in order; null is a rule between them
 
   void onSelect(Handler handler) { select_.push_back(std::move(handler)); }
@@ -89,7 +93,7 @@ class List : public Member {
   mutable std::optional<store::RecordSet> behind_;
   mutable Cells window_;
   mutable long long windowFrom_ = -1;
-  long long selected_ = -1, version_ = 0;
+  long long selected_ = -1, version_ = 0, sight_ = -1;
   std::vector<Handler> select_, doubleClick_;
 };
 

@@ -2,12 +2,13 @@
 
 #include <QElapsedTimer>
 #include <algorithm>
-#include <numeric>
+#include <unordered_map>
 #include <vector>
 
 #include "base/pinyin.h"
 #include "base/text.h"
 #include "qt/text.h"
+#include "qt/theme.h"
 
 namespace qt {
 namespace {
@@ -24,13 +25,19 @@ bool isAmount(const kit::ListColumn& column) {
 }
 
 void ListModel::refresh() {
-  const int rows = static_cast<int>(list_.count()), columns = static_cast<int>(list_.columns().size());
+  const int columns = static_cast<int>(list_.columns().size());
   if (version_ != list_.version()) {
     version_ = list_.version();
-    order_.clear();  // other rows first appear in their own order
+    sortedColumn_ = -1;  // other rows first appear in their own order
     read_.clear();
     wanted_.clear();
+    if (list_.count() > mostNarrowed) typed_.clear();
+    if (arranged()) {
+      columns_ = columns;
+      return arrange();
+    }
   }
+  const int rows = arranged() ? rows_ : static_cast<int>(list_.count());
   if (rows == rows_ && columns == columns_) {
     if (rows > 0) emit dataChanged(index(0, 0), index(rows - 1, columns - 1));
     return;
@@ -65,31 +72,50 @@ std::string sortKey(std::string_view cell, kit::Format format) {
 }  // namespace
 
 void ListModel::sortBy(int column, Qt::SortOrder order) {
-  const auto at = static_cast<std::size_t>(column);
-  const kit::Format format = list_.columns().at(at).format;
-  std::vector<std::string> keys;
-  keys.reserve(static_cast<std::size_t>(rows_));
-  for (int row = 0; row < rows_; ++row) keys.push_back(sortKey(list_.cell(row, at), format));
-  std::vector<int> sorted(keys.size());
-  std::iota(sorted.begin(), sorted.end(), 0);
-  std::stable_sort(sorted.begin(), sorted.end(), [&](int a, int b) {
-    const auto& first = keys[static_cast<std::size_t>(order == Qt::AscendingOrder ? a : b)];
-    return first < keys[static_cast<std::size_t>(order == Qt::AscendingOrder ? b : a)];
-  });
-  emit layoutAboutToBeChanged();
-  order_ = std::move(sorted);
-  emit layoutChanged();
+  sortedColumn_ = column;
+  sortOrder_ = order;
+  arrange();
 }
 
 void ListModel::unsort() {
-  emit layoutAboutToBeChanged();
-  order_.clear();
-  emit layoutChanged();
+  sortedColumn_ = -1;
+  arrange();
+}
+
+void ListModel::narrow(const QString& typed) {
+  typed_ = fromQt(typed.trimmed());
+  arrange();
+}
+
+bool ListModel::isMeant(long long listRow) const {
+  for (std::size_t column = 0; column < list_.columns().size(); ++column)
+    if (base::meantBy(list_.cell(listRow, column), typed_)) return true;
+  return false;
+}
+
+void ListModel::arrange() {
+  std::vector<int> rows;
+  for (int row = 0; arranged() && row < static_cast<int>(list_.count()); ++row)
+    if (!isNarrowed() || isMeant(row)) rows.push_back(row);
+  if (isSorted()) {
+    const auto at = static_cast<std::size_t>(sortedColumn_);
+    const kit::Format format = list_.columns().at(at).format;
+    std::unordered_map<int, std::string> keys;
+    for (const int row : rows) keys.emplace(row, sortKey(list_.cell(row, at), format));
+    std::ranges::stable_sort(rows, [&](int a, int b) {
+      return sortOrder_ == Qt::AscendingOrder ? keys.at(a) < keys.at(b) : keys.at(b) < keys.at(a);
+    });
+  }
+  beginResetModel();
+  order_ = std::move(rows);
+  rows_ = arranged() ? static_cast<int>(order_.size()) : static_cast<int>(list_.count());
+  endResetModel();
 }
 
 int ListModel::shownRow(long long listRow) const {
-  if (order_.empty()) return static_cast<int>(listRow);
-  return static_cast<int>(std::find(order_.begin(), order_.end(), listRow) - order_.begin());
+  if (!arranged()) return static_cast<int>(listRow);
+  const auto at = std::ranges::find(order_, listRow);
+  return at == order_.end() ? -1 : static_cast<int>(at - order_.begin());
 }
 
 QString ListModel::text(const QModelIndexList& rows) const {
@@ -106,7 +132,7 @@ QString ListModel::text(const QModelIndexList& rows) const {
 ListModel::Found ListModel::find(const QString& start, long long from) const {
   const std::size_t columns = std::min(searched, list_.columns().size());
   const std::string prefix = fromQt(start);
-  const long long count = list_.count();
+  const long long count = rows_;
   const long long reach = std::min(count, farthest);
   // Each row is read once, whatever the column that it is found by; a hit in an earlier column goes first.
   std::vector<long long> hits(columns, -1);
@@ -151,12 +177,20 @@ void ListModel::readWanted() {
 }
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {
-  if (index.row() >= list_.count() || index.column() >= static_cast<int>(list_.columns().size())) return {};
+  if (index.row() >= rows_ || listRow(index.row()) >= list_.count() || index.column() >= static_cast<int>(list_.columns().size())) return {};
   const auto column = static_cast<std::size_t>(index.column());
   if (role == Qt::DisplayRole) return shown(listRow(index.row()), column);
   if (role == Qt::TextAlignmentRole)
     return QVariant::fromValue(Qt::AlignVCenter | (isAmount(list_.columns()[column]) ? Qt::AlignRight : Qt::AlignLeft));
+  if (role == Qt::BackgroundRole && isFresh(listRow(index.row()))) return theme::fresh;
   return {};
+}
+
+bool ListModel::isFresh(long long row) const {
+  if (list_.freshBy.empty() || !list_.atHand(row)) return false;
+  const auto& columns = list_.columns();
+  const auto by = std::ranges::find(columns, list_.freshBy, &kit::ListColumn::column);
+  return by != columns.end() && base::blank(list_.cell(row, static_cast<std::size_t>(by - columns.begin())));
 }
 
 QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -21,13 +21,15 @@ class ListModel : public QAbstractTableModel {
   void refresh();                    // after a change of the list
   std::function<void()> rowsWanted;  // blank rows are in sight: to be followed by readWanted(), later
   void readWanted();
-  // Sorting reads every row once; a longer list is narrowed by a query first.
-  static constexpr long long mostSorted = 200000;
-  bool isSorted() const { return !order_.empty(); }
+  // Sorting reads every row once, narrowing every cell; a longer list is narrowed by a query first.
+  static constexpr long long mostSorted = 200000, mostNarrowed = 20000;
+  bool isSorted() const { return sortedColumn_ >= 0; }
   void sortBy(int column, Qt::SortOrder order);
   void unsort();
-  long long listRow(int row) const { return order_.empty() ? row : order_[static_cast<std::size_t>(row)]; }
-  int shownRow(long long listRow) const;
+  bool isNarrowed() const { return !typed_.empty(); }
+  void narrow(const QString& typed);  // to the rows with a cell that is meant by what was typed; "" shows all again
+  long long listRow(int row) const { return arranged() ? order_[static_cast<std::size_t>(row)] : row; }
+  int shownRow(long long listRow) const;  // -1: it is not shown
   QString text(const QModelIndexList& rows) const;  // as a spreadsheet takes it: cells behind tabs, a row a line
   // A shown row with a cell of the first columns that starts so. A key must answer at once in a list of a million rows,
   // too: the search ends after a while.
@@ -43,11 +45,18 @@ class ListModel : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
  private:
+  bool arranged() const { return isSorted() || isNarrowed(); }
+  void arrange();
+  bool isMeant(long long listRow) const;
+  bool isFresh(long long listRow) const;
   QString shown(long long listRow, std::size_t column) const;
   const kit::List& list_;
   int rows_ = 0, columns_ = 0;
   long long version_ = -1;
-  std::vector<int> order_;              // the list's row at each place; empty: as they stand in the list
+  std::vector<int> order_;  // the list's row at each place, when they are sorted or narrowed
+  int sortedColumn_ = -1;
+  Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
+  std::string typed_;
   QHash<long long, QStringList> read_;  // by the list's row
   mutable std::set<long long> wanted_;
 };

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QStyledItemDelegate>
 #include <QTimer>
 
 #include "qt/theme.h"
@@ -11,7 +12,27 @@
 namespace qt {
 namespace {
 constexpr int searchPause = 1500;  // milliseconds after which typing starts a new search
-}
+
+// Rows as a whole: the selected one is strong while the list has the keyboard and pale while it has not.
+class RowDelegate : public QStyledItemDelegate {
+ public:
+  explicit RowDelegate(ListView& view) : QStyledItemDelegate(&view), view_(view) {}
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    const bool strong = view_.hasFocus();
+    option->palette.setColor(QPalette::Highlight, strong ? theme::accent : theme::chosen);
+    option->palette.setColor(QPalette::HighlightedText, strong ? theme::paper : theme::accentDark);
+    option->state.setFlag(QStyle::State_MouseOver, false);
+    option->state.setFlag(QStyle::State_HasFocus, false);
+    if (index.row() == view_.rowUnderMouse()) option->backgroundBrush = theme::underMouse;
+  }
+
+ private:
+  ListView& view_;
+};
+}  // namespace
 
 ListView::ListView(QWidget* parent) : QTableView(parent), notice_(new QLabel(this)) {
   setSelectionBehavior(SelectRows);
@@ -28,6 +49,8 @@ ListView::ListView(QWidget* parent) : QTableView(parent), notice_(new QLabel(thi
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setStretchLastSection(true);
   horizontalHeader()->setMinimumSectionSize(30);
+  setMouseTracking(true);
+  setItemDelegate(new RowDelegate(*this));
   notice_->setStyleSheet("background: #fffff0; border: 1px solid #9dbfbf; border-radius: 4px; padding: 4px 8px;");
   notice_->hide();
 }
@@ -66,6 +89,22 @@ void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
   if (index.isValid() && event->button() == Qt::LeftButton) emit opened(index.row());
 }
 
+void ListView::mouseMoveEvent(QMouseEvent* event) {
+  hover(rowAt(event->position().toPoint().y()));
+  QTableView::mouseMoveEvent(event);
+}
+
+void ListView::leaveEvent(QEvent* event) {
+  hover(-1);
+  QTableView::leaveEvent(event);
+}
+
+void ListView::hover(int row) {
+  if (rowUnderMouse_ == row) return;
+  rowUnderMouse_ = row;
+  viewport()->update();
+}
+
 void ListView::inputMethodEvent(QInputMethodEvent* event) {
   if (!event->commitString().isEmpty()) keyboardSearch(event->commitString());
   event->accept();
@@ -79,6 +118,7 @@ QVariant ListView::inputMethodQuery(Qt::InputMethodQuery query) const {
 
 void ListView::focusOutEvent(QFocusEvent* event) {
   forget();
+  viewport()->update();
   QTableView::focusOutEvent(event);
 }
 
@@ -86,7 +126,7 @@ void ListView::paintEvent(QPaintEvent* event) {
   QTableView::paintEvent(event);
   if (!model() || model()->rowCount() > 0) return;
   QPainter painter(viewport());
-  painter.setPen(theme::faint);
+  painter.setPen(theme::notice);
   painter.drawText(viewport()->rect(), Qt::AlignCenter, "暂无记录");
 }
 

@@ -14,6 +14,8 @@ class ListView : public QTableView {
   explicit ListView(QWidget* parent = nullptr);
   void keyboardSearch(const QString& text) override;
 
+  int rowUnderMouse() const { return rowUnderMouse_; }
+
  signals:
   void searched(const QString& start, bool further);  // further: longer than the last, from the same row on
   void opened(int row);
@@ -22,6 +24,8 @@ class ListView : public QTableView {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
   void paintEvent(QPaintEvent* event) override;
@@ -29,9 +33,11 @@ class ListView : public QTableView {
 
  private:
   void forget();
+  void hover(int row);
   QString typed_;
   QElapsedTimer sinceTyped_;
   QLabel* notice_;
+  int rowUnderMouse_ = -1;
 };
 
 }  // namespace qt

@@ -9,6 +9,7 @@
 #include <QToolTip>
 #include <algorithm>
 #include <memory>
+#include <numeric>
 
 #include "kit/at_exit.h"
 #include "qt/list_model.h"
@@ -21,6 +22,7 @@ namespace qt {
 namespace {
 
 constexpr int cellMargins = 18;
+constexpr int mostCharacters = 16, leastCharacters = 8;  // of a column by itself; drawn by hand it takes any width
 constexpr int betweenTries = 5000;  // milliseconds before a store that did not answer is asked again
 
 // Between one list and its view.
@@ -56,7 +58,7 @@ class ListLink : public QObject {
 
   bool eventFilter(QObject* object, QEvent* event) override {
     const bool headings = object != &view_;
-    if (event->type() == QEvent::Show && !headings) recallWidths();  // only now it stands in the window that names them
+    if (event->type() == QEvent::Show && !headings) setWidths();  // only now it stands in the window that names them
     if (event->type() == QEvent::MouseButtonRelease && headings)
       QMetaObject::invokeMethod(
           this, [this] { rememberWidths(); }, Qt::QueuedConnection);
@@ -78,9 +80,11 @@ class ListLink : public QObject {
     for (const kit::ListColumn& column : list_.columns()) headings << toQt(column.heading);
     model_.refresh();
     if (!model_.isSorted()) view_.horizontalHeader()->setSortIndicatorShown(false);
-    if (headings != headings_) {
+    if (headings != headings_ || measured_ != list_.version()) {
       headings_ = headings;
+      measured_ = list_.version();
       setWidths();
+      if (list_.sight() >= 0) view_.scrollTo(model_.index(model_.shownRow(list_.sight()), 0));
     }
     const int row = list_.selected() < 0 ? -1 : model_.shownRow(list_.selected());
     if (row < 0) {
@@ -133,7 +137,9 @@ class ListLink : public QObject {
     bool drawn = false;
     for (int i = 0; i < view_.model()->columnCount(); ++i) {
       widths << view_.columnWidth(i);
-      drawn = drawn || (i + 1 < view_.model()->columnCount() && view_.columnWidth(i) != usualWidth(i));
+      const bool usual =
+          i < static_cast<int>(usual_.size()) && view_.columnWidth(i) == usual_[static_cast<std::size_t>(i)];
+      drawn = drawn || (i + 1 < view_.model()->columnCount() && !usual);
     }
     if (drawn) listSettings().setValue(widthsKey(), widths);
   }
@@ -147,14 +153,41 @@ class ListLink : public QObject {
     return settings;
   }
 
+  int heading(int index) const {
+    const QString words = toQt(list_.columns()[static_cast<std::size_t>(index)].heading).trimmed();
+    return view_.horizontalHeader()->fontMetrics().horizontalAdvance(words) + cellMargins;
+  }
+  // What the heading and the first rows need; without rows what the column is meant for.
   int usualWidth(int index) const {
+    constexpr long long measured = 200;
     const auto& column = list_.columns()[static_cast<std::size_t>(index)];
-    const int heading = view_.horizontalHeader()->fontMetrics().horizontalAdvance(toQt(column.heading).trimmed());
-    return qMax(charactersWide(view_.fontMetrics(), column.width), heading) + cellMargins;
+    const long long rows = qMin(list_.count(), measured);
+    if (rows == 0) return qMax(charactersWide(view_.fontMetrics(), column.width) + cellMargins, heading(index));
+    int widest = 0;
+    for (long long row = 0; row < rows && list_.atHand(row); ++row)
+      widest =
+          qMax(widest,
+               view_.fontMetrics().horizontalAdvance(toQt(list_.cell(row, static_cast<std::size_t>(index))).trimmed()));
+    const int most = charactersWide(view_.fontMetrics(), qMax(column.width, mostCharacters));
+    return qMax(qMin(widest, most) + cellMargins, heading(index));
   }
 
   void setWidths() {
-    for (int i = 0; i < static_cast<int>(list_.columns().size()); ++i) view_.setColumnWidth(i, usualWidth(i));
+    const int columns = static_cast<int>(list_.columns().size());
+    std::vector<int> widths;
+    for (int i = 0; i < columns; ++i) widths.push_back(usualWidth(i));
+    // An amount behind a scroll bar is worse than the end of a long name.
+    int lacking = std::accumulate(widths.begin(), widths.end(), 0) - view_.viewport()->width();
+    for (int i = 0; i < columns && view_.isVisible() && lacking > 0; ++i) {
+      const auto& column = list_.columns()[static_cast<std::size_t>(i)];
+      if (isAmount(column) || column.format == kit::Format::Date) continue;
+      const int least = qMax(charactersWide(view_.fontMetrics(), leastCharacters) + cellMargins, heading(i));
+      const int less = qBound(0, widths[static_cast<std::size_t>(i)] - least, lacking);
+      widths[static_cast<std::size_t>(i)] -= less;
+      lacking -= less;
+    }
+    usual_ = widths;
+    for (int i = 0; i < columns; ++i) view_.setColumnWidth(i, widths[static_cast<std::size_t>(i)]);
     if (view_.isVisible()) recallWidths();
     // An amount that stands on the right stays beside what it belongs to.
     view_.horizontalHeader()->setStretchLastSection(list_.columns().empty() || !isAmount(list_.columns().back()));
@@ -196,6 +229,8 @@ class ListLink : public QObject {
   QTimer reading_;
   bool silent_ = false;  // the store did not answer, and that was told
   QStringList headings_;
+  std::vector<int> usual_;
+  long long measured_ = -1;
   bool waiting_ = false, showing_ = false;
   int sortedColumn_ = -1;
   Qt::SortOrder sortOrder_ = Qt::AscendingOrder;

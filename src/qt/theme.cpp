@@ -19,7 +19,7 @@ QPalette palette() {
   colours.setColor(QPalette::Base, paper);
   colours.setColor(QPalette::AlternateBase, paperAlternate);
   colours.setColor(QPalette::Text, ink);
-  colours.setColor(QPalette::PlaceholderText, faint);
+  colours.setColor(QPalette::PlaceholderText, notice);
   colours.setColor(QPalette::Button, QColor(238, 246, 246));
   colours.setColor(QPalette::ButtonText, ink);
   colours.setColor(QPalette::Highlight, accent);
@@ -36,7 +36,7 @@ QPalette palette() {
 // No text colours of entry fields here: a field's own colour comes through its palette.
 const char* const sheet = R"(
 QLineEdit, QPlainTextEdit {
-  background: #ffffff; border: 1px solid #9dbfbf; border-radius: 4px; padding: 3px 6px;
+  background: #ffffff; border: 1px solid #5a8586; border-radius: 4px; padding: 3px 6px;
   selection-background-color: #0f6268; selection-color: white; }
 QLineEdit:hover, QPlainTextEdit:hover { border-color: #5f9a9b; }
 QLineEdit:focus, QPlainTextEdit:focus { border: 2px solid #0f6268; padding: 2px 5px; }
@@ -60,10 +60,10 @@ QTabBar::tab:focus { border-color: #0f6268; }
 QTableView, QTreeView, QListView { background: #ffffff; alternate-background-color: #f4fafa; border: 1px solid #b0cbcb;
   border-radius: 4px; gridline-color: #e3eded; outline: none;
   selection-background-color: #cbe6e5; selection-color: #0a4a50; }
-QTableView:focus, QTreeView:focus { border: 1px solid #0f6268; selection-background-color: #0f6268; selection-color: #ffffff; }
+QTableView:focus, QTreeView:focus { border: 1px solid #0f6268; }
 QTableView::item { padding: 0 3px; border: none; }
 QTreeView::item { padding: 3px 2px; }
-QTableView::item:hover:!selected, QTreeView::item:hover:!selected { background: #e8f4f4; }
+QTreeView::item:hover:!selected { background: #e2f1f1; }
 QHeaderView { background: #e6f1f1; border: none; }
 QHeaderView::section { background: #e6f1f1; color: #345a5d; border: none; border-right: 1px solid #cfe0e0;
   border-bottom: 1px solid #b0cbcb; padding: 5px 6px; }
@@ -86,7 +86,7 @@ QStatusBar::item { border: none; }
 QStatusBar QLineEdit[shown="true"] { border: none; color: #45696c; }
 QCheckBox, QRadioButton { spacing: 7px; padding: 1px; }
 QCheckBox:focus, QRadioButton:focus { border: 1px dotted #0f6268; border-radius: 3px; padding: 0; }
-QPushButton { background: #f7fbfb; border: 1px solid #8cb2b3; border-radius: 4px; padding: 5px 14px; min-width: 60px; }
+QPushButton { background: #f7fbfb; border: 1px solid #5a8586; border-radius: 4px; padding: 5px 14px; min-width: 60px; }
 QPushButton:hover { border-color: #0f6268; background: #ddf0ef; }
 QPushButton:pressed { background: #c4dedd; }
 QPushButton:focus { border: 2px solid #0f6268; padding: 4px 13px; }
@@ -97,12 +97,12 @@ QToolTip { background: #fffff0; color: #1b2a2e; border: 1px solid #9dbfbf; paddi
 QLabel[role="label"] { color: #45696c; }
 QLabel[role="label"]:disabled { color: #869c9f; }
 QLabel[role="heading"] { color: #0f6268; font-weight: bold; }
-QLabel[role="note"] { color: #546c70; }
+QLabel[role="note"] { color: #4a6164; }
 QLabel[role="column"] { color: #345a5d; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; }
-QScrollBar::handle { background: #a9c8c8; border-radius: 4px; margin: 2px; min-height: 28px; min-width: 28px; }
-QScrollBar::handle:hover { background: #7dadae; }
+QScrollBar::handle { background: #6f9a9b; border-radius: 4px; margin: 2px; min-height: 28px; min-width: 28px; }
+QScrollBar::handle:hover { background: #0f6268; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )";

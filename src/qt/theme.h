@@ -20,8 +20,12 @@ const QColor accent(15, 98, 104);  // deep teal: headings, focus, what is chosen
 const QColor accentDark(10, 74, 80);
 const QColor accentPale(221, 240, 239);
 const QColor ink(27, 42, 46);
-const QColor quiet(84, 108, 112);   // labels and notes
-const QColor faint(134, 156, 159);  // what is disabled
+const QColor quiet(84, 108, 112);    // labels and notes
+const QColor faint(134, 156, 159);   // what is disabled
+const QColor notice(95, 118, 121);   // words where there is nothing else
+const QColor chosen(173, 216, 214);  // a selected row of a list that has not the keyboard
+const QColor underMouse(226, 241, 241);
+const QColor fresh(255, 249, 226);  // a row that is still in hand
 const QColor rule(176, 203, 203);
 const QColor paper(255, 255, 255);
 const QColor found(255, 226, 120);  // behind a text that was searched for

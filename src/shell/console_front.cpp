@@ -78,6 +78,7 @@ PaymentsFrame::PaymentsFrame(kit::Screen& screen, kit::Desk& desk)
       bar(screen, "payment_bar", "", kit::Entry::Shown),
       desk_(desk) {
   list.setTip("右键有操作");
+  list.freshBy = "sftj";
 }
 
 void PaymentsFrame::showAll(const std::string& xh, const std::string& name) {
@@ -92,6 +93,7 @@ void PaymentsFrame::showAll(const std::string& xh, const std::string& name) {
     if (first.empty()) first = last;
   });
   if (list.count() == 0) return;
+  list.lookAt(list.count() - 1);  // what was just paid is the last
   bar.set("学生：" + name + " 从" + first + "到" + last + "共有交费记录数：" + base::caption(list.count()) +
           " 条，累计交费总额：" + total.fixed2() + " 元");
 }
