@@ -125,6 +125,7 @@ void Formzctsf4::save() {
   studentMustStand();
   const std::string fpbh = saveReceipt(desk.store, receipt(), desk.clock);
   unit.finish();
+  desk.person.say("收据 " + fpbh + " 已保存，可按“重新打印该单记录”再打印");
   // The money is in the ledger now: the window closes whatever the printer says, so that nobody confirms twice.
   const kit::AtExit leaving([this] { close(); });
   if (askInfo("收费操作成功！打印收据吗？      ", "操作提示")) print(fpbh);

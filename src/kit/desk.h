@@ -32,6 +32,7 @@ class Person {
   virtual ~Person() = default;
   virtual void tell(Box box, const std::string& text, const std::string& title) = 0;
   virtual bool ask(Box box, const std::string& text, const std::string& title) = 0;  // true: 是
+  virtual void say(const std::string&) {}  // at the window's edge, for a moment; nothing to answer
   // The file that the person picks; nothing when they leave the dialog. Filter as "caption|*.jpg;*.bmp".
   virtual std::optional<std::string> chooseFile(const std::string& title, const std::string& filter) = 0;
 };

@@ -66,6 +66,12 @@ void List::lookAt(long long row) {
   changed();
 }
 
+void List::setWhenEmpty(std::string words) {
+  if (whenEmpty_ == words) return;
+  whenEmpty_ = std::move(words);
+  changed();
+}
+
 void List::clear() {
   empty();
   changed();

@@ -65,7 +65,10 @@ class List : public Member {
 
   void lookAt(long long row);  // brings a row into sight
   long long sight() const { return sight_; }
-  std::string freshBy;  // a column: rows in which it is empty are marked quietly as still in hand
+  const std::string& whenEmpty() const { return whenEmpty_; }  // the words that stand where there are no rows
+  void setWhenEmpty(std::string words);
+  bool searchable = false;  // a box above it narrows it to the rows that hold what is typed
+  std::string freshBy;      // a column: rows in which it is empty are marked quietly as still in hand
 
   std::vector<Action*> menu;  // pop-up entries, in order; null is a rule between them
 
@@ -94,6 +97,7 @@ class List : public Member {
   mutable Cells window_;
   mutable long long windowFrom_ = -1;
   long long selected_ = -1, version_ = 0, sight_ = -1;
+  std::string whenEmpty_ = "暂无记录";
   std::vector<Handler> select_, doubleClick_;
 };
 

@@ -39,6 +39,7 @@ void RecordDesk::open() {
 
 void RecordDesk::show(Filter filter) {
   filter_ = std::move(filter);
+  list.setWhenEmpty(filter_.where.empty() ? "暂无记录" : "没有符合条件的记录");
   list.open(statement());
   showCount();
 }

@@ -142,6 +142,9 @@ void RecordEdit::put(store::RecordSet& set) {
 void RecordEdit::done(const std::string& words, const std::string& title) {
   close();
   if (!words.empty()) inform(words, title);
+  desk.person.say(EditMode == Mode::Add      ? "已添加 1 条记录"
+                  : EditMode == Mode::Modify ? "修改已保存"
+                                             : "已删除 1 条记录");
 }
 
 Layout RecordEdit::layout() {

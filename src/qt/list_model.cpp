@@ -177,7 +177,9 @@ void ListModel::readWanted() {
 }
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {
-  if (index.row() >= rows_ || listRow(index.row()) >= list_.count() || index.column() >= static_cast<int>(list_.columns().size())) return {};
+  if (index.row() >= rows_ || listRow(index.row()) >= list_.count() ||
+      index.column() >= static_cast<int>(list_.columns().size()))
+    return {};
   const auto column = static_cast<std::size_t>(index.column());
   if (role == Qt::DisplayRole) return shown(listRow(index.row()), column);
   if (role == Qt::TextAlignmentRole)

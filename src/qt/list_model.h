@@ -29,7 +29,7 @@ class ListModel : public QAbstractTableModel {
   bool isNarrowed() const { return !typed_.empty(); }
   void narrow(const QString& typed);  // to the rows with a cell that is meant by what was typed; "" shows all again
   long long listRow(int row) const { return arranged() ? order_[static_cast<std::size_t>(row)] : row; }
-  int shownRow(long long listRow) const;  // -1: it is not shown
+  int shownRow(long long listRow) const;            // -1: it is not shown
   QString text(const QModelIndexList& rows) const;  // as a spreadsheet takes it: cells behind tabs, a row a line
   // A shown row with a cell of the first columns that starts so. A key must answer at once in a list of a million rows,
   // too: the search ends after a while.

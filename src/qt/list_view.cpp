@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QTimer>
 
@@ -105,6 +106,11 @@ void ListView::hover(int row) {
   viewport()->update();
 }
 
+QSize ListView::sizeHint() const {
+  const int around = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+  return QTableView::sizeHint().expandedTo(QSize(columnsWish_ + around, 0));
+}
+
 void ListView::inputMethodEvent(QInputMethodEvent* event) {
   if (!event->commitString().isEmpty()) keyboardSearch(event->commitString());
   event->accept();
@@ -127,7 +133,7 @@ void ListView::paintEvent(QPaintEvent* event) {
   if (!model() || model()->rowCount() > 0) return;
   QPainter painter(viewport());
   painter.setPen(theme::notice);
-  painter.drawText(viewport()->rect(), Qt::AlignCenter, "暂无记录");
+  painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, whenEmpty);
 }
 
 }  // namespace qt

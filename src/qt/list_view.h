@@ -15,6 +15,9 @@ class ListView : public QTableView {
   void keyboardSearch(const QString& text) override;
 
   int rowUnderMouse() const { return rowUnderMouse_; }
+  void wishWidth(int columns) { columnsWish_ = columns; }  // of the window that opens around it
+  QSize sizeHint() const override;
+  QString whenEmpty;  // what stands where there are no rows
 
  signals:
   void searched(const QString& start, bool further);  // further: longer than the last, from the same row on
@@ -37,7 +40,7 @@ class ListView : public QTableView {
   QString typed_;
   QElapsedTimer sinceTyped_;
   QLabel* notice_;
-  int rowUnderMouse_ = -1;
+  int rowUnderMouse_ = -1, columnsWish_ = 0;
 };
 
 }  // namespace qt

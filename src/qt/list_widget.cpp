@@ -4,43 +4,46 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QScopedValueRollback>
-#include <QSettings>
 #include <QTimer>
 #include <QToolTip>
+#include <QVBoxLayout>
 #include <algorithm>
 #include <memory>
-#include <numeric>
 
+#include "base/text.h"
 #include "kit/at_exit.h"
+#include "qt/list_columns.h"
 #include "qt/list_model.h"
 #include "qt/list_view.h"
 #include "qt/member_widgets.h"
+#include "qt/quick_search.h"
+#include "qt/quiet_words.h"
 #include "qt/text.h"
 #include "qt/theme.h"
 
 namespace qt {
 namespace {
 
-constexpr int cellMargins = 18;
-constexpr int mostCharacters = 16, leastCharacters = 8;  // of a column by itself; drawn by hand it takes any width
-constexpr int betweenTries = 5000;  // milliseconds before a store that did not answer is asked again
+constexpr qsizetype mostSummed = 20000;  // rows
+constexpr int betweenTries = 5000;       // milliseconds before a store that did not answer is asked again
 
 // Between one list and its view.
 class ListLink : public QObject {
  public:
   ListLink(kit::List& list, ListView& view, Renderer& renderer)
-      : QObject(&view), list_(list), view_(view), renderer_(renderer), screen_(renderer.screen()), model_(list, this) {
+      : QObject(&view),
+        list_(list),
+        view_(view),
+        renderer_(renderer),
+        screen_(renderer.screen()),
+        model_(list, this),
+        columns_(list, view) {
     view.setModel(&model_);
-    view.installEventFilter(this);
     QHeaderView* header = view.horizontalHeader();
     header->setSectionsClickable(true);
     connect(header, &QHeaderView::sectionClicked, this, [this](int column) { sortBy(column); });
-    header->viewport()->installEventFilter(this);
-    connect(&view, &ListView::copyWanted, this, [this] {
-      auto rows = view_.selectionModel()->selectedRows();
-      std::sort(rows.begin(), rows.end());
-      screen_.run([&] { QGuiApplication::clipboard()->setText(model_.text(rows)); });
-    });
+    connect(&view, &ListView::copyWanted, this, [this] { copyRows(); });
+    connect(view.selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { sayWhatIsSelected(); });
     connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& now) { personChose(now.row()); });
     connect(&view, &ListView::opened, this, [this](int row) {
@@ -56,13 +59,13 @@ class ListLink : public QObject {
     };
   }
 
-  bool eventFilter(QObject* object, QEvent* event) override {
-    const bool headings = object != &view_;
-    if (event->type() == QEvent::Show && !headings) setWidths();  // only now it stands in the window that names them
-    if (event->type() == QEvent::MouseButtonRelease && headings)
-      QMetaObject::invokeMethod(
-          this, [this] { rememberWidths(); }, Qt::QueuedConnection);
-    return QObject::eventFilter(object, event);
+  void narrowedBy(QuickSearch& search) {
+    search_ = &search;
+    connect(&search, &QuickSearch::typed, this, [this](const QString& text) { narrow(text); });
+    connect(&search, &QuickSearch::left, this, [this] {
+      view_.setFocus();
+      if (!view_.currentIndex().isValid() && model_.rowCount() > 0) view_.setCurrentIndex(model_.index(0, 0));
+    });
   }
 
   // A list that is filled row by row tells of each: all of them are shown at once, when the event is over.
@@ -76,6 +79,7 @@ class ListLink : public QObject {
   void show() {
     waiting_ = false;
     const QScopedValueRollback quiet(showing_, true);
+    view_.whenEmpty = model_.isNarrowed() ? "没有符合的记录" : toQt(list_.whenEmpty());
     QStringList headings;
     for (const kit::ListColumn& column : list_.columns()) headings << toQt(column.heading);
     model_.refresh();
@@ -83,9 +87,13 @@ class ListLink : public QObject {
     if (headings != headings_ || measured_ != list_.version()) {
       headings_ = headings;
       measured_ = list_.version();
-      setWidths();
+      columns_.measure();
       if (list_.sight() >= 0) view_.scrollTo(model_.index(model_.shownRow(list_.sight()), 0));
     }
+    if (search_ && narrowed_ && !model_.isNarrowed()) search_->empty();  // too many rows have come
+    narrowed_ = model_.isNarrowed();
+    if (search_ && model_.isNarrowed())
+      search_->tell(QString("找到 %1 条，共 %2 条").arg(model_.rowCount()).arg(list_.count()));
     const int row = list_.selected() < 0 ? -1 : model_.shownRow(list_.selected());
     if (row < 0) {
       view_.setCurrentIndex({});
@@ -116,8 +124,11 @@ class ListLink : public QObject {
       sortedColumn_ = column;
       sortOrder_ = order;
     });
-    header->setSortIndicator(sortedColumn_, sortOrder_);  // which turns by itself when it is clicked
+    // The style draws an arrow down for rising order; spreadsheets, and so our people, mean it the other way round.
+    header->setSortIndicator(sortedColumn_,
+                             sortOrder_ == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder);
     header->setSortIndicatorShown(model_.isSorted());
+    if (list_.selected() < 0) view_.scrollToTop();
     changed();
   }
 
@@ -128,76 +139,46 @@ class ListLink : public QObject {
     view_.viewport()->update();
   }
 
-  // The widths that a person has given the columns, kept on this computer for the next time.
-  QString widthsKey() const {
-    return view_.window()->objectName() + "/" + toQt(list_.name) + "/" + QString::number(list_.columns().size());
-  }
-  void rememberWidths() {
-    QVariantList widths;
-    bool drawn = false;
-    for (int i = 0; i < view_.model()->columnCount(); ++i) {
-      widths << view_.columnWidth(i);
-      const bool usual =
-          i < static_cast<int>(usual_.size()) && view_.columnWidth(i) == usual_[static_cast<std::size_t>(i)];
-      drawn = drawn || (i + 1 < view_.model()->columnCount() && !usual);
-    }
-    if (drawn) listSettings().setValue(widthsKey(), widths);
-  }
-  void recallWidths() {
-    const QVariantList widths = listSettings().value(widthsKey()).toList();
-    for (int i = 0; i < widths.size() && i < view_.model()->columnCount(); ++i)
-      view_.setColumnWidth(i, widths[i].toInt());
-  }
-  static QSettings& listSettings() {
-    static QSettings settings(QSettings::IniFormat, QSettings::UserScope, "fee-office", "lists");
-    return settings;
-  }
-
-  int heading(int index) const {
-    const QString words = toQt(list_.columns()[static_cast<std::size_t>(index)].heading).trimmed();
-    return view_.horizontalHeader()->fontMetrics().horizontalAdvance(words) + cellMargins;
-  }
-  // What the heading and the first rows need; without rows what the column is meant for.
-  int usualWidth(int index) const {
-    constexpr long long measured = 200;
-    const auto& column = list_.columns()[static_cast<std::size_t>(index)];
-    const long long rows = qMin(list_.count(), measured);
-    if (rows == 0) return qMax(charactersWide(view_.fontMetrics(), column.width) + cellMargins, heading(index));
-    int widest = 0;
-    for (long long row = 0; row < rows && list_.atHand(row); ++row)
-      widest =
-          qMax(widest,
-               view_.fontMetrics().horizontalAdvance(toQt(list_.cell(row, static_cast<std::size_t>(index))).trimmed()));
-    const int most = charactersWide(view_.fontMetrics(), qMax(column.width, mostCharacters));
-    return qMax(qMin(widest, most) + cellMargins, heading(index));
-  }
-
-  void setWidths() {
-    const int columns = static_cast<int>(list_.columns().size());
-    std::vector<int> widths;
-    for (int i = 0; i < columns; ++i) widths.push_back(usualWidth(i));
-    // An amount behind a scroll bar is worse than the end of a long name.
-    int lacking = std::accumulate(widths.begin(), widths.end(), 0) - view_.viewport()->width();
-    for (int i = 0; i < columns && view_.isVisible() && lacking > 0; ++i) {
-      const auto& column = list_.columns()[static_cast<std::size_t>(i)];
-      if (isAmount(column) || column.format == kit::Format::Date) continue;
-      const int least = qMax(charactersWide(view_.fontMetrics(), leastCharacters) + cellMargins, heading(i));
-      const int less = qBound(0, widths[static_cast<std::size_t>(i)] - least, lacking);
-      widths[static_cast<std::size_t>(i)] -= less;
-      lacking -= less;
-    }
-    usual_ = widths;
-    for (int i = 0; i < columns; ++i) view_.setColumnWidth(i, widths[static_cast<std::size_t>(i)]);
-    if (view_.isVisible()) recallWidths();
-    // An amount that stands on the right stays beside what it belongs to.
-    view_.horizontalHeader()->setStretchLastSection(list_.columns().empty() || !isAmount(list_.columns().back()));
-  }
-
   void personChose(int row) {
     if (showing_) return;
     const long long chosen = row < 0 ? row : model_.listRow(row);
     if (chosen >= 0 && chosen < list_.count() && list_.reachable()) list_.select(chosen);
     if (list_.selected() != chosen) changed();
+  }
+
+  void narrow(const QString& text) {
+    if (!text.trimmed().isEmpty() && list_.count() > ListModel::mostNarrowed)
+      return search_->tell(QString("记录超过 %1 行，请先用“打开”缩小范围再查找。").arg(ListModel::mostNarrowed));
+    {
+      const QScopedValueRollback quiet(showing_, true);
+      screen_.run([&] { model_.narrow(text); });
+    }
+    // What is out of sight is not selected: no button works on it.
+    if (list_.selected() >= 0 && model_.shownRow(list_.selected()) < 0 && list_.reachable()) list_.select(-1);
+    changed();
+  }
+
+  void copy(const QString& text) { QGuiApplication::clipboard()->setText(text); }
+  void copyRows() {
+    auto rows = view_.selectionModel()->selectedRows();
+    std::sort(rows.begin(), rows.end());
+    screen_.run([&] { copy(model_.text(rows)); });
+  }
+
+  // As spreadsheets do: how many rows are selected, and what their amounts come to.
+  void sayWhatIsSelected() {
+    const QModelIndexList rows = view_.selectionModel()->selectedRows();
+    const auto& columns = list_.columns();
+    QString words;
+    if (rows.size() > 1) words = QString("已选 %1 条").arg(rows.size());
+    for (std::size_t i = 0; i < columns.size() && rows.size() > 1 && rows.size() <= mostSummed; ++i) {
+      if (!isAmount(columns[i])) continue;
+      base::Money sum;
+      for (const QModelIndex& row : rows)
+        sum += base::Money::leading(base::trim(list_.cell(model_.listRow(row.row()), i)));
+      words += QString("，%1合计 %2 元").arg(toQt(columns[i].heading).trimmed(), toQt(sum.fixed2()));
+    }
+    sayQuietly(*view_.window(), words, false);
   }
 
   void search(const QString& start, bool further) {
@@ -214,10 +195,14 @@ class ListLink : public QObject {
   }
 
   void popUpMenu(const QPoint& at) {
-    if (list_.menu.empty() || !list_.reachable()) return;
+    if (!list_.reachable()) return;
     auto* menu = new QMenu(&view_);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     renderer_.fillMenu(*menu, list_.menu);
+    if (!list_.menu.empty()) menu->addSeparator();
+    const bool chosen = view_.currentIndex().isValid();
+    menu->addAction("复制单元格", this, [this] { copy(view_.currentIndex().data().toString()); })->setEnabled(chosen);
+    menu->addAction("复制选中行\tCtrl+C", this, [this] { copyRows(); })->setEnabled(chosen);
     menu->popup(view_.viewport()->mapToGlobal(at));
   }
 
@@ -226,15 +211,33 @@ class ListLink : public QObject {
   Renderer& renderer_;
   kit::Screen& screen_;
   ListModel model_;
+  ListColumns columns_;
   QTimer reading_;
+  QuickSearch* search_ = nullptr;
   bool silent_ = false;  // the store did not answer, and that was told
   QStringList headings_;
-  std::vector<int> usual_;
   long long measured_ = -1;
-  bool waiting_ = false, showing_ = false;
+  bool waiting_ = false, showing_ = false, narrowed_ = false;
   int sortedColumn_ = -1;
   Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
 };
+
+}  // namespace
+
+namespace {
+
+// The box and the list below it come and go together.
+QWidget* withSearch(kit::List& list, ListView* view, ListLink& link, Renderer& renderer) {
+  auto both = std::make_unique<QWidget>();
+  auto* column = std::make_unique<QVBoxLayout>(both.get()).release();
+  column->setContentsMargins(0, 0, 0, 0);
+  auto* search = std::make_unique<QuickSearch>().release();
+  column->addWidget(search);
+  column->addWidget(view);
+  link.narrowedBy(*search);
+  renderer.follow(list, [search, &list] { search->setVisible(list.visible()); });
+  return both.release();
+}
 
 }  // namespace
 
@@ -248,7 +251,7 @@ QWidget* listWidget(kit::List& list, Renderer& renderer) {
   for (kit::Action* entry : list.menu)
     if (entry) renderer.action(*entry);
   view->setMinimumHeight(view->fontMetrics().height() * 6);
-  return view;
+  return list.searchable ? withSearch(list, view, *link, renderer) : view;
 }
 
 }  // namespace qt

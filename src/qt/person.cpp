@@ -6,8 +6,10 @@
 #include <QLayout>
 #include <QMessageBox>
 #include <QPointer>
+#include <QTimer>
 
 #include "qt/icon.h"
+#include "qt/quiet_words.h"
 #include "qt/text.h"
 #include "qt/xp_button.h"
 
@@ -78,6 +80,13 @@ bool QtPerson::show(kit::Box box, const std::string& text, const std::string& ti
   message.exec();
   if (below) below->activateWindow();
   return question && message.clickedButton() == yes;
+}
+
+// The window in which the words belong is the one that stands in front when the event is over.
+void QtPerson::say(const std::string& words) {
+  QTimer::singleShot(0, qApp, [words] {
+    if (QWidget* window = QApplication::activeWindow()) sayQuietly(*window, toQt(words), true);
+  });
 }
 
 QString dialogFilter(const std::string& filter) {

@@ -12,6 +12,7 @@ class QtPerson : public kit::Person {
   explicit QtPerson(QString programName) : programName_(std::move(programName)) {}  // the title of boxes without one
   void tell(kit::Box box, const std::string& text, const std::string& title) override { show(box, text, title); }
   bool ask(kit::Box box, const std::string& text, const std::string& title) override { return show(box, text, title); }
+  void say(const std::string& words) override;
   std::optional<std::string> chooseFile(const std::string& title, const std::string& filter) override;
 
  private:

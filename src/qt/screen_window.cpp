@@ -1,7 +1,7 @@
 #include "qt/screen_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QLayout>
 #include <QMenuBar>
 #include <QScreen>
@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -16,7 +17,9 @@
 
 #include "qt/icon.h"
 #include "qt/member_widgets.h"
+#include "qt/remembered.h"
 #include "qt/text.h"
+#include "qt/theme.h"
 
 namespace qt {
 namespace {
@@ -48,7 +51,10 @@ QWidget* fitted(QWidget* page, const QSize& room) {
 }  // namespace
 
 ScreenWindow::ScreenWindow(kit::Screen& screen, const Views& views)
-    : screen_(screen), layout_(screen.layout()), renderer_(std::make_unique<Renderer>(screen, views, this)) {
+    : screen_(screen),
+      views_(views),
+      layout_(screen.layout()),
+      renderer_(std::make_unique<Renderer>(screen, views, this)) {
   setObjectName(toQt(screen.name));
   setWindowIcon(icon("wallet-cards"));
   setContextMenuPolicy(Qt::NoContextMenu);
@@ -58,6 +64,23 @@ ScreenWindow::ScreenWindow(kit::Screen& screen, const Views& views)
     colours.setColor(QPalette::Window, toQt(*screen.backdrop));
     setPalette(colours);
   }
+  build();
+  auto* escapeKey = new QShortcut(Qt::Key_Escape, this);
+  connect(escapeKey, &QShortcut::activated, this, [this] { escape(); });
+  for (const auto& [keys, by] : {std::pair{"Ctrl++", 1}, {"Ctrl+=", 1}, {"Ctrl+-", -1}, {"Ctrl+0", 0}})
+    connect(new QShortcut(QKeySequence(keys), this), &QShortcut::activated, this,
+            [by] { setTextSize(by == 0 ? theme::pointSize : textPoints() + by); });
+  const auto follow = [this] {
+    setWindowTitle(toQt(screen_.title()));
+    if (!screen_.closed()) return;
+    hide();
+    emit left();
+  };
+  screen_.view = follow;
+  follow();
+}
+
+void ScreenWindow::build() {
   addBars(layout_);
   auto* page = std::make_unique<QWidget>().release();
   auto* box = std::make_unique<QVBoxLayout>(page).release();
@@ -70,17 +93,35 @@ ScreenWindow::ScreenWindow(kit::Screen& screen, const Views& views)
   renderer_->setTabOrder(layout_);
   renderer_->setDefault(layout_.confirm);
   renderer_->setDefault(layout_.root);
+}
 
-  auto* escapeKey = new QShortcut(Qt::Key_Escape, this);
-  connect(escapeKey, &QShortcut::activated, this, [this] { escape(); });
-  const auto follow = [this] {
-    setWindowTitle(toQt(screen_.title()));
-    if (!screen_.closed()) return;
-    hide();
-    emit left();
-  };
-  screen_.view = follow;
-  follow();
+// Text of another size wants widgets of another size. They are made anew as soon as none of them is under way.
+void ScreenWindow::rebuild() {
+  if (screen_.busy()) {
+    stale_ = true;
+    return;
+  }
+  stale_ = false;
+  kit::Member* const focused = screen_.focused;
+  renderer_.reset();
+  delete takeCentralWidget();
+  delete menuWidget();
+  for (QToolBar* bar : findChildren<QToolBar*>()) delete bar;
+  setStatusBar(nullptr);
+  renderer_ = std::make_unique<Renderer>(screen_, views_, this);
+  build();
+  if (focused) renderer_->focus(*focused);
+}
+
+void ScreenWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && stale_) QTimer::singleShot(0, this, [this] { rebuild(); });
+}
+
+void ScreenWindow::setTextSize(int points) {
+  setTextPoints(points);
+  for (QWidget* window : QApplication::topLevelWidgets())
+    if (auto* one = qobject_cast<ScreenWindow*>(window)) QTimer::singleShot(0, one, [one] { one->rebuild(); });
 }
 
 ScreenWindow::~ScreenWindow() {
@@ -128,10 +169,25 @@ void ScreenWindow::present() {
     showMaximized();
   } else {
     setGeometry(placeOn(area));
+    usual_ = geometry();
+    const QRect left = remembered().value(placeKey()).toRect();
+    if (area.contains(left) && left.width() >= minimumSizeHint().width() && left.height() >= minimumSizeHint().height())
+      setGeometry(left);
     show();
   }
   activateWindow();
   renderer_->focusFirst(layout_);
+}
+
+// On this size of screen.
+QString ScreenWindow::placeKey() const {
+  const QSize screen = QGuiApplication::primaryScreen()->size();
+  return QString("places/%1/%2x%3").arg(objectName()).arg(screen.width()).arg(screen.height());
+}
+
+void ScreenWindow::hideEvent(QHideEvent* event) {
+  if (usual_.isValid() && geometry() != usual_) remembered().setValue(placeKey(), geometry());
+  QMainWindow::hideEvent(event);
 }
 
 void ScreenWindow::escape() {

@@ -8,6 +8,8 @@
 #include <QStyleFactory>
 #include <QTranslator>
 
+#include "qt/remembered.h"
+
 namespace qt {
 namespace {
 
@@ -97,6 +99,7 @@ QToolTip { background: #fffff0; color: #1b2a2e; border: 1px solid #9dbfbf; paddi
 QLabel[role="label"] { color: #45696c; }
 QLabel[role="label"]:disabled { color: #869c9f; }
 QLabel[role="heading"] { color: #0f6268; font-weight: bold; }
+QLabel[role="notice"] { background: #fffff0; color: #1b2a2e; border: 1px solid #5a8586; border-radius: 4px; padding: 4px 8px; }
 QLabel[role="note"] { color: #4a6164; }
 QLabel[role="column"] { color: #345a5d; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
@@ -124,6 +127,19 @@ QFont faceFont(platform::Face face, double points) {
   return font;
 }
 
+namespace {
+const QString pointsKey = "text/points";
+}
+
+int textPoints() {
+  return qBound(theme::leastPoints, remembered().value(pointsKey, theme::pointSize).toInt(), theme::mostPoints);
+}
+
+void setTextPoints(int points) {
+  remembered().setValue(pointsKey, qBound(theme::leastPoints, points, theme::mostPoints));
+  QApplication::setFont(faceFont(platform::Face::Hei, textPoints()));
+}
+
 int charactersWide(const QFontMetrics& metrics, int characters) {
   return metrics.horizontalAdvance(QStringLiteral("中")) * characters;
 }
@@ -132,7 +148,7 @@ void applyTheme(QApplication& application) {
   QLocale::setDefault(QLocale(QLocale::Chinese, QLocale::China));
   application.setStyle(QStyleFactory::create("Fusion"));
   application.setPalette(palette());
-  application.setFont(faceFont(platform::Face::Hei, theme::pointSize));
+  application.setFont(faceFont(platform::Face::Hei, textPoints()));
   application.setStyleSheet(sheet);
   auto* translator = new QTranslator(&application);
   if (translator->load("qtbase_zh_CN", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

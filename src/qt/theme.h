@@ -32,13 +32,17 @@ const QColor found(255, 226, 120);  // behind a text that was searched for
 const QColor paperAlternate(244, 250, 250);
 const QColor stop(186, 45, 45);
 const QColor warning(176, 112, 8);
-constexpr int pointSize = 10;
+constexpr int pointSize = 10, leastPoints = 9, mostPoints = 14;
 }  // namespace theme
 
 // The face's family with its fall-backs: the named one first, then those that have the rare characters of names.
 QFont faceFont(platform::Face face, double points);
 
 // Width of so many Chinese characters.
+// The size of all text, kept on this computer. Windows that stand are built anew by whoever changes it.
+int textPoints();
+void setTextPoints(int points);
+
 int charactersWide(const QFontMetrics& metrics, int characters);
 
 // Style, palette, fonts, the toolkit's own texts in Chinese.

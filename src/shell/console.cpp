@@ -65,6 +65,7 @@ void Formzct::load() {
   clearCard();
   loadAllSettings();  // from here on the store is read: whatever it says, the console stands
   classes.fillTree();
+  payments.guide(classes.tree.nodes().empty());
   sharing.refresh();
 }
 
@@ -80,6 +81,7 @@ void Formzct::wireMenu() {
   opens(cd21, [this] {
     open<feesetup::Formsz>();
     classes.fillTree();
+    if (!card.holdsStudent()) payments.guide(classes.tree.nodes().empty());
   });
   opens(cd22, [this] { openOverview(students_overview); });
   opens(cd23, [this] { openOverview(payments_overview); });
@@ -140,11 +142,14 @@ void Formzct::wireToolbar() {
   // One chain over the three panels, not tied to the one in front: to reach panel 3 a user needs the rights of 1 and 2,
   // and one with the first right alone gets the action and then the refusal.
   const auto chain = [this](kit::Action& button, std::array<int, 3> rights, std::function<void(kit::Panel)> act) {
-    button.onPress([this, rights, act] {
+    button.onPress([this, &button, rights, act] {
+      const kit::Panel before = ConsolePanel;
       for (int panel = 1; panel <= 3; ++panel) {
         if (!may(desk, rights[static_cast<std::size_t>(panel - 1)])) return refuse(desk);
         if (ConsolePanel == static_cast<kit::Panel>(panel)) act(ConsolePanel);
       }
+      if (before == kit::Panel::None)
+        desk.person.say("请先打开“学籍资料”、“交费记录”或“欠费应交”，再按“" + button.caption() + "”");
     });
   };
   chain(k7, {StudentQuery, PaymentQuery, ArrearsQuery}, [this](kit::Panel panel) {

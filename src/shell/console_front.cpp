@@ -42,6 +42,8 @@ const std::vector<kit::ListColumn> arrearsColumns{
     {"当前状态", "clfs", kit::Format::Text, 4},
 };
 
+constexpr const char* findStudent = "输入学号或姓名，按回车查找学生";
+
 base::Money balanceOf(RecordSet& row) { return row.get("bjje").money() - row.get("sbjje").money(); }
 
 }  // namespace
@@ -76,6 +78,7 @@ PaymentsFrame::PaymentsFrame(kit::Screen& screen, kit::Desk& desk)
     : frame(screen, "payments", "交费记录："),
       list(screen, "payment_list", collection::paymentColumns),
       bar(screen, "payment_bar", "", kit::Entry::Shown),
+      next_(findStudent),
       desk_(desk) {
   list.setTip("右键有操作");
   list.freshBy = "sftj";
@@ -83,6 +86,7 @@ PaymentsFrame::PaymentsFrame(kit::Screen& screen, kit::Desk& desk)
 
 void PaymentsFrame::showAll(const std::string& xh, const std::string& name) {
   clear();
+  list.setWhenEmpty(xh.empty() ? next_ : "该生没有交费记录");
   payment_list_mode = PaymentList::All;
   RecordSet payments(desk_.store, Sql("select * from jfjl where xh='") + xh + "' order by jfrq");
   base::Money total;
@@ -107,7 +111,14 @@ void PaymentsFrame::showNew(const std::string& xh) {
   bar.set("新交费记录：" + base::caption(list.count()) + " 条，累计金额：" + total.fixed2() + " 元");
 }
 
+void PaymentsFrame::guide(bool newSchool) {
+  next_ = newSchool ? "新学校：请在“编辑”菜单的“系统初始设置”中依次建立专业、班级、收费项目和收费标准，再按“新生添加”"
+                    : findStudent;
+  clear();
+}
+
 void PaymentsFrame::clear() {
+  list.setWhenEmpty(next_);
   list.clear();
   bar.clear();
 }
@@ -126,6 +137,7 @@ ArrearsFrame::ArrearsFrame(kit::Screen& screen, kit::Desk& desk)
 
 void ArrearsFrame::show(const std::string& xh) {
   clear();
+  list.setWhenEmpty("该生没有欠费");
   RecordSet owed(desk_.store,
                  Sql("select * from qfjl where xh='") + xh + "' and bjje-sbjje>0 and clfs<>'减免' order by bjrq");
   store::forEach(owed, [&](RecordSet& row) { addRow(row, balanceOf(row)); });
@@ -133,6 +145,7 @@ void ArrearsFrame::show(const std::string& xh) {
 
 void ArrearsFrame::showDue() {
   clear();
+  list.setWhenEmpty("没有到期的欠费");
   holdsDue_ = true;
   frame.setTitle("今日到期应交欠费信息");
   school::loadReminderDays(desk_);
@@ -161,6 +174,7 @@ void ArrearsFrame::addRow(RecordSet& row, base::Money balance) {
 }
 
 void ArrearsFrame::clear() {
+  list.setWhenEmpty(findStudent);
   holdsDue_ = false;
   list.clear();
   bar.clear();

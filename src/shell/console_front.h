@@ -35,6 +35,7 @@ class PaymentsFrame {
   void showAll(const std::string& xh, const std::string& name);  // all payments, with the dates they span
   void showNew(const std::string& xh);                           // those not submitted yet
   void clear();
+  void guide(bool newSchool);  // what is to be done next, in a list that has nothing to show
 
   kit::Frame frame;
   kit::List list;
@@ -42,6 +43,7 @@ class PaymentsFrame {
   PaymentList payment_list_mode = PaymentList::None;
 
  private:
+  std::string next_;
   kit::Desk& desk_;
 };
 

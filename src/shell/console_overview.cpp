@@ -173,6 +173,7 @@ Overview::Overview(kit::Screen& screen, const OverviewPlan& what)
   for (const OverviewButton& button : plan.buttons)
     buttons.emplace_back(screen, button.name, button.caption, button.icon);
   frame.show(false);
+  list.searchable = true;
 }
 
 void Overview::enableByRights(const kit::Desk& desk) {

@@ -86,6 +86,7 @@ void Formzct::openPanel() {
       continue;
     }
     overview->clear();
+    overview->list.setWhenEmpty("按“打开”设置条件后显示");
     try {
       if (desk.session.auto_load_lists) fill(*overview);
     } catch (...) {  // the panel did not open: its button opens it again
@@ -99,6 +100,7 @@ void Formzct::openPanel() {
 Filled Formzct::fill(Overview& overview) {
   kit::Notice notice(desk.progress, "正在启动 ...");
   notice.show(overview.plan.notice);
+  overview.list.setWhenEmpty(overview.filter.heading.empty() ? "暂无记录" : "没有符合条件的记录");
   if (&overview == &students_overview) return fillStudents(overview, desk, notice);
   if (&overview == &payments_overview) return fillPayments(overview, desk, notice);
   return fillArrears(overview, desk, notice);

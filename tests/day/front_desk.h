@@ -30,6 +30,7 @@ class WillingPerson : public kit::Person {
     last = text;
     return text.find("打印收据吗") == std::string::npos;
   }
+  void say(const std::string& words) override { last = words; }
   std::optional<std::string> chooseFile(const std::string&, const std::string&) override { return std::nullopt; }
   std::vector<std::string> stops;
   std::string last;

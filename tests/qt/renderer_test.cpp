@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -18,6 +19,7 @@
 
 #include "demo_screen.h"
 #include "qt/narrowed_list.h"
+#include "qt/theme.h"
 #include "qt/xp_button.h"
 #include "qt_test.h"
 #include "support/failing_engine.h"
@@ -240,7 +242,79 @@ TEST_F(RendererTest, drawnWidthsAreThereTheNextTime) {
   qt::ScreenWindow other(again, views);
   other.present();
   support::settle();
-  EXPECT_EQ(other.findChild<QTableView*>("rows_shown")->columnWidth(1), 222);
+  auto& there = *other.findChild<QTableView*>("rows_shown");
+  EXPECT_EQ(there.columnWidth(1), 222);
+  EXPECT_FALSE(there.isColumnHidden(2));
+  const auto choose = [&](qsizetype entry) {
+    emit there.horizontalHeader()->customContextMenuRequested(QPoint(5, 5));
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
+    menu->actions()[entry]->trigger();
+    menu->close();
+  };
+  choose(2);
+  EXPECT_TRUE(there.isColumnHidden(2));
+  DemoScreen onceMore(desk.desk);
+  qt::ScreenWindow third(onceMore, views);
+  third.present();
+  support::settle();
+  EXPECT_TRUE(third.findChild<QTableView*>("rows_shown")->isColumnHidden(2)) << "a hidden column stays hidden";
+  choose(5);
+  EXPECT_FALSE(there.isColumnHidden(2));
+  EXPECT_NE(there.columnWidth(1), 222);
+}
+
+TEST_F(RendererTest, columnsAreAsWideAsTheirContents) {
+  auto& view = find<QTableView>("rows_shown");
+  screen.rows_shown.clear();
+  screen.rows_shown.addRow({"1", "王", "学费", "1.00"});
+  support::settle();
+  const int narrow = view.columnWidth(1);
+  screen.rows_shown.addRow({"2", "买买提·阿不都热合曼", "学费", "1.00"});
+  support::settle();
+  EXPECT_GT(view.columnWidth(1), narrow + 60);
+  EXPECT_GE(view.columnWidth(1), view.fontMetrics().horizontalAdvance("买买提·阿不都热合曼"));
+}
+
+// What a person types above the list leaves the rows that mean it; a row out of sight is not selected.
+TEST_F(RendererTest, aBoxNarrowsTheListAndEscapeShowsItWhole) {
+  DemoScreen other(desk.desk);
+  other.rows_shown.searchable = true;
+  other.rows_shown.clear();
+  for (const char* name : {"王小明", "李明", "赵燕"}) other.rows_shown.addRow({"1", name, "学费", "100.00"});
+  qt::ScreenWindow shown(other, views);
+  shown.present();
+  support::settle();
+  auto& view = *shown.findChild<QTableView*>("rows_shown");
+  auto& box = *shown.findChild<QLineEdit*>("quick_search");
+  other.rows_shown.select(2);
+  QTest::keyClick(&view, Qt::Key_F, Qt::ControlModifier);
+  EXPECT_TRUE(box.hasFocus());
+  QTest::keyClicks(&box, "wxm");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return view.model()->rowCount() == 1; }));
+  EXPECT_EQ(view.model()->index(0, 1).data().toString(), "王小明");
+  EXPECT_EQ(other.rows_shown.selected(), -1);
+  other.rows_shown.addRow({"4", "王新梅", "学费", "1.00"});
+  support::settle();
+  EXPECT_EQ(view.model()->rowCount(), 2) << "new rows are narrowed, too";
+  QTest::keyClick(&box, Qt::Key_Escape);
+  EXPECT_EQ(view.model()->rowCount(), 4);
+  EXPECT_FALSE(other.closed());
+  view.selectAll();
+  EXPECT_EQ(shown.findChild<QLabel*>("quiet_words")->text(), "已选 4 条，金额合计 301.00 元");
+}
+
+TEST_F(RendererTest, textGrowsByKeysAndWhatWasTypedStays) {
+  screen.xh.set("20240001");
+  const int before = find("xh").fontMetrics().height();
+  for (int i = 0; i < 9; ++i) QTest::keyClick(&window, Qt::Key_Plus, Qt::ControlModifier);
+  support::settle();
+  EXPECT_EQ(qt::textPoints(), qt::theme::mostPoints);
+  EXPECT_GT(find("xh").fontMetrics().height(), before);
+  EXPECT_EQ(find<QLineEdit>("xh").text(), "20240001");
+  QTest::keyClick(&window, Qt::Key_0, Qt::ControlModifier);
+  support::settle();
+  EXPECT_EQ(find("xh").fontMetrics().height(), before);
 }
 
 TEST_F(RendererTest, aListNarrowsToWhatIsMeantByTheTyping) {
@@ -299,7 +373,7 @@ TEST_F(RendererTest, thePopUpMenuHoldsTheListsActions) {
   emit view.customContextMenuRequested(QPoint(5, 5));
   auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
   ASSERT_TRUE(menu);
-  ASSERT_EQ(menu->actions().size(), 3);
+  ASSERT_EQ(menu->actions().size(), 6) << "and two ways of copying";
   EXPECT_FALSE(menu->actions().at(0)->isEnabled());
   menu->actions().at(2)->trigger();
   menu->close();

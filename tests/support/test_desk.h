@@ -33,6 +33,8 @@ class ScriptedPerson : public kit::Person {
 
   void tell(kit::Box box, const std::string& text, const std::string& title) override { met(box, text, title); }
   bool ask(kit::Box box, const std::string& text, const std::string& title) override { return met(box, text, title); }
+  void say(const std::string& words) override { said.push_back(words); }
+  std::vector<std::string> said;  // what stood at the window's edge
   std::optional<std::string> chooseFile(const std::string& title, const std::string& filter) override;
 
  private:

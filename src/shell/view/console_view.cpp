@@ -1,10 +1,13 @@
 #include <QAbstractButton>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QScreen>
 #include <QSplitter>
 #include <algorithm>
 
+#include "qt/remembered.h"
 #include "qt/theme.h"
 #include "shell/console.h"
 #include "shell/view/shell_views.h"
@@ -12,7 +15,9 @@
 namespace shell {
 namespace {
 
-constexpr int classPanelWidth = 380, cardWidth = 400, sharingWidth = 285;
+constexpr int classPanelWidth = 380;
+constexpr int cardWidth = 400, leastCard = 320, sharingWidth = 200, leastSharing = 120;
+constexpr int smallScreen = 1600;
 
 // The strip at the window's left edge, its words one below the other.
 class Strip : public QAbstractButton {
@@ -114,16 +119,27 @@ QWidget* buildConsole(kit::Screen& screen, const kit::Node& node, qt::Renderer& 
   lists->setStretchFactor(0, 3);
   lists->setStretchFactor(1, 2);
   lists->setChildrenCollapsible(false);
+  qt::rememberPanes(*lists, "panes/lists");
+
+  auto* panes = new QSplitter(Qt::Horizontal);
+  panes->addWidget(card);
+  panes->addWidget(lists);
+  panes->addWidget(parts[4]);
+  panes->setStretchFactor(1, 1);
+  panes->setChildrenCollapsible(false);
+  card->setMinimumWidth(leastCard);
+  parts[4]->setMinimumWidth(leastSharing);
+  const int all = QGuiApplication::primaryScreen()->availableSize().width();
+  const int ofCard = all < smallScreen ? leastCard : cardWidth,
+            ofSharing = all < smallScreen ? leastSharing : sharingWidth;
+  panes->setSizes({ofCard, all - ofCard - ofSharing, ofSharing});
+  qt::rememberPanes(*panes, "panes/front");
 
   auto* front = new QWidget;
   auto* row = new QHBoxLayout(front);
   row->setContentsMargins(0, 6, 6, 6);
-  card->setFixedWidth(cardWidth);
-  parts[4]->setFixedWidth(sharingWidth);
   row->addWidget(strip);
-  row->addWidget(card);
-  row->addWidget(lists, 1);
-  row->addWidget(parts[4]);
+  row->addWidget(panes, 1);
   return new ConsoleArea(console, front, {parts[5], parts[6], parts[7]}, classes, strip);
 }
 
