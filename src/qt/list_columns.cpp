@@ -63,9 +63,11 @@ int ListColumns::usualWidth(int index) const {
 
 // The end of a long name gives way to an amount that would stand behind the scroll bar.
 void ListColumns::shrink(std::vector<int>& widths) const {
-  int lacking = std::accumulate(widths.begin(), widths.end(), 0) - view_.viewport()->width();
-  for (int i = 0; i < static_cast<int>(widths.size()) && lacking > 0; ++i) {
-    const kit::ListColumn& column = list_.columns()[static_cast<std::size_t>(i)];
+  const auto& columns = list_.columns();
+  const auto lastAmount = std::find_if(columns.rbegin(), columns.rend(), isAmount).base() - columns.begin();
+  int lacking = std::accumulate(widths.begin(), widths.begin() + lastAmount, 0) - view_.viewport()->width();
+  for (int i = 0; i < lastAmount && lacking > 0; ++i) {
+    const kit::ListColumn& column = columns[static_cast<std::size_t>(i)];
     if (isAmount(column) || column.format == kit::Format::Date) continue;
     int& width = widths[static_cast<std::size_t>(i)];
     const int least = qMax(charactersWide(view_.fontMetrics(), leastCharacters) + cellMargins, heading(i));

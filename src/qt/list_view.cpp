@@ -27,7 +27,13 @@ class RowDelegate : public QStyledItemDelegate {
     option->palette.setColor(QPalette::HighlightedText, strong ? theme::paper : theme::accentDark);
     option->state.setFlag(QStyle::State_MouseOver, false);
     option->state.setFlag(QStyle::State_HasFocus, false);
-    if (index.row() == view_.rowUnderMouse()) option->backgroundBrush = theme::underMouse;
+  }
+  // The style sheet paints no ground of its own for a cell, nor the model's.
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const QVariant ground = index.data(Qt::BackgroundRole);
+    if (index.row() == view_.rowUnderMouse()) painter->fillRect(option.rect, theme::underMouse);
+    else if (ground.isValid()) painter->fillRect(option.rect, ground.value<QColor>());
+    QStyledItemDelegate::paint(painter, option, index);
   }
 
  private:

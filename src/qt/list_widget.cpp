@@ -88,7 +88,8 @@ class ListLink : public QObject {
       headings_ = headings;
       measured_ = list_.version();
       columns_.measure();
-      if (list_.sight() >= 0) view_.scrollTo(model_.index(model_.shownRow(list_.sight()), 0));
+      if (list_.sight() >= 0)  // when the scroll bars have come
+        QTimer::singleShot(0, this, [this] { view_.scrollTo(model_.index(model_.shownRow(list_.sight()), 0)); });
     }
     if (search_ && narrowed_ && !model_.isNarrowed()) search_->empty();  // too many rows have come
     narrowed_ = model_.isNarrowed();

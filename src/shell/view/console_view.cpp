@@ -16,7 +16,7 @@ namespace shell {
 namespace {
 
 constexpr int classPanelWidth = 380;
-constexpr int cardWidth = 400, leastCard = 320, sharingWidth = 200, leastSharing = 120;
+constexpr int cardWidth = 400, leastCard = 368, sharingWidth = 200, leastSharing = 110;
 constexpr int smallScreen = 1600;
 
 // The strip at the window's left edge, its words one below the other.
