@@ -41,7 +41,7 @@ class Formzctsf7 : public kit::Screen {  // 收费前台集中收费窗口
   std::deque<BatchCell> cells;
   kit::Field summary{*this, "summary", "合计", kit::Entry::Shown};
   kit::Field person{*this, "person", "上交人姓名", kit::Entry::Pick};
-  kit::Action confirm{*this, "confirm", "确认", "check"}, back{*this, "back", "返回", "undo-2"};
+  kit::Action confirm{*this, "confirm", "确认", "check"}, back{*this, "back", "返回", "arrow-left"};
 
  private:
   void startAnew();

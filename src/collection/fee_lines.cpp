@@ -1,5 +1,7 @@
 #include "collection/fee_lines.h"
 
+#include <algorithm>
+
 #include "base/text.h"
 
 namespace collection {
@@ -34,6 +36,8 @@ FeeLine::FeeLine(kit::Screen& screen, int index)
   due.rightAligned = true;
   paid.rightAligned = true;
   tick.show(false);
+  paid.setRecedes(true);
+  sfxm.onChange([this] { paid.setRecedes(!hasItem()); });
 }
 
 void FeeLine::offer(base::Money amount) {
@@ -102,6 +106,31 @@ std::optional<base::Money> loadArrears(store::Store& store, const std::string& x
     if (tickDue && planned) line.tick.set(today.daysUntil(*planned) <= arrears.get("qfts").number());
   });
   return any ? std::optional(total) : std::nullopt;
+}
+
+std::string paidAndOwed(store::Store& store, const std::string& xh, const std::string& xq) {
+  std::vector<std::pair<std::string, base::Money>> items;
+  store::RecordSet paid(store,
+                        store::Sql("select sfxm,je from jfjl where xh='") + xh + "' and xq='" + xq + "' order by lsh");
+  store::forEach(paid, [&](store::RecordSet& row) {
+    const std::string item = row.get("sfxm").trimmed();
+    auto known = std::ranges::find(items, item, &std::pair<std::string, base::Money>::first);
+    if (known == items.end()) known = items.insert(known, {item, {}});
+    known->second += row.get("je").money();
+  });
+  std::string words;
+  for (const auto& [item, sum] : items) words += (words.empty() ? "" : "、") + item + " " + sum.fixed2();
+  words = words.empty() ? "本学期尚未交费" : "本学期已交：" + words;
+
+  long long debts = 0;
+  base::Money owed;
+  store::RecordSet open(
+      store, store::Sql("select bjje,sbjje from qfjl where xh='") + xh + "' and bjje-sbjje>0 and clfs<>'减免'");
+  store::forEach(open, [&](store::RecordSet& row) {
+    ++debts;
+    owed += row.get("bjje").money() - row.get("sbjje").money();
+  });
+  return words + (debts == 0 ? "；没有欠费" : "；欠费 " + std::to_string(debts) + " 笔，共 " + owed.fixed2() + " 元");
 }
 
 }  // namespace collection

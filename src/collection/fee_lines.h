@@ -44,4 +44,7 @@ std::optional<base::Money> loadAllItems(store::Store& store, const StandardBasis
 std::optional<base::Money> loadArrears(store::Store& store, const std::string& xh, base::Date today, bool tickDue,
                                        FeeLines& lines);
 
+// In one line what a student has paid for a term, item by item, and how much they owe in all.
+std::string paidAndOwed(store::Store& store, const std::string& xh, const std::string& xq);
+
 }  // namespace collection

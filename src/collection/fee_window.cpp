@@ -9,6 +9,7 @@
 namespace collection {
 
 constexpr kit::Colour withinDue{0, 0, 255}, aboveDue{255, 0, 255};
+constexpr kit::Colour shortColour{176, 32, 32};
 constexpr kit::Colour normalHeading{0, 96, 96}, arrearsHeading{192, 0, 0};
 
 Formzctsf4::Formzctsf4(kit::Desk& all, FeeWindowFor given)
@@ -19,15 +20,17 @@ Formzctsf4::Formzctsf4(kit::Desk& all, FeeWindowFor given)
   confirm.enable(false);
   arrearsEntry.enable(false);
   allLines.enable(false);
-  totalDue.rightAligned = totalPaid.rightAligned = true;
+  totalDue.rightAligned = totalPaid.rightAligned = difference.rightAligned = true;
   totalDue.prominent = totalPaid.prominent = modeHeading.prominent = true;
 
   for (FeeLine& line : lines) wireLine(line);
+  xq.onLeave([this] { showAlready(); });
   xh.onChange([this] { arrearsEntry.enable(!xh.blank()); });
   jffs.offers("select jffs from jfjl group by jffs", "jffs");
   totalDue.onChange([this] {
     allLines.set(false);
     allLines.enable(!totalDue.money().zero());
+    showDifference();
   });
   allLines.onChange([this] { allLines.on() ? tickAll() : untickAll(); });
   arrearsMode.onChange([this] { switchMode(); });
@@ -44,6 +47,7 @@ void Formzctsf4::load() {
     arrearsMode.set(true);
   }
   showMode();
+  showAlready();
   focusFirst();
 }
 
@@ -70,6 +74,7 @@ void Formzctsf4::switchMode() {
   loadStudent();
   loadLines();
   showMode();
+  showAlready();
 }
 
 void Formzctsf4::showMode() {
@@ -80,7 +85,8 @@ void Formzctsf4::showMode() {
 
 void Formzctsf4::clearAll() {
   for (FeeLine& line : lines) line.clear();
-  for (kit::Field* field : {&xh, &xm, &rxrq, &rxxs, &bjmc, &xq, &totalDue, &totalPaid}) field->clear();
+  for (kit::Field* field : {&xh, &xm, &rxrq, &rxxs, &bjmc, &xq, &totalDue, &totalPaid, &difference, &already})
+    field->clear();
   xtbh.clear();
 }
 
@@ -146,8 +152,20 @@ void Formzctsf4::amountChanged(FeeLine& line) {
   for (const FeeLine& one : lines) total += one.paidAmount();
   totalPaid.set(total.fixed2());
   confirm.enable(!total.zero());
+  showDifference();
   if (std::all_of(lines.begin(), lines.end(), [](const FeeLine& one) { return one.paid.blank(); })) allLines.set(false);
   if (!line.paid.blank()) line.paid.setColour(line.paidAmount() > line.dueAmount() ? aboveDue : withinDue);
+}
+
+void Formzctsf4::showDifference() {
+  const base::Money lacking = totalDue.money() - totalPaid.money();
+  difference.set(totalPaid.money().zero() ? "" : lacking.fixed2());
+  difference.setColour(lacking > base::Money() ? std::optional(shortColour) : std::nullopt);
+}
+
+// So that nobody pays twice unseen.
+void Formzctsf4::showAlready() {
+  already.set(student_ == 0 ? "" : paidAndOwed(desk.store, xh.trimmed(), xq.trimmed()));
 }
 
 // True when the amount can stand.

@@ -41,6 +41,9 @@ class Formzctsf4 : public kit::Screen {  // 收费窗口
   kit::Field totalDue{*this, "totalDue", "应交总额", kit::Entry::Shown};
   kit::Field totalPaid{*this, "totalPaid", "实交总额", kit::Entry::Shown};
 
+  kit::Field difference{*this, "difference", "差额", kit::Entry::Shown};  // of due and paid, once something is paid
+  kit::Field already{*this, "already", "", kit::Entry::Shown};  // what was paid in this term before, and what is owed
+
   kit::Action confirm{*this, "confirm", "确认", "check"};
   kit::Action arrearsEntry{*this, "arrearsEntry", "欠费录入", "edit"};
   kit::Action cancel{*this, "cancel", "撤销", "x"};
@@ -55,6 +58,7 @@ class Formzctsf4 : public kit::Screen {  // 收费窗口
   void clearAll();
   void loadStudent();
   void loadLines();
+  void showAlready();
   void focusFirst();
 
   // Ticks, amounts and totals.
@@ -62,6 +66,7 @@ class Formzctsf4 : public kit::Screen {  // 收费窗口
   void tickAll();
   void untickAll();
   void amountChanged(FeeLine& line);
+  void showDifference();
   bool completeAmount(FeeLine& line);
 
   // Confirming, in fee_window_confirm.cpp.

@@ -14,7 +14,7 @@ class Formzctsf9 : public kit::Screen {  // 未提交收费记录明细
   kit::List list;
   kit::Field summary{*this, "summary", "", kit::Entry::Shown};
   kit::Action submit{*this, "submit", "提交确认", "upload"}, print{*this, "print", "打印报表", "printer"},
-      all{*this, "all", "前台所有记录", "users"}, back{*this, "back", "返回", "undo-2"};
+      all{*this, "all", "前台所有记录", "users"}, back{*this, "back", "返回", "arrow-left"};
   kit::Action mine_entry{*this, "mine_entry", "返回我的未提交记录"},
       all_entry{*this, "all_entry", "查看前台所有未提交记录"};
 

@@ -30,7 +30,7 @@ kit::RecordDeskPlan tab(const char* table, const Sql& order, std::vector<ListCol
           .order = order,
           .columns = std::move(columns),
           .buttons = {{"add", addCaption, "plus", Mode::Add},
-                      {"modify", "修改", "edit", Mode::Modify, "不存在需要修改的记录！  "},
+                      {"modify", "修改", "pencil", Mode::Modify, "不存在需要修改的记录！  "},
                       {"remove", "删除", "trash-2", Mode::Delete, "不存在需要删除的记录！  "}}};
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 #include "base/text.h"
 #include "kit/rows.h"
@@ -55,6 +56,10 @@ void Field::setColour(std::optional<Colour> colour) {
   if (colour_ == colour) return;
   colour_ = colour;
   changed();
+}
+
+void Field::setRecedes(bool on) {
+  if (std::exchange(recedes_, on) != on) changed();
 }
 
 void Field::type(const std::string& text) {

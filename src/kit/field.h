@@ -37,6 +37,8 @@ class Field : public Member {
 
   std::optional<Colour> colour() const { return colour_; }  // of the text
   void setColour(std::optional<Colour> colour);
+  bool recedes() const { return recedes_; }  // it can be typed into, but nothing is expected there
+  void setRecedes(bool on);
   int calendarFrom = 0;       // where the calendar of an empty date opens, in days from today
   bool rightAligned = false;  // amounts
   bool names = false;         // of people: a list that narrows shows them in the order in which they are read
@@ -65,6 +67,7 @@ class Field : public Member {
   std::string label_, text_;
   std::vector<std::string> choices_;
   std::optional<Colour> colour_;
+  bool recedes_ = false;
   std::vector<Handler> change_, enter_, pick_, drop_, click_, doubleClick_;
 };
 

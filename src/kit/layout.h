@@ -19,7 +19,8 @@ struct Node {
     Form,     // children as label and entry, in `columns` pairs a row
     Group,    // a titled frame round the children; with a member, the frame is that member
     Tabs,     // each child is a Group: its title is the tab's
-    Lines,    // a grid with headings; each child is a Row of cells
+    Lines,    // a grid with headings; each child is a Row of cells. One that begins with a stretch is a foot: its
+              // stretches leave columns out, and a field's label stands in the column before it
     Buttons,  // the row of push buttons, on the right
     Heading,  // a title text
     Note,     // a quiet explaining text, wrapped

@@ -34,7 +34,7 @@ class QueryScreen : public Screen {
   Field hint{*this, "hint", "", Entry::Shown};
   Field key{*this, "key", "请输入关键字"};
   Action search{*this, "search", "搜索", "search"}, clearAll{*this, "clearAll", "清空重来", "eraser"},
-      confirm{*this, "confirm", "确认", "check"}, cancel{*this, "cancel", "返回", "undo-2"};
+      confirm{*this, "confirm", "确认", "check"}, cancel{*this, "cancel", "返回", "arrow-left"};
 
  protected:
   // The own conditions in the order of the chain; nothing when one was refused, and the person told why.

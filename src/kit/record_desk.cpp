@@ -24,7 +24,7 @@ RecordDesk::RecordDesk(Screen& screen, Desk& desk, const RecordDeskPlan& what, c
     action.onPress([this, &one] { one.act(desk_, filter_); });
   }
   if (!plan.emptying) return;
-  clearAll.emplace(screen, prefix + "clearAll", "清空", "eraser");
+  clearAll.emplace(screen, prefix + "clearAll", "清空", "trash");
   clearAll->onPress([this] { empty(); });
 }
 

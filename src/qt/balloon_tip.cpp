@@ -2,7 +2,6 @@
 
 #include <QGuiApplication>
 #include <QPainter>
-#include <QPainterPath>
 #include <QScreen>
 
 namespace qt {
@@ -28,13 +27,14 @@ void BalloonTip::popUp(const QRect& target) {
   const int left = qBound(area.left(), target.center().x() - 24, qMax(area.left(), area.right() - width()));
   tail_ = qBound(16, target.center().x() - left, width() - 16);
   move(left, tailAbove_ ? target.bottom() : target.top() - height());
+  // Without a compositor what is translucent is black: the window itself has the balloon's shape.
+  setMask(QRegion(shape().toFillPolygon().toPolygon())
+              .united(QRegion(shape().translated(1, 1).toFillPolygon().toPolygon())));
   show();
   raise();
 }
 
-void BalloonTip::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
+QPainterPath BalloonTip::shape() const {
   const QRectF body =
       QRectF(rect()).adjusted(0.5, tailAbove_ ? tailHeight : 0.5, -0.5, tailAbove_ ? -0.5 : -tailHeight);
   QPainterPath balloon, tail;
@@ -42,11 +42,19 @@ void BalloonTip::paintEvent(QPaintEvent*) {
   const qreal edge = tailAbove_ ? body.top() : body.bottom();
   tail.addPolygon(
       QPolygonF({{tail_ - 7.0, edge}, {qreal(tail_), tailAbove_ ? 0.5 : height() - 0.5}, {tail_ + 7.0, edge}}));
+  return balloon.united(tail);
+}
+
+void BalloonTip::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(Qt::black, 1));
   painter.setBrush(balloonYellow);
-  painter.drawPath(balloon.united(tail));
+  painter.drawPath(shape());
   painter.setPen(Qt::black);
-  painter.drawText(body.adjusted(padding, padding, -padding + 1, -padding), wrap, text_);
+  painter.drawText(QRectF(rect()).adjusted(padding, padding + (tailAbove_ ? tailHeight : 0), -padding,
+                                           -padding - (tailAbove_ ? 0 : tailHeight)),
+                   wrap, text_);
 }
 
 }  // namespace qt

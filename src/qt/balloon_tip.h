@@ -1,6 +1,7 @@
 // A yellow balloon with black text that points at a button.
 #pragma once
 
+#include <QPainterPath>
 #include <QWidget>
 
 namespace qt {
@@ -12,6 +13,7 @@ class BalloonTip : public QWidget {
   const QString& text() const { return text_; }
 
  protected:
+  QPainterPath shape() const;
   void paintEvent(QPaintEvent* event) override;
 
  private:

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QStyleOptionFrame>
 #include <QToolButton>
 #include <algorithm>
@@ -99,6 +100,10 @@ void keepInStep(QLineEdit& edit, kit::Field& field, Renderer& renderer) {
     }
     edit.setAlignment((field.rightAligned ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     colour(edit, field);
+    if (edit.property("recedes").toBool() != field.recedes()) {
+      edit.setProperty("recedes", field.recedes());
+      edit.style()->polish(&edit);
+    }
   };
   renderer.follow(field, show);
   QObject::connect(&edit, &QLineEdit::textEdited, &renderer, [&field, show](const QString& text) {

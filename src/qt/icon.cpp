@@ -41,6 +41,10 @@ class TintedEngine : public QIconEngine {
 
 }  // namespace
 
+QColor usualColour(const QString& name) { return name.startsWith("trash") ? theme::stop : theme::accent; }
+
+QIcon icon(const QString& name) { return icon(name, usualColour(name)); }
+
 QIcon icon(const QString& name, const QColor& colour) {
   keepIcons();
   QFile file(pathOf(name));

@@ -11,7 +11,9 @@
 namespace qt {
 
 // A null icon for an empty or unknown name.
-QIcon icon(const QString& name, const QColor& colour = theme::accent);
+QColor usualColour(const QString& name);  // red when what it stands for destroys something
+QIcon icon(const QString& name);
+QIcon icon(const QString& name, const QColor& colour);
 QPixmap iconPixmap(const QString& name, int size, qreal deviceRatio, const QColor& colour = theme::accent);
 
 }  // namespace qt

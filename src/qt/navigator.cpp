@@ -23,7 +23,10 @@ void QtNavigator::run(kit::Screen& screen) {
   const QPointer<QWidget> below = QApplication::activeWindow();
   ScreenWindow window(screen, views_);
   window.setWindowModality(Qt::ApplicationModal);
-  window.setWindowFlag(Qt::Dialog);
+  // No button that makes it small: the windows below would look dead.
+  window.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                        Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint |
+                        (window.windowFlags() & Qt::FramelessWindowHint));
   window.winId();  // makes the native window, so that it can be told which one it belongs to
   if (below && below->windowHandle()) window.windowHandle()->setTransientParent(below->windowHandle());
   QEventLoop loop;

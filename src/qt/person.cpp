@@ -1,15 +1,18 @@
 #include "qt/person.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLayout>
 #include <QMessageBox>
 #include <QPointer>
+#include <QStandardPaths>
 #include <QTimer>
 
 #include "qt/icon.h"
 #include "qt/quiet_words.h"
+#include "qt/remembered.h"
 #include "qt/text.h"
 #include "qt/xp_button.h"
 
@@ -98,10 +101,14 @@ QString dialogFilter(const std::string& filter) {
 }
 
 std::optional<std::string> QtPerson::chooseFile(const std::string& title, const std::string& filter) {
-  const QString path =
-      QFileDialog::getOpenFileName(QApplication::activeWindow(), title.empty() ? programName_ : toQt(title), {},
-                                   dialogFilter(filter), nullptr, QFileDialog::DontUseNativeDialog);
+  const QString key = "files/chosen";
+  const QString usual = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+  const QString last = remembered().value(key, usual).toString();
+  const QString path = QFileDialog::getOpenFileName(
+      QApplication::activeWindow(), title.empty() ? programName_ : toQt(title),
+      QDir(last).exists() ? last : QDir::homePath(), dialogFilter(filter), nullptr, QFileDialog::DontUseNativeDialog);
   if (path.isEmpty()) return std::nullopt;
+  remembered().setValue(key, QFileInfo(path).absolutePath());
   return fromQt(path);
 }
 

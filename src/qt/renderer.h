@@ -14,6 +14,7 @@
 
 class QAction;
 class QBoxLayout;
+class QGridLayout;
 class QLabel;
 class QMenu;
 
@@ -62,6 +63,7 @@ class Renderer : public QObject {
   QWidget* group(const kit::Node& node);
   QWidget* tabs(const kit::Node& node);
   QWidget* lines(const kit::Node& node);
+  void foot(QGridLayout& grid, int line, const kit::Nodes& cells);
   QWidget* buttons(const kit::Node& node);
   QWidget* custom(const kit::Node& node);
   QWidget* member(const kit::Node& node);

@@ -248,6 +248,16 @@ QWidget* Renderer::tabs(const Node& node) {
   return tabs;
 }
 
+// What the lines come to, below the columns that it sums up.
+void Renderer::foot(QGridLayout& grid, int line, const kit::Nodes& cells) {
+  for (int column = 0; column < static_cast<int>(cells.size()); ++column) {
+    const Node& cell = cells[static_cast<std::size_t>(column)];
+    if (cell.kind == Node::Kind::Stretch) continue;
+    grid.addWidget(label(static_cast<kit::Field&>(*cell.member)), line, column - 1, Qt::AlignRight | Qt::AlignVCenter);
+    grid.addWidget(sized(cell), line, column);
+  }
+}
+
 QWidget* Renderer::lines(const Node& node) {
   auto* holder = new QFrame(&nursery_);
   holder->setProperty("role", "lines");
@@ -265,6 +275,10 @@ QWidget* Renderer::lines(const Node& node) {
   for (const Node& child : node.children) {
     ++line;
     column = 0;
+    if (!child.children.empty() && child.children.front().kind == Node::Kind::Stretch) {
+      foot(*grid, line, child.children);
+      continue;
+    }
     int wished = 2 * groupMargin - grid->horizontalSpacing();
     auto& walked = grid_.emplace_back();
     for (const Node& cell : child.children) {

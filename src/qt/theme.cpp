@@ -45,6 +45,7 @@ QLineEdit:focus, QPlainTextEdit:focus { border: 2px solid #0f6268; padding: 2px 
 QLineEdit:disabled, QPlainTextEdit:disabled { background: #e2efef; border-color: #b9d3d3; }
 QLineEdit[shown="true"] { background: transparent; border: 1px solid transparent; border-bottom-color: #b0cbcb;
   border-radius: 0; padding: 1px 2px; }
+QLineEdit[recedes="true"]:!focus { background: transparent; border-color: #b9d3d3; }
 QLineEdit[cell="true"] { border-radius: 2px; }
 QGroupBox { border: 1px solid #b0cbcb; border-radius: 6px; margin-top: 10px; padding: 10px 4px 3px 4px;
   background: rgba(255, 255, 255, 90); }

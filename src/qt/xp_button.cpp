@@ -149,7 +149,7 @@ void XPButton::PrintB(State state) {
 
 QPixmap XPButton::shownPicture() const {
   if (icon_.isEmpty()) return picture_;
-  const QColor colour = !isEnabled() ? theme::faint : default_ ? QColor(Qt::white) : theme::accent;
+  const QColor colour = !isEnabled() ? theme::faint : default_ ? QColor(Qt::white) : usualColour(icon_);
   return iconPixmap(icon_, style_ == PictureAbove ? iconSideAbove : iconSide, devicePixelRatioF(), colour);
 }
 

@@ -19,7 +19,7 @@ class ScopeScreen : public kit::Screen {
   kit::Field from{*this, "from", "起始日期", kit::Entry::Date}, to{*this, "to", "截止日期", kit::Entry::Date};
   kit::Field xq{*this, "xq", "请选择学年学期", kit::Entry::Pick},
       sfxm{*this, "sfxm", "请选择收费项目", kit::Entry::Pick};
-  kit::Action confirm{*this, "confirm", "确认", "check"}, cancel{*this, "cancel", "返回", "undo-2"};
+  kit::Action confirm{*this, "confirm", "确认", "check"}, cancel{*this, "cancel", "返回", "arrow-left"};
 
  protected:
   enum Scope { School, Major, Class, Student };

@@ -41,7 +41,7 @@ class Formkh : public kit::Screen {  // 学校经营情况统计分析
   kit::List list;
   kit::Field month_total{*this, "month_total", "本期合计", kit::Entry::Shown},
       year_total{*this, "year_total", "累计合计", kit::Entry::Shown};
-  kit::Action print{*this, "print", "打印", "printer"}, back{*this, "back", "返回", "undo-2"};
+  kit::Action print{*this, "print", "打印", "printer"}, back{*this, "back", "返回", "arrow-left"};
 
  private:
   void show();

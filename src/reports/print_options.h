@@ -12,7 +12,7 @@ class PrintOptions : public kit::Screen {
   kit::Layout layout() override;
 
   kit::Choice what;
-  kit::Action print{*this, "print", "打印", "printer"}, back{*this, "back", "返回", "undo-2"};
+  kit::Action print{*this, "print", "打印", "printer"}, back{*this, "back", "返回", "arrow-left"};
 
  protected:
   struct Option {

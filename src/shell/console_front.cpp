@@ -128,7 +128,7 @@ ArrearsFrame::ArrearsFrame(kit::Screen& screen, kit::Desk& desk)
       list(screen, "arrears_list", arrearsColumns),
       bar(screen, "arrears_bar", "", kit::Entry::Shown),
       due(screen, "due", "今日到期", "calendar-clock"),
-      back(screen, "arrears_back", "返回", "undo-2"),
+      back(screen, "arrears_back", "返回", "arrow-left"),
       desk_(desk) {
   list.setTip("双击查看交费统计信息");
   due.setTip("单击查看全校到期应交欠费记录");

@@ -33,9 +33,9 @@ struct ConsoleMenu {
 
   // The toolbar.
   kit::Action k1{s, "k1", "前台设置", "settings"}, k2{s, "k2", "学籍资料", "graduation-cap"},
-      k3{s, "k3", "交费记录", "receipt"}, k4{s, "k4", "欠费应交", "clock-alert"}, k5{s, "k5", "新生添加", "user-plus"},
-      k20{s, "k20", "集中收费", "users"}, k11{s, "k11", "住宿安排", "bed"}, k7{s, "k7", "打印报表", "printer"},
-      k8{s, "k8", "数据导出", "file-spreadsheet"}, k9{s, "k9", "数据清空", "trash-2"},
+      k3{s, "k3", "交费记录", "receipt-japanese-yen"}, k4{s, "k4", "欠费应交", "clock-alert"},
+      k5{s, "k5", "新生添加", "user-plus"}, k20{s, "k20", "集中收费", "users"}, k11{s, "k11", "住宿安排", "bed"},
+      k7{s, "k7", "打印报表", "printer"}, k8{s, "k8", "数据导出", "file-spreadsheet"}, k9{s, "k9", "数据清空", "trash"},
       k6{s, "k6", "收费提交", "upload"}, k10{s, "k10", "关闭系统", "log-out"};
 
   // 快捷菜单 of the card's payments.

@@ -27,7 +27,7 @@ class Formzct1 : public kit::Screen {  // 交费信息统计
                   {" 交费项目名称", "", kit::Format::Text, 8},
                   {" 交费金额", "", kit::Format::Padded, 6},
                   {"次数", "", kit::Format::Text, 3}}};
-  kit::Action back{*this, "back", "返回", "undo-2"};
+  kit::Action back{*this, "back", "返回", "arrow-left"};
 
  private:
   void addSums();

@@ -24,7 +24,7 @@ class Formtb : public kit::Screen {  // 学生调班转班事务处理窗口
   kit::Frame students{*this, "students", ""};
   std::deque<kit::Check> boxes;
   kit::Action tickAll{*this, "tickAll", "全选"}, confirm{*this, "confirm", "确认", "check"},
-      back{*this, "back", "返回", "undo-2"};
+      back{*this, "back", "返回", "arrow-left"};
   kit::Timer timer{*this, "timer", std::chrono::milliseconds(100)};
 
  private:

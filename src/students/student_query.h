@@ -35,7 +35,7 @@ class Formzctxscx : public kit::Screen {  // 学生学籍资料查询设置
   kit::Field hint{*this, "hint", "", kit::Entry::Shown};
   kit::Field value{*this, "value", "查询内容", kit::Entry::Pick};
   kit::Field from{*this, "from", "起始日期", kit::Entry::Date}, to{*this, "to", "到", kit::Entry::Date};
-  kit::Action confirm{*this, "confirm", "确认", "check"}, cancel{*this, "cancel", "返回", "undo-2"};
+  kit::Action confirm{*this, "confirm", "确认", "check"}, cancel{*this, "cancel", "返回", "arrow-left"};
   std::optional<kit::Filter> answer;
 
  private:

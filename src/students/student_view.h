@@ -33,7 +33,7 @@ class Formzctxsll : public kit::Screen {  // 学生学籍资料浏览
   kit::Field yhkh{*this, "yhkh", "信用卡号", kit::Entry::Shown};
   kit::Field bz{*this, "bz", "备注", kit::Entry::Memo};
   kit::Picture xp{*this, "xp"};
-  kit::Action back{*this, "back", "返回", "x"};
+  kit::Action back{*this, "back", "返回", "arrow-left"};
 
  private:
   void saveNotes();

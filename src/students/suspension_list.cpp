@@ -24,7 +24,7 @@ const kit::RecordDeskPlan plan{
                 {"休学日期", "xxsj", Format::Date, 8},
                 {"复课日期", "fksj", Format::Date, 8}},
     .buttons = {{"add", "休学", "plus", Mode::Add},
-                {"resume", "复课", "pencil", Mode::Modify, "不存在需要复课的休学记录！  ", {kit::Resume}},
+                {"resume", "复课", "user-check", Mode::Modify, "不存在需要复课的休学记录！  ", {kit::Resume}},
                 {"remove", "删除", "trash-2", Mode::Delete, "不存在需要删除的记录！  ", {kit::SuspensionDelete}}},
     .queryBy = {kit::SuspensionQuery},
     .others = {{"print", "打印", "printer", {kit::SuspensionQuery}, reports::printing(reports::Print::Suspensions)},

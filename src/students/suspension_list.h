@@ -21,7 +21,7 @@ class Formxxfk : public kit::Screen {  // 学生休学复课管理前台
   kit::Layout layout() override;
 
   kit::RecordDesk suspensions;
-  kit::Action back{*this, "back", "返回", "undo-2"};
+  kit::Action back{*this, "back", "返回", "arrow-left"};
 };
 
 }  // namespace students

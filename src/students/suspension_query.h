@@ -12,7 +12,7 @@ class Formxxfk2 : public kit::Screen {  // 休学复课记录查询设置
   kit::Layout layout() override;
 
   kit::Field bjmc{*this, "bjmc", "院校班级", kit::Entry::Pick}, xm{*this, "xm", "学生姓名", kit::Entry::Pick};
-  kit::Action confirm{*this, "confirm", "确认", "check"}, cancel{*this, "cancel", "返回", "undo-2"};
+  kit::Action confirm{*this, "confirm", "确认", "check"}, cancel{*this, "cancel", "返回", "arrow-left"};
   std::optional<kit::Filter> answer;
 };
 

@@ -13,7 +13,7 @@ class Formyhxx : public kit::Screen {  // 用户管理
 
   kit::RecordDesk users;
   kit::Action &add = users.button("add"), &modify = users.button("modify"), &remove = users.button("remove");
-  kit::Action back{*this, "back", "返回", "undo-2"};
+  kit::Action back{*this, "back", "返回", "arrow-left"};
 };
 
 }  // namespace upkeep

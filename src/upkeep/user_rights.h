@@ -30,7 +30,7 @@ class Formyhxx1 : public kit::Screen {  // 用户权限设置
   kit::Field yhxm{*this, "yhxm", "用户姓名", kit::Entry::Pick};
   std::deque<kit::Check> boxes;                                                      // in the order of the groups
   kit::Check* box(int right) { return byNumber_[static_cast<std::size_t>(right)]; }  // null: no box of that number
-  kit::Action save{*this, "XPButton2", "保存", "check"}, back{*this, "back", "返回", "undo-2"};
+  kit::Action save{*this, "XPButton2", "保存", "check"}, back{*this, "back", "返回", "arrow-left"};
 
  private:
   void enableAll(bool on);

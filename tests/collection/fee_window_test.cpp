@@ -140,6 +140,7 @@ TEST(FeeWindow, ArrearsModeShowsTheOpenRowsAndBack) {
   EXPECT_EQ(shown(w), "2026-9-14|学费|380.00|x|380.00\n2026-9-15|住宿费|300.00|o|\n");
   EXPECT_EQ(shown({&w.totalDue, &w.totalPaid, &w.jffs, &w.xm}), "680.00|380.00|现金|王小明");
   EXPECT_EQ(w.arrearsMode.caption() + "|" + w.allLines.caption(), "正常收费|全部选择");
+  EXPECT_EQ(w.difference.text() + "|" + w.already.text(), "300.00|本学期尚未交费；欠费 2 笔，共 680.00 元");
   EXPECT_EQ(shown(*desk.window()), standards) << "another window starts in the normal mode";
   EXPECT_EQ(shown(*desk.window(false)), shown(w));
   EXPECT_NE(w.modeHeading.text(), normalHeading);

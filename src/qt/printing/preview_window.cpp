@@ -22,6 +22,7 @@
 #include "qt/printing/page_view.h"
 #include "qt/printing/paper_question.h"
 #include "qt/printing/print_settings.h"
+#include "qt/remembered.h"
 #include "qt/text.h"
 #include "qt/xp_button.h"
 
@@ -228,13 +229,17 @@ void PreviewWindow::offerPdf() {
 }
 
 void PreviewWindow::savePdfAs() {
-  const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  // The folder is made first: a dialog that opens in none opens in the program's own.
+  QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  const QString kept = remembered().value("files/pdf", folder.filePath("收据")).toString();
+  if (folder.mkpath(kept)) folder.cd(kept);
   QString path = QFileDialog::getSaveFileName(this, "另存为 PDF", folder.filePath(toQt(drawing_.title) + ".pdf"),
                                               "PDF 文件 (*.pdf)");
   if (path.isEmpty()) return;
   if (!path.endsWith(".pdf", Qt::CaseInsensitive)) path += ".pdf";
   try {
     savePdf(drawing_, path.toStdString());
+    remembered().setValue("files/pdf", QFileInfo(path).absolutePath());
     note("已保存：" + QDir::toNativeSeparators(path));
   } catch (const platform::PlatformError& error) {
     QMessageBox::critical(this, "错误提示", toQt(error.what()));
