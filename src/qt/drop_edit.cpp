@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTextCharFormat>
@@ -124,6 +125,17 @@ void dropCalendar(QLineEdit& below, QDate at, std::function<void(const QString&)
   calendar->setGridVisible(false);
   calendar->setMinimumDate(QDate(100, 1, 1));
   calendar->setMaximumDate(QDate(9999, 12, 31));
+  // "2008 十一月", as a date is read here; the widget has it the other way round.
+  auto* month = calendar->findChild<QWidget*>("qt_calendar_monthbutton");
+  auto* year = calendar->findChild<QWidget*>("qt_calendar_yearbutton");
+  auto* bar = month ? qobject_cast<QBoxLayout*>(month->parentWidget()->layout()) : nullptr;
+  if (bar && year) {
+    bar->removeWidget(year);
+    bar->insertWidget(bar->indexOf(month), year);
+  }
+  auto* today = std::make_unique<QPushButton>("今天", calendar).release();
+  today->setFlat(true);
+  calendar->layout()->addWidget(today);
   QTextCharFormat weekday;
   weekday.setForeground(theme::accent);
   calendar->setHeaderTextFormat(weekday);
@@ -135,6 +147,7 @@ void dropCalendar(QLineEdit& below, QDate at, std::function<void(const QString&)
     chosen(toQt(base::Date{date.year(), date.month(), date.day()}.plain()));
   };
   QObject::connect(calendar, &QCalendarWidget::clicked, popup, take);
+  QObject::connect(today, &QPushButton::clicked, popup, [take] { take(QDate::currentDate()); });
   QObject::connect(calendar, &QCalendarWidget::activated, popup, [popup, take](QDate date) {
     if (popup->isVisible()) take(date);
   });

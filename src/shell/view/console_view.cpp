@@ -15,7 +15,7 @@
 namespace shell {
 namespace {
 
-constexpr int classPanelWidth = 380;
+constexpr int classPanelWidth = 380, edge = 6;
 constexpr int cardWidth = 400, leastCard = 368, sharingWidth = 200, leastSharing = 110;
 constexpr int smallScreen = 1600;
 
@@ -62,7 +62,9 @@ class ConsoleArea : public QWidget {
       : console_(console), front_(front), covers_(std::move(covers)), classes_(classes), strip_(strip) {
     for (QWidget* part : parts()) part->setParent(this);
     for (QWidget* cover : covers_) cover->installEventFilter(this);
-    classes_->setStyleSheet("#classes { background: " + qt::theme::panel.name() + "; }");
+    // Its title stands within it: a margin above would let shine through what lies below.
+    classes_->setStyleSheet("#classes { background: " + qt::theme::panel.name() +
+                            "; margin-top: 0; padding-top: 26px; }");
     strip_->installEventFilter(this);
     front_->installEventFilter(this);
   }
@@ -70,7 +72,7 @@ class ConsoleArea : public QWidget {
  protected:
   void resizeEvent(QResizeEvent*) override {
     front_->setGeometry(rect());
-    for (QWidget* cover : covers_) cover->setGeometry(rect());
+    for (QWidget* cover : covers_) cover->setGeometry(rect().adjusted(edge, edge, -edge, -edge));
     classes_->setGeometry(0, 0, classPanelWidth, height());
     for (QWidget* cover : covers_) cover->raise();
     classes_->raise();
@@ -137,7 +139,7 @@ QWidget* buildConsole(kit::Screen& screen, const kit::Node& node, qt::Renderer& 
 
   auto* front = new QWidget;
   auto* row = new QHBoxLayout(front);
-  row->setContentsMargins(0, 6, 6, 6);
+  row->setContentsMargins(0, edge, edge, edge);
   row->addWidget(strip);
   row->addWidget(panes, 1);
   return new ConsoleArea(console, front, {parts[5], parts[6], parts[7]}, classes, strip);
