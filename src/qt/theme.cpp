@@ -92,12 +92,12 @@ QCheckBox::indicator { width: 13px; height: 13px; border: 1px solid #5a8586; bor
 QCheckBox::indicator:checked { image: url(:/icons/check.svg); }
 QCheckBox::indicator:disabled { border-color: #b9d3d3; background: #e2efef; }
 QCheckBox::indicator:hover { border-color: #0f6268; }
-QCheckBox:focus::indicator { border: 2px solid #0f6268; width: 11px; height: 11px; }
+QCheckBox::indicator:focus { border: 2px solid #0f6268; width: 11px; height: 11px; }
 QRadioButton::indicator { width: 13px; height: 13px; border: 1px solid #5a8586; border-radius: 7px; background: #ffffff; }
 QRadioButton::indicator:checked { background: qradialgradient(cx:0.5, cy:0.5, radius:0.5, fx:0.5, fy:0.5,
   stop:0 #0f6268, stop:0.55 #0f6268, stop:0.65 #ffffff, stop:1 #ffffff); }
 QRadioButton::indicator:disabled { border-color: #b9d3d3; }
-QRadioButton:focus::indicator { border: 2px solid #0f6268; width: 11px; height: 11px; }
+QRadioButton::indicator:focus { border: 2px solid #0f6268; width: 11px; height: 11px; }
 QPushButton { background: #f7fbfb; border: 1px solid #5a8586; border-radius: 4px; padding: 5px 14px; min-width: 60px; }
 QPushButton:hover { border-color: #0f6268; background: #ddf0ef; }
 QPushButton:pressed { background: #c4dedd; }
