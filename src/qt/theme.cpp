@@ -80,7 +80,7 @@ QMenu::item:selected { background: #0f6268; color: white; }
 QMenu::item:disabled { color: #869c9f; background: transparent; }
 QMenu::separator { height: 1px; background: #d5e4e4; margin: 4px 8px; }
 QToolBar { background: #e3f1f1; border: none; border-bottom: 1px solid #b0cbcb; padding: 3px 6px; spacing: 2px; }
-QToolBar QToolButton { border: 1px solid transparent; border-radius: 5px; padding: 4px 10px; color: #1b2a2e; }
+QToolBar QToolButton { border: 1px solid transparent; border-radius: 5px; padding: 4px 7px; color: #1b2a2e; }
 QToolBar QToolButton:hover { background: #ffffff; border-color: #b0cbcb; }
 QToolBar QToolButton:pressed { background: #cbe6e5; }
 QToolBar QToolButton:disabled { color: #869c9f; }

@@ -60,6 +60,8 @@ Names tabOrder(const QWidget& window, const std::set<std::string>& known) {
   return order;
 }
 
+constexpr int fewWords = 60;  // of a long name the end may be left out
+
 bool tooSmall(const QWidget& widget) {
   const auto* label = qobject_cast<const QLabel*>(&widget);
   if (label && label->text().isEmpty()) return false;
@@ -68,7 +70,8 @@ bool tooSmall(const QWidget& widget) {
     return edit->height() < edit->fontMetrics().height() + 2;
   const auto* button = qobject_cast<const QAbstractButton*>(&widget);
   if (label || (button && !button->text().isEmpty() && !widget.objectName().startsWith("qt_")))
-    return widget.width() < widget.sizeHint().width() || widget.height() < widget.sizeHint().height() - 2;
+    return widget.width() < widget.sizeHint().width() || widget.height() < widget.sizeHint().height() - 2 ||
+           (button && widget.width() < qMin(fewWords, widget.fontMetrics().horizontalAdvance(button->text())));
   if (const auto* box = qobject_cast<const QGroupBox*>(&widget))
     return box->width() < box->fontMetrics().horizontalAdvance(box->title()) + 24;
   if (const auto* bar = qobject_cast<const QTabBar*>(&widget))

@@ -9,8 +9,8 @@ kit::Layout Formzctsf7::layout() {
   for (std::size_t first = 0; first < cells.size(); first += across) {
     Nodes line;
     for (std::size_t index = first; index < first + across && index < cells.size(); ++index) {
-      line.push_back(wide(cells[index].tick, 7));
-      line.push_back(wide(cells[index].je, 5));
+      line.push_back(wide(cells[index].tick, 6));
+      line.push_back(wide(cells[index].je, 4));
     }
     grid.push_back(row(std::move(line)));
   }
@@ -21,7 +21,7 @@ kit::Layout Formzctsf7::layout() {
           }),
           .confirm = &confirm,
           .cancel = &back,
-          .width = 1350,
+          .width = 1240,
           .height = 710};
 }
 

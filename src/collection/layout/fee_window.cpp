@@ -10,8 +10,8 @@ kit::Layout Formzctsf4::layout() {
   grid.push_back(row({stretch(), stretch(), wide(totalDue, 8), stretch(), wide(totalPaid, 8)}));
   grid.push_back(row({stretch(), stretch(), stretch(), stretch(), wide(difference, 8)}));
   return {.root = column({
-              group("学生与收据", {form({wide(xh, 10), wide(xm, 10), wide(rxrq, 8), wide(rxxs, 10), wide(bjmc, 14),
-                                         wide(xq, 12), wide(jfrq, 8), wide(jffs, 10)},
+              group("学生与收据", {form({wide(xh, 10), wide(xm, 10), wide(rxrq, 8), wide(rxxs, 7), wide(bjmc, 11),
+                                         wide(xq, 10), wide(jfrq, 8), wide(jffs, 7)},
                                         4),
                                    already}),
               row({modeHeading, stretch(), arrearsMode, allLines}),
