@@ -17,6 +17,8 @@ Formzctsf4::Formzctsf4(kit::Desk& all, FeeWindowFor given)
       current_xh(std::move(given.current_xh)),
       fee_normal_mode(given.fee_normal_mode) {
   xq.setTip("新学期收费，请在此修改");
+  arrearsMode.setTip("勾选：补交欠费；取消勾选：正常收费");
+  allLines.setTip("勾选：按应交金额填入各项；取消勾选：清空各项");
   confirm.enable(false);
   arrearsEntry.enable(false);
   allLines.enable(false);

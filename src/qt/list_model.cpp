@@ -184,6 +184,8 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::DisplayRole) return shown(listRow(index.row()), column);
   if (role == Qt::TextAlignmentRole)
     return QVariant::fromValue(Qt::AlignVCenter | (isAmount(list_.columns()[column]) ? Qt::AlignRight : Qt::AlignLeft));
+  if (role == Qt::ForegroundRole)
+    if (const QColor colour = theme::meaning(shown(listRow(index.row()), column)); colour.isValid()) return colour;
   if (role == Qt::BackgroundRole && isFresh(listRow(index.row()))) return theme::fresh;
   return {};
 }

@@ -137,6 +137,12 @@ QFont faceFont(platform::Face face, double points) {
   return font;
 }
 
+QColor theme::meaning(const QString& word) {
+  if (word == "不足") return QColor(138, 84, 0);
+  if (word == "休学" || word == "休学中" || word.startsWith("已中断")) return stop;
+  return {};
+}
+
 namespace {
 const QString pointsKey = "text/points";
 }

@@ -39,6 +39,10 @@ constexpr int pointSize = 10, leastPoints = 9, mostPoints = 14;
 QFont faceFont(platform::Face face, double points);
 
 // Width of so many Chinese characters.
+namespace theme {
+QColor meaning(const QString& word);  // of a word that asks for attention in a list; none of others
+}
+
 // The size of all text, kept on this computer. Windows that stand are built anew by whoever changes it.
 int textPoints();
 void setTextPoints(int points);

@@ -68,6 +68,7 @@ Formkh::Formkh(kit::Desk& all, Income income)
             {"所在班级", "", Format::Padded, 10},
             {"交费所属学期", "", Format::Padded, 10}}),
       income_(std::move(income)) {
+  list.setTip("各列依次为：收费项目、序号、本月金额、全年金额");  // the headings are those of the office's old book
   previous.link = next.link = true;
   previous.setTip("前一个月");
   next.setTip("后一个月");

@@ -23,8 +23,8 @@ double contrast(const QColor& one, const QColor& other) {
 
 // The colour that the style sheet gives a property of a selector.
 QColor styled(const QString& selector, const QString& property) {
-  const QRegularExpression rule("(?:^|\\n)" + QRegularExpression::escape(selector) + "[^{}]*\\{[^}]*?[{;\\s]" + property +
-                                ":[^;]*(#[0-9a-f]{6})");
+  const QRegularExpression rule("(?:^|\\n)" + QRegularExpression::escape(selector) + "[^{}]*\\{[^}]*?[{;\\s]" +
+                                property + ":[^;]*(#[0-9a-f]{6})");
   return QColor(rule.match(qApp->styleSheet()).captured(1));
 }
 
