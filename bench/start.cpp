@@ -42,7 +42,7 @@ int program(int argc, char** argv, const char* folder) {
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   qt::applyTheme(application);
-  app::Office office(folder);
+  app::Office office(app::DataFolder{folder});
   PaintedOnce painted;
   office.windows().onShown = [&](qt::ScreenWindow& window) {
     if (window.objectName() == "Formcsh5") window.installEventFilter(&painted);
