@@ -2,9 +2,14 @@
 # Its sources see only the rooms that they may depend on: each room has an include folder of its own with links to
 # itself and to those, so that a forbidden include does not compile.
 
-set(WARNINGS -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor -Woverloaded-virtual -Werror
-    # GCC 12 sees overlaps and overflows in optimised text + text that are not there, also through compiled headers.
-    -Wno-restrict -Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread)
+# The program is made by GCC, its tests by Clang, which compiles them in half the time: both look at every line.
+set(WARNINGS -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # GCC 12 sees overlaps and overflows in optimised text + text that are not there, also through compiled headers.
+  list(APPEND WARNINGS -Wshadow=local -Wno-restrict -Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread)
+else()
+  list(APPEND WARNINGS -Wno-deprecated-declarations)  # of GCC 12's own library
+endif()
 
 function(include_tree target out)
   set(tree ${CMAKE_BINARY_DIR}/include/${target})

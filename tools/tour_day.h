@@ -3,6 +3,6 @@
 
 #include <filesystem>
 
-// Plays the day in the school's program folder; pictures and files come into the other one, numbered on. Gives back the
-// number of differences found in the database, or -1 when the program ended before the day did.
-int playDay(const std::filesystem::path& school, const std::filesystem::path& pictures, int& numbered);
+// Plays the day in the school's program folder; pictures and files come into the other one, numbered on. Whether the
+// day was played to its end; what the database then holds is checked.
+bool playDay(const std::filesystem::path& school, const std::filesystem::path& pictures, int& numbered);

@@ -47,7 +47,17 @@ void send(QWidget& entry, const QString& text) {
   }
 }
 
+int wrong = 0;
+
 }  // namespace
+
+void check(const char* what, const std::string& found, const std::string& expected) {
+  if (found == expected) return;
+  ++wrong;
+  std::fprintf(stderr, "tour: %s is %s, expected %s\n", what, found.c_str(), expected.c_str());
+}
+
+int differences() { return wrong; }
 
 void append(Steps& steps, Steps more) { steps.insert(steps.end(), more.begin(), more.end()); }
 

@@ -21,6 +21,10 @@ Step said(const std::string& part, bool yes = true);  // a message box whose tex
 Steps logIn(const std::string& user);
 Steps leave();
 
+// A difference is told at once and counted.
+void check(const char* what, const std::string& found, const std::string& expected);
+int differences();
+
 class Player : public QObject {
  public:
   Player(std::vector<Step> steps, std::string pictures, int numberedFrom = 0);

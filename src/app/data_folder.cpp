@@ -46,7 +46,7 @@ bool makeOffice(kit::Person& person, const fs::path& folder) {
     store::createWhenNew(folder);
     return true;
   } catch (const store::StoreError& error) {
-    person.tell(kit::Box::Stop, error.what(), "错误提示");
+    person.tell(kit::Box::Stop, error.what(), kit::wrongInput);
     return false;
   }
 }

@@ -19,7 +19,7 @@ Office::Office(const DataFolder& folder)
 
 void Office::tell(const std::exception_ptr& fault) {
   progress_.hide();
-  person_.tell(kit::Box::Stop, kit::faultText(fault, kit::savedPerhaps), "错误提示");
+  person_.tell(kit::Box::Stop, kit::faultText(fault, kit::savedPerhaps), kit::wrongInput);
 }
 
 int Office::run() {

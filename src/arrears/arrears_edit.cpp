@@ -37,7 +37,6 @@ void Formqf::load() {
 }
 
 bool Formqf::valid() {
-  const char* const fault = "错误提示";
   const char* const noDate = "欠费日期不能为空 ！     ";
   const char* const badDate = "欠费日期数据有误，应该是：yyyy-mm-dd 格式 ！     ";
   const auto unknownState = [this] {
@@ -48,18 +47,19 @@ bool Formqf::valid() {
     return [this, &field] { return !clfs.blank() && field.blank(); };
   };
   // All three dates are refused in the words of the first: the operators know the message.
-  return kit::holds(desk.person, {{&qfrq, kit::blank(qfrq), noDate, fault},
-                                  {&qfrq, kit::notDate(qfrq), badDate, fault},
-                                  {&bjrq, kit::blank(bjrq), noDate, fault},
-                                  {&bjrq, kit::notDate(bjrq), badDate, fault},
-                                  {&sbjrq, kit::filledNotDate(sbjrq), badDate, fault},
-                                  {&bjje, kit::filledNotAmount(bjje), "补交金额应该是数字 ！     ", fault},
-                                  {&sbjje, kit::filledNotAmount(sbjje), "实交金额应该是数字 ！     ", fault},
-                                  {&clfs, unknownState, "处理进度只能以“结清”“不足”“减免”来表示 ！  ", "操作提示"},
-                                  {&sbjrq, missingWithState(sbjrq), "实交日期不能为空！    ", fault},
-                                  {&sbjje, missingWithState(sbjje), "实交金额不能为空！    ", fault},
-                                  {&lsh, kit::blank(lsh), "记录标识号不能为空！    ", fault},
-                                  {&lsh, kit::holdsQuote(lsh), "记录标识号中不能含有单引号（'）！    ", fault}});
+  return kit::holds(desk.person,
+                    {{&qfrq, kit::blank(qfrq), noDate, kit::wrongInput},
+                     {&qfrq, kit::notDate(qfrq), badDate, kit::wrongInput},
+                     {&bjrq, kit::blank(bjrq), noDate, kit::wrongInput},
+                     {&bjrq, kit::notDate(bjrq), badDate, kit::wrongInput},
+                     {&sbjrq, kit::filledNotDate(sbjrq), badDate, kit::wrongInput},
+                     {&bjje, kit::filledNotAmount(bjje), "补交金额应该是数字 ！     ", kit::wrongInput},
+                     {&sbjje, kit::filledNotAmount(sbjje), "实交金额应该是数字 ！     ", kit::wrongInput},
+                     {&clfs, unknownState, "处理进度只能以“结清”“不足”“减免”来表示 ！  ", "操作提示"},
+                     {&sbjrq, missingWithState(sbjrq), "实交日期不能为空！    ", kit::wrongInput},
+                     {&sbjje, missingWithState(sbjje), "实交金额不能为空！    ", kit::wrongInput},
+                     {&lsh, kit::blank(lsh), "记录标识号不能为空！    ", kit::wrongInput},
+                     {&lsh, kit::holdsQuote(lsh), "记录标识号中不能含有单引号（'）！    ", kit::wrongInput}});
 }
 
 void Formqf::modify() {

@@ -65,7 +65,7 @@ void Formqfcl::load() {
 }
 
 void Formqfcl::findByNumber() {
-  if (xh.blank()) return stop("学号不能为空！     ", "错误提示");
+  if (xh.blank()) return stop("学号不能为空！     ", kit::wrongInput);
   store::RecordSet student = school::loadStudent(desk.store, xh.trimmed());
   if (student.empty()) return inform("检测不到该学号对应的相关记录，请检查学号输入是否正确！    ", "信息提示");
   take(student);

@@ -7,12 +7,10 @@
 
 namespace arrears {
 
-constexpr const char* fault = "错误提示";
-
 bool Formqfcl::sameNumber() {
   const std::string inUse = base::trim(given_.current_xh);
   if (xh.trimmed() == inUse) return true;
-  if (askStop("学号已被修改，不能录入！是否还原该生正确的学号 ？     ", fault)) xh.set(inUse);
+  if (askStop("学号已被修改，不能录入！是否还原该生正确的学号 ？     ", kit::wrongInput)) xh.set(inUse);
   else xh.focus();
   return false;
 }
@@ -20,18 +18,19 @@ bool Formqfcl::sameNumber() {
 std::vector<kit::Rule> Formqfcl::rules() {
   std::vector<kit::Rule> all;
   const auto amountRule = [&](kit::Field& field, const char* text) {
-    all.push_back({&field, kit::filledNotAmount(field), text, fault});
+    all.push_back({&field, kit::filledNotAmount(field), text, kit::wrongInput});
   };
   for (DebtLine& line : lines)
     all.push_back({&line.sfxm, kit::longerThan(line.sfxm, 20),
-                   "收费项目不能超过20个字符，请双击收费项目栏进行正确的选择！    ", fault});
+                   "收费项目不能超过20个字符，请双击收费项目栏进行正确的选择！    ", kit::wrongInput});
   for (DebtLine& line : lines) amountRule(line.total, "欠费总额应该是数字 ！     ");
   for (std::size_t place = 0; place < 3; ++place)
     for (DebtLine& line : lines) amountRule(line.instalments[place].amount, "补交金额应该是数字 ！     ");
   for (std::size_t place = 0; place < 3; ++place)
     for (DebtLine& line : lines) {
       kit::Field& date = line.instalments[place].date;
-      all.push_back({&date, kit::filledNotDate(date), "补交日期格式不正确，请输入正确的格式 yyyy-m-d  ！  ", fault});
+      all.push_back(
+          {&date, kit::filledNotDate(date), "补交日期格式不正确，请输入正确的格式 yyyy-m-d  ！  ", kit::wrongInput});
     }
   // Compared as binary floats and to the last bit, as this office has always had it: 0.10 and 0.20 do not make 0.30
   // here, and the operator splits such a total otherwise.
@@ -39,17 +38,17 @@ std::vector<kit::Rule> Formqfcl::rules() {
     all.push_back(
         {&line.total,
          [&line] { return line.amount(0) + line.amount(1) + line.amount(2) != base::leadingNumber(line.total.text()); },
-         "分期补交累计金额不等于欠费总额！       ", fault});
+         "分期补交累计金额不等于欠费总额！       ", kit::wrongInput});
   const auto ofAll = [this](auto test) {
     return [this, test] { return std::all_of(lines.begin(), lines.end(), test); };
   };
   all.push_back({&lines[0].sfxm, ofAll([](const DebtLine& line) { return line.sfxm.blank(); }),
-                 "收费项目名称不能为空 ！       ", fault});
+                 "收费项目名称不能为空 ！       ", kit::wrongInput});
   all.push_back({&xh, [this] { return xh.blank() || xm.blank() || bjmc.blank() || xq.blank(); },
-                 "学生姓名等相关信息不能为空 ！       ", fault});
+                 "学生姓名等相关信息不能为空 ！       ", kit::wrongInput});
   all.push_back({&lines[0].total,
                  ofAll([](const DebtLine& line) { return base::leadingNumber(line.total.text()) == 0; }),
-                 "欠费总额不能为零 ！       ", fault});
+                 "欠费总额不能为零 ！       ", kit::wrongInput});
   return all;
 }
 

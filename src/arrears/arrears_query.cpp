@@ -12,8 +12,6 @@ using store::Sql;
 
 namespace {
 
-constexpr const char* fault = "错误提示";
-
 const kit::QueryPlan plan{
     "qfjl",
     "qfrq",
@@ -91,7 +89,7 @@ std::optional<PaymentQuestion> Formqfcl11::asked(QuestionFields& fields) {
   PaymentQuestion question{fields.bjmc.trimmed(), fields.xq.trimmed(), fields.sfxm.trimmed(),
                            base::Date::parse(fields.from.trimmed()), base::Date::parse(fields.to.trimmed())};
   const auto refuse = [&](const char* text) {
-    stop(text, fault);
+    stop(text, kit::wrongInput);
     (fields.from.blank() ? fields.from : fields.to).focus();
     return std::nullopt;
   };
@@ -119,8 +117,8 @@ void Formqfcl11::showUnpaid() {
 }
 
 void Formqfcl11::showCompared() {
-  if (!kit::holds(desk.person, {{&due, kit::blank(due), "应交金额不能为空！ ", fault},
-                                {&due, kit::notAmount(due), "应交金额应该是数字，请重新输入！ ", fault}}))
+  if (!kit::holds(desk.person, {{&due, kit::blank(due), "应交金额不能为空！ ", kit::wrongInput},
+                                {&due, kit::notAmount(due), "应交金额应该是数字，请重新输入！ ", kit::wrongInput}}))
     return;
   const auto question = asked(compared);
   if (!question) return;

@@ -23,7 +23,7 @@ std::optional<int> Formqfcl3::import() {
 void Formqfcl3::proceed() {
   if (chosen_.item && base::blank(*chosen_.item)) {
     close();
-    return stop("请设置要导入的收费项目！ ", "错误提示");
+    return stop("请设置要导入的收费项目！ ", kit::wrongInput);
   }
   const std::optional<int> count = import();
   close();

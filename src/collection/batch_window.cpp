@@ -140,7 +140,7 @@ bool Formzctsf7::valid() {
       rules.push_back({&cell.je, kit::filledNotAmount(cell.je), "收费金额应该是数字      ", "操作提示"});
   for (kit::Field* field : {&sfxm, &xq, &person})
     rules.push_back({field, kit::blank(*field), "学年学期等输入项不能为空      ", "操作提示"});
-  rules.push_back({&jfrq, kit::notDate(jfrq), "日期格式不对,应该为 yyyy-m-d ！       ", "错误提示"});
+  rules.push_back({&jfrq, kit::notDate(jfrq), "日期格式不对,应该为 yyyy-m-d ！       ", kit::wrongInput});
   return kit::holds(desk.person, rules);
 }
 

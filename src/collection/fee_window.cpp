@@ -173,7 +173,7 @@ void Formzctsf4::showAlready() {
 // True when the amount can stand.
 bool Formzctsf4::completeAmount(FeeLine& line) {
   if (kit::filledNotAmount(line.paid)()) {
-    stop("金额应该是数字，请输入数字 ！    ", "错误提示");
+    stop("金额应该是数字，请输入数字 ！    ", kit::wrongInput);
     line.paid.clear();
     line.paid.focus();
     return false;

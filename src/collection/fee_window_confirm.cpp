@@ -59,14 +59,14 @@ bool Formzctsf4::valid() {
   const auto nothingPaid = [this] { return totalPaid.money().zero(); };
   const std::vector<kit::Rule> rules = {
       {&xh, kit::longerThan(xh, 20), "学号不能超过20个字符 ！       ", "操作提示"},
-      {&xh, kit::blank(xh), "学号不能为空 ！       ", "错误提示"},
+      {&xh, kit::blank(xh), "学号不能为空 ！       ", kit::wrongInput},
       {&xm, kit::longerThan(xm, 20), "姓名不能超过20个字符 ！       ", "操作提示"},
-      {&xm, kit::blank(xm), "姓名不能为空 ！       ", "错误提示"},
+      {&xm, kit::blank(xm), "姓名不能为空 ！       ", kit::wrongInput},
       {&xq, kit::longerThan(xq, 20), "学年学期不能超过20个字符 ！       ", "操作提示"},
-      {&xq, kit::blank(xq), "学年学期不能为空 ！       ", "错误提示"},
-      {&jfrq, kit::blank(jfrq), "交费日期不能为空 ！       ", "错误提示"},
-      {&jfrq, kit::notDate(jfrq), "日期格式不对,应该为 yyyy-m-d ！       ", "错误提示"},
-      {&jffs, kit::blank(jffs), "交费方式不能为空 ！       ", "错误提示"},
+      {&xq, kit::blank(xq), "学年学期不能为空 ！       ", kit::wrongInput},
+      {&jfrq, kit::blank(jfrq), "交费日期不能为空 ！       ", kit::wrongInput},
+      {&jfrq, kit::notDate(jfrq), "日期格式不对,应该为 yyyy-m-d ！       ", kit::wrongInput},
+      {&jffs, kit::blank(jffs), "交费方式不能为空 ！       ", kit::wrongInput},
       {&jffs, kit::longerThan(jffs, 30), "交费方式不能超过30个字符 ！       ", "操作提示"},
       {&lines[0].paid, nothingPaid, "收费总额不能为零 ！     ", "操作提示", kit::Box::Warning},
   };

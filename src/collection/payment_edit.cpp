@@ -36,23 +36,23 @@ void Formzctsf1::shown(store::RecordSet&) {
 
 std::vector<kit::Rule> Formzctsf1::rules() {
   if (EditMode == kit::Mode::Delete) return {};
-  const char* const fault = "错误提示";
   const auto noMark = [this] {
     const bool other = !sftj.blank() && sftj.trimmed() != "*";
     if (other) sftj.clear();
     return other;
   };
   return {
-      {&xq, kit::longerThan(xq, 20), "学年学期不能超过20个字符！   ", fault},
-      {&xq, kit::blank(xq), "学年学期不能为空！   ", fault},
-      {&jfrq, kit::blank(jfrq), "交费日期不能为空！   ", fault},
-      {&jfrq, kit::notDate(jfrq), "交费日期格式不正确，应为“yyyy-m-d”格式！   ", fault},
-      {&sfxm, kit::longerThan(sfxm, 20), "收费项目名称不能超过20个字符！   ", fault},
+      {&xq, kit::longerThan(xq, 20), "学年学期不能超过20个字符！   ", kit::wrongInput},
+      {&xq, kit::blank(xq), "学年学期不能为空！   ", kit::wrongInput},
+      {&jfrq, kit::blank(jfrq), "交费日期不能为空！   ", kit::wrongInput},
+      {&jfrq, kit::notDate(jfrq), "交费日期格式不正确，应为“yyyy-m-d”格式！   ", kit::wrongInput},
+      {&sfxm, kit::longerThan(sfxm, 20), "收费项目名称不能超过20个字符！   ", kit::wrongInput},
       // What does not begin with a number reads as zero.
-      {&je, [this] { return je.money().zero(); }, "收费金额不能为零，如必需为零，您可以删除该记录！   ", fault},
-      {&je, kit::notAmount(je), "收费金额必须是数字！   ", fault},
-      {&sftj, noMark, "已提交只能是“*”，未提交为空！不能为其它字符！   ", fault},
-      {&skr, kit::longerThan(skr, 20), "收款人姓名不能超过20个字符！   ", fault},
+      {&je, [this] { return je.money().zero(); }, "收费金额不能为零，如必需为零，您可以删除该记录！   ",
+       kit::wrongInput},
+      {&je, kit::notAmount(je), "收费金额必须是数字！   ", kit::wrongInput},
+      {&sftj, noMark, "已提交只能是“*”，未提交为空！不能为其它字符！   ", kit::wrongInput},
+      {&skr, kit::longerThan(skr, 20), "收款人姓名不能超过20个字符！   ", kit::wrongInput},
   };
 }
 

@@ -19,8 +19,6 @@ const kit::QueryPlan plan{
      "%' or jffs like  '%", "%' or sfxm like  '%", "%' or rxxs like  '%", "%' or fpbh like  '%"},
     "%'"};
 
-constexpr const char* fault = "错误提示";
-
 }  // namespace
 
 Formzctsf31::Formzctsf31(kit::Desk& all) : QueryScreen(all, "Formzctsf31", "打开交费记录信息设置", plan) {
@@ -48,7 +46,7 @@ std::vector<kit::Field*> Formzctsf31::conditionFields() {
 std::optional<std::vector<Condition>> Formzctsf31::conditions() {
   if (from.blank() != to.blank()) {
     stop(to.blank() ? "日期是一个区间值,您需要设置截止日期！      " : "日期是一个区间值,您需要设置起始日期！      ",
-         fault);
+         kit::wrongInput);
     (to.blank() ? to : from).focus();
     return std::nullopt;
   }

@@ -41,13 +41,13 @@ void Formszbjzl::proposeClass() {
 
 std::vector<kit::Rule> Formszbjzl::rules() {
   kit::Field* empty = zymc.blank() ? &zymc : bjdh.blank() ? &bjdh : &bjmc;
-  return {{&zymc, kit::longerThan(zymc, 30), "专业名称不能大于30个字符 ！　　", "错误提示"},
-          {&bjdh, kit::longerThan(bjdh, 10), "班级代号不能大于10个字符 ！　　", "错误提示"},
-          {&bjmc, kit::longerThan(bjmc, 50), "班级名称不能大于50个字符 ！　　", "错误提示"},
-          {&jsxm, kit::longerThan(jsxm, 20), "教师姓名不能大于20个字符 ！　　", "错误提示"},
+  return {{&zymc, kit::longerThan(zymc, 30), "专业名称不能大于30个字符 ！　　", kit::wrongInput},
+          {&bjdh, kit::longerThan(bjdh, 10), "班级代号不能大于10个字符 ！　　", kit::wrongInput},
+          {&bjmc, kit::longerThan(bjmc, 50), "班级名称不能大于50个字符 ！　　", kit::wrongInput},
+          {&jsxm, kit::longerThan(jsxm, 20), "教师姓名不能大于20个字符 ！　　", kit::wrongInput},
           {empty, [this] { return zymc.blank() || bjdh.blank() || bjmc.blank(); },
-           "专业名称、班级代号及班级名称三项不能为空 ！　　", "错误提示"},
-          {&bjdh, kit::notNumeric(bjdh), "班级代号应该是数字 ！     ", "错误提示"},
+           "专业名称、班级代号及班级名称三项不能为空 ！　　", kit::wrongInput},
+          {&bjdh, kit::notNumeric(bjdh), "班级代号应该是数字 ！     ", kit::wrongInput},
           noQuote(bjmc)};
 }
 

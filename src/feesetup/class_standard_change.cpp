@@ -46,7 +46,7 @@ void Formszsfbz2::save() {
 
 void Formszsfbz2::saveAmount() {
   const auto amount = [this] { return after.money(); };
-  if (!kit::holds(desk.person, {{&after, kit::notAmount(after), "收费金额应为数字！   ", "错误提示"},
+  if (!kit::holds(desk.person, {{&after, kit::notAmount(after), "收费金额应为数字！   ", kit::wrongInput},
                                 {&after, [&] { return amount().zero(); },
                                  "收费额为零时，您完全可以删除该条记录，使用时再设置！   ", "操作提示"}}))
     return;
@@ -67,7 +67,7 @@ void Formszsfbz2::saveAmounts() {
 
 // The rows that the grid shows: with a class picked in its filter, the rows of that class alone.
 void Formszsfbz2::saveTerm() {
-  if (!kit::holds(desk.person, {{&after, kit::blank(after), "新的学年学期不能为空！     ", "错误提示"}})) return;
+  if (!kit::holds(desk.person, {{&after, kit::blank(after), "新的学年学期不能为空！     ", kit::wrongInput}})) return;
   if (!ask("此操作将修改系统中所有收费项目的学年学期信息，您确认继续吗？   ", "批修改提示")) return;
   kit::setEach(desk.store, shown_, "xq", after.trimmed());
   done("记录批修改成功！     ");

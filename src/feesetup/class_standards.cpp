@@ -66,16 +66,16 @@ void Formszsfbz::showScope() {
 
 bool Formszsfbz::valid() {
   kit::Field* empty = xq.blank() ? &xq : sfxmmc.blank() ? &sfxmmc : &je;
-  return kit::holds(
-      desk.person,
-      {{&xq, kit::longerThan(xq, 30), "学年学期不能大于30个字符 ！　　", "错误提示"},
-       {&sfxmmc, kit::longerThan(sfxmmc, 30), "班级代号不能大于30个字符 ！　　", "错误提示"},  // known to operators so
-       {&selection, kit::longerThan(selection, 30), "班级名称不能大于30个字符 ！　　", "错误提示"},
-       {empty, [this] { return xq.blank() || sfxmmc.blank() || je.blank(); },
-        "学年学期、收费项目及收费金额不能为空 ！　　", "错误提示"},
-       {&selection, [this] { return scope.chosen() != allClasses && selection.blank(); }, "请选择一个专业或班级 ！　　",
-        "错误提示"},
-       {&je, kit::notAmount(je), "收费金额应该是数字 ！     ", "错误提示"}});
+  return kit::holds(desk.person,
+                    {{&xq, kit::longerThan(xq, 30), "学年学期不能大于30个字符 ！　　", kit::wrongInput},
+                     {&sfxmmc, kit::longerThan(sfxmmc, 30), "班级代号不能大于30个字符 ！　　",
+                      kit::wrongInput},  // known to operators so
+                     {&selection, kit::longerThan(selection, 30), "班级名称不能大于30个字符 ！　　", kit::wrongInput},
+                     {empty, [this] { return xq.blank() || sfxmmc.blank() || je.blank(); },
+                      "学年学期、收费项目及收费金额不能为空 ！　　", kit::wrongInput},
+                     {&selection, [this] { return scope.chosen() != allClasses && selection.blank(); },
+                      "请选择一个专业或班级 ！　　", kit::wrongInput},
+                     {&je, kit::notAmount(je), "收费金额应该是数字 ！     ", kit::wrongInput}});
 }
 
 // The screen stays open, so that several items can be set in a row.

@@ -12,7 +12,7 @@ Formszrxxs::Formszrxxs(kit::Desk& all, const kit::Editing& editing)
     : RecordEdit(all, "Formszrxxs", "学生入学形式设置", "rxxs", editing) {}
 
 std::vector<kit::Rule> Formszrxxs::rules() {
-  return {{&rxxs, kit::blank(rxxs), "录入项不能为空！        ", "错误提示"}, noQuote(rxxs)};
+  return {{&rxxs, kit::blank(rxxs), "录入项不能为空！        ", kit::wrongInput}, noQuote(rxxs)};
 }
 
 std::vector<kit::Rule> Formszrxxs::guards() {

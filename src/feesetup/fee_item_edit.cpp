@@ -22,11 +22,11 @@ void Formszsfxm::propose() {
 
 std::vector<kit::Rule> Formszsfxm::rules() {
   return {{&sfxmbh, [this] { return base::length(sfxmbh.trimmed()) != 3; },
-           "收费项目编号为3个字符,您让它默认就可以 ！　　", "错误提示"},
-          {&sfxmmc, kit::longerThan(sfxmmc, 30), "收费项目名称不能大于30个字符 ！　　", "错误提示"},
+           "收费项目编号为3个字符,您让它默认就可以 ！　　", kit::wrongInput},
+          {&sfxmmc, kit::longerThan(sfxmmc, 30), "收费项目名称不能大于30个字符 ！　　", kit::wrongInput},
           {&sfxmmc, [this] { return sfxmbh.blank() || sfxmmc.blank(); }, "收费项目编号与收费项目名称均不能为空 ！　　",
-           "错误提示"},
-          {&sfxmbh, kit::notNumeric(sfxmbh), "请输入数字 ！     ", "错误提示"},
+           kit::wrongInput},
+          {&sfxmbh, kit::notNumeric(sfxmbh), "请输入数字 ！     ", kit::wrongInput},
           noQuote(sfxmmc)};
 }
 

@@ -76,15 +76,15 @@ std::string Formszsfbz3::standing() {
 
 std::vector<kit::Rule> Formszsfbz3::rules() {
   const auto noAmount = [this] { return std::ranges::all_of(lines, [](auto& line) { return line.je.blank(); }); };
-  std::vector<kit::Rule> all{{&xq, kit::longerThan(xq, 30), "学年学期不能大于30个字符 ！　　", "错误提示"},
-                             {&rxxs, kit::longerThan(rxxs, 50), "入学形式不能大于50个字符 ！　　", "错误提示"},
+  std::vector<kit::Rule> all{{&xq, kit::longerThan(xq, 30), "学年学期不能大于30个字符 ！　　", kit::wrongInput},
+                             {&rxxs, kit::longerThan(rxxs, 50), "入学形式不能大于50个字符 ！　　", kit::wrongInput},
                              {xq.blank() ? &xq : &rxxs, [this] { return xq.blank() || rxxs.blank(); },
-                              "学年学期及入学形式均不能为空 ！　　", "错误提示"},
-                             {&lines.front().je, noAmount, "收费标准至少您需要设置一个以上 ！　　", "错误提示"}};
+                              "学年学期及入学形式均不能为空 ！　　", kit::wrongInput},
+                             {&lines.front().je, noAmount, "收费标准至少您需要设置一个以上 ！　　", kit::wrongInput}};
   for (StandardLine& line : lines) {
-    all.push_back({&line.je, kit::filledNotAmount(line.je), "收费标准应该是数字 ！     ", "错误提示"});
+    all.push_back({&line.je, kit::filledNotAmount(line.je), "收费标准应该是数字 ！     ", kit::wrongInput});
     all.push_back({&line.sfxmmc, [&line] { return !line.je.blank() && line.sfxmmc.blank(); },
-                   "第" + line.place.text() + "项没有定义收费项目！      ", "错误提示"});
+                   "第" + line.place.text() + "项没有定义收费项目！      ", kit::wrongInput});
   }
   return all;
 }

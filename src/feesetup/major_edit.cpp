@@ -20,11 +20,11 @@ void Formszzymc::propose() {
 }
 
 std::vector<kit::Rule> Formszzymc::rules() {
-  return {{&zybh, kit::longerThan(zybh, 5), "专业编号不能大于五个字符 ！　　", "错误提示"},
-          {&zymc, kit::longerThan(zymc, 30), "专业名称不能大于30个字符 ！　　", "错误提示"},
+  return {{&zybh, kit::longerThan(zybh, 5), "专业编号不能大于五个字符 ！　　", kit::wrongInput},
+          {&zymc, kit::longerThan(zymc, 30), "专业名称不能大于30个字符 ！　　", kit::wrongInput},
           {zybh.blank() ? &zybh : &zymc, [this] { return zybh.blank() || zymc.blank(); },
-           "专业编号与专业名称均不能为空 ！　　", "错误提示"},
-          {&zybh, kit::notNumeric(zybh), "请输入数字 ！     ", "错误提示"},
+           "专业编号与专业名称均不能为空 ！　　", kit::wrongInput},
+          {&zybh, kit::notNumeric(zybh), "请输入数字 ！     ", kit::wrongInput},
           noQuote(zymc)};
 }
 

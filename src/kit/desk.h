@@ -19,6 +19,8 @@ namespace kit {
 class Screen;
 struct Desk;
 
+inline constexpr const char* wrongInput = "错误提示";  // the title of what refuses an entry
+
 // The kinds of message box; the program has no others.
 enum class Box { Stop = 16, Warning = 48, Information = 64, Ask = 36, AskStop = 20, AskWarning = 52, AskInfo = 68 };
 

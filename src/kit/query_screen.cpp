@@ -54,7 +54,7 @@ void QueryScreen::offer(Field& field, std::string_view column, std::function<Sql
 }
 
 bool QueryScreen::refuseDate(Field& field) {
-  stop("日期格式不正确,应该是 yyyy-m-d 格式！      ", "错误提示");
+  stop("日期格式不正确,应该是 yyyy-m-d 格式！      ", kit::wrongInput);
   field.focus();
   return false;
 }

@@ -97,7 +97,7 @@ bool RecordEdit::agreed(const std::vector<Question>& questions) {
 }
 
 Rule RecordEdit::noQuote(Field& field) {
-  return {&field, [this, &field] { return changed(field) && holdsQuote(field)(); }, quoteRefused, "错误提示"};
+  return {&field, [this, &field] { return changed(field) && holdsQuote(field)(); }, quoteRefused, kit::wrongInput};
 }
 
 void RecordEdit::modify() {

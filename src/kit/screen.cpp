@@ -86,7 +86,7 @@ bool Screen::attempt(const Handler& step, bool tells) {
   if (fault.empty()) return true;
   faultOf([] {});        // reads that the fault left under way
   desk.progress.hide();  // the message would stand below it
-  if (tells) desk.person.tell(Box::Stop, fault, "错误提示");
+  if (tells) desk.person.tell(Box::Stop, fault, kit::wrongInput);
   return false;
 }
 

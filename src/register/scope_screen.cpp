@@ -44,20 +44,20 @@ void ScopeScreen::showChoice() {
 }
 
 bool ScopeScreen::valid() {
-  const char* const fault = "错误提示";
   const char* const badDate = "日期格式不正确,应该是 yyyy-m-d 格式！      ";
   const auto missing = [this](int wanted, const Field& field) {
     return [this, wanted, &field] { return scope.chosen() == wanted && field.blank(); };
   };
   const bool byDate = period.chosen() == ByDate;
   const auto badDay = [byDate](const Field& day) { return [byDate, &day] { return byDate && notDate(day)(); }; };
-  return holds(desk.person, {{&of, missing(Major, of), "请选择专业！     ", fault},
-                             {&of, missing(Class, of), "请选择一个班级！     ", fault},
-                             {&xh, [this] { return scope.chosen() == Student && xh.blank() && xm.blank(); },
-                              "请输入学号或姓名！学号具有唯一性，建议用学号查询！     ", fault},
-                             {&from, badDay(from), badDate, fault},
-                             {&to, badDay(to), badDate, fault},
-                             {&xq, [this, byDate] { return !byDate && xq.blank(); }, "请选择学年学期！     ", fault}});
+  return holds(desk.person,
+               {{&of, missing(Major, of), "请选择专业！     ", kit::wrongInput},
+                {&of, missing(Class, of), "请选择一个班级！     ", kit::wrongInput},
+                {&xh, [this] { return scope.chosen() == Student && xh.blank() && xm.blank(); },
+                 "请输入学号或姓名！学号具有唯一性，建议用学号查询！     ", kit::wrongInput},
+                {&from, badDay(from), badDate, kit::wrongInput},
+                {&to, badDay(to), badDate, kit::wrongInput},
+                {&xq, [this, byDate] { return !byDate && xq.blank(); }, "请选择学年学期！     ", kit::wrongInput}});
 }
 
 Layout ScopeScreen::scopeLayout(Nodes between) {

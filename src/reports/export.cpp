@@ -84,7 +84,7 @@ void tooMany(kit::Desk& desk, long long total) {
   desk.person.tell(Box::Stop,
                    "需要导出的记录共 " + std::to_string(total) + " 条，超过一张表最多 " + std::to_string(mostRows) +
                        " 条的限制，没有导出任何记录。\n请先用查询缩小范围（如按班级、学期或日期），再分几次导出。",
-                   "错误提示");
+                   kit::wrongInput);
 }
 
 void show(kit::Desk& desk, const std::string& title, const std::filesystem::path& file, long long total) {

@@ -74,7 +74,7 @@ void Formzct::showSchool() { setTitle(desk.session.SchoolName + "综合管理系
 void Formzct::showToday() { third.set("今天是 " + desk.clock.today().chinese()); }
 
 void Formzct::wireMenu() {
-  const auto opens = [this](kit::Action& entry, auto open) { entry.onPress(open); };
+  const auto opens = [](kit::Action& entry, auto open) { entry.onPress(open); };
   opens(cd11, [this] { open<reports::Formkh1>(); });
   opens(cd13, [this] { leaveProgram(); });
   opens(cd14, [this] { open<students::Formtb>(); });

@@ -66,7 +66,7 @@ void Formzct::findByNumber() {
   }
   if (!base::isNumeric(number)) {
     clearCard();
-    stop("学号应该是数字，请重新输入！    ", "错误提示");
+    stop("学号应该是数字，请重新输入！    ", kit::wrongInput);
     return card.xh.focus();
   }
   found(number, "找不到相关记录，请检查学号输入是否正确！    ");

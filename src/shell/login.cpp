@@ -111,7 +111,7 @@ void Formcsh5::refuse(const std::string& name) {
   secondsToWait_ = std::min(longest, 1 << std::min(wrongTries_[base::upper(name)]++, doublings));
   waitOn();
   second.start();
-  stop(" 密码不对，请重新输入 ！       ", "错误提示");
+  stop(" 密码不对，请重新输入 ！       ", kit::wrongInput);
   yhmm.clear();
   yhmm.focus();
 }

@@ -210,7 +210,8 @@ Statistics arrearsStatistics(store::Store& store, base::Date today) {
     const bool waived = state == "减免";
     OfClass& one = groups[row.text("bjmc")];
     // As the list of open arrears sees it, for which nothing can be said of a column that was never set.
-    if (paid < due && !waived && state.data() && !row.get("sbjje").isNull() && !row.get("bjje").isNull()) {
+    const auto isSet = [&](const char* column, Money sum) { return !sum.zero() || !row.get(column).isNull(); };
+    if (paid < due && !waived && state.data() && isSet("sbjje", paid) && isSet("bjje", due)) {
       one.open = true;
       one.owed.add(row.text("xh"));
       one.owed.balance += due - paid;

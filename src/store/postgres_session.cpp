@@ -48,7 +48,7 @@ void PostgresSession::ready() {
 
 bool PostgresSession::schemaStands() {
   const Parameters table{{link_.place().schema + ".catalogue_version"}};
-  return textOf(exchange({{"select to_regclass($1)", "", &table}})[0]) != "";
+  return !textOf(exchange({{"select to_regclass($1)", "", &table}})[0]).empty();
 }
 
 // Two desks may come at the same moment: the slower one is refused and finds the schema standing.

@@ -62,9 +62,9 @@ std::string wordsFor(Fault fault, const std::string& file) {
 struct Close {
   void operator()(sqlite3* connection) const { sqlite3_close_v2(connection); }
 };
-using Connection = std::unique_ptr<sqlite3, Close>;
+using Handle = std::unique_ptr<sqlite3, Close>;
 
-int openFile(const SqliteFile& file, Connection& connection) {
+int openFile(const SqliteFile& file, Handle& connection) {
   const std::string name = file.path.empty() ? ":memory:" : file.path.string();
   const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE | (file.create ? SQLITE_OPEN_CREATE : 0);
   sqlite3* opened = nullptr;
@@ -79,7 +79,7 @@ int openFile(const SqliteFile& file, Connection& connection) {
 // there is no row.
 struct FreshLook {
   FreshLook(const SqliteFile& file, const char* sql, const std::string& value = "") {
-    Connection connection;
+    Handle connection;
     code = openFile(file, connection);
     sqlite3_stmt* statement = nullptr;
     if (code == SQLITE_OK) code = sqlite3_prepare_v2(connection.get(), sql, -1, &statement, nullptr);
@@ -136,7 +136,7 @@ struct Link {
   const std::string name;
   WaitingSign sign;
   Wait wait;
-  Connection connection;
+  Handle connection;
 };
 
 class SqliteStatement final : public Statement {

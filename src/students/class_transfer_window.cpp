@@ -63,7 +63,7 @@ bool Formtb::refuseSameClass() {
   if (toClass.blank() || toClass.text() != fromClass.text()) return false;
   toClass.clear();
   showTarget();
-  stop("调班操作不能选择同一个班级！    ", "错误提示");
+  stop("调班操作不能选择同一个班级！    ", kit::wrongInput);
   return true;
 }
 

@@ -117,7 +117,7 @@ void Formzctxs::takeClass() {
 
 void Formzctxs::takeIdentity() {
   const Identity identity = deriveFromIdentity(sfzhm.text());
-  if (!identity.warning.empty()) stop(identity.warning, "错误提示");
+  if (!identity.warning.empty()) stop(identity.warning, kit::wrongInput);
   if (identity.csrq) csrq.set(*identity.csrq);
   if (identity.xb) xb.set(*identity.xb);
   sfzhm.set(identity.number);

@@ -157,9 +157,9 @@ void Formzctxscx::query() {
     return dates && !(base::Date::parse(from.trimmed()) && base::Date::parse(to.trimmed()));
   };
   const std::vector<kit::Rule> rules = {
-      {&way, [&] { return chosen == nullptr; }, "请选择一种查询方式 ！     ", "错误提示"},
-      {&first, kit::blank(first), "请设置参数值,您也可以进行选择 ！     ", "错误提示"},
-      {&from, badDates, "日期格式不正确，应该是 yyyy-m-d 格式！   ", "错误提示"}};
+      {&way, [&] { return chosen == nullptr; }, "请选择一种查询方式 ！     ", kit::wrongInput},
+      {&first, kit::blank(first), "请设置参数值,您也可以进行选择 ！     ", kit::wrongInput},
+      {&from, badDates, "日期格式不正确，应该是 yyyy-m-d 格式！   ", kit::wrongInput}};
   if (!kit::holds(desk.person, rules)) return;
   Sql filter;
   if (dates) {

@@ -132,7 +132,7 @@ namespace {
 
 std::optional<Refusal> taken(store::Store& store, const std::string& xh) {
   if (school::loadStudent(store, xh).empty()) return std::nullopt;
-  return Refusal{"存在相同的学号！     ", "错误提示", &Student::xh};
+  return Refusal{"存在相同的学号！     ", kit::wrongInput, &Student::xh};
 }
 
 }  // namespace

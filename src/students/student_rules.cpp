@@ -5,7 +5,6 @@
 namespace students {
 namespace {
 
-constexpr const char* fault = "错误提示";
 constexpr const char* advice = "操作提示";
 
 // The tests look at the trimmed text.
@@ -25,22 +24,22 @@ struct Rule {
 constexpr Rule rules[] = {
     {&Student::xh, longerThan<20>, "学号不能超过20个字符 ！       ", advice},
     {&Student::xh, blank, "学号是学生的唯一标识，您必须设置好学号！       ", advice},
-    {&Student::xh, notNumeric, "学号应该是数字，请输入数字 ！     ", fault},
+    {&Student::xh, notNumeric, "学号应该是数字，请输入数字 ！     ", kit::wrongInput},
     {&Student::xm, longerThan<20>, "姓名不能超过20个字符 ！       ", advice},
     {&Student::xm, blank, "姓名不能为空 ！       ", advice},
     {&Student::bjmc, longerThan<50>, "院校及班级名称不能超过50个字符 ！       ", advice},
     {&Student::bjmc, blank, "院校及班级名称不能为空 ！       ", advice},
     {&Student::mz, longerThan<20>, "民族栏不能超过20个字符 ！       ", advice},
     {&Student::sfzhm, longerThan<20>, "身份证号码不能超过20个字符 ！       ", advice},
-    {&Student::yhkh, filledNotNumeric, "信用卡号应该是数字，请输入数字 ！     ", fault},
-    {&Student::sjhm, filledNotNumeric, "手机号码应该是数字，请输入数字 ！     ", fault},
+    {&Student::yhkh, filledNotNumeric, "信用卡号应该是数字，请输入数字 ！     ", kit::wrongInput},
+    {&Student::sjhm, filledNotNumeric, "手机号码应该是数字，请输入数字 ！     ", kit::wrongInput},
     {&Student::sjhm, longerThan<20>, "手机号码一栏不能超过20个字符 ！       ", advice},
     {&Student::zzmm, longerThan<20>, "政治面貌一栏不能超过20个字符 ！       ", advice},
     {&Student::lxdh, longerThan<20>, "固定电话一栏不能超过20个字符 ！       ", advice},
     {&Student::rxxs, blank, "入学形式不能为空 ！       ", advice},
     {&Student::rxxs, longerThan<20>, "入学形式一栏不能超过20个字符 ！       ", advice},
     {&Student::jtzz, longerThan<50>, "家庭住址一栏不能超过50个字符 ！       ", advice},
-    {&Student::yzbm, filledNotNumeric, "邮政编码应该是数字，请输入数字 ！     ", fault},
+    {&Student::yzbm, filledNotNumeric, "邮政编码应该是数字，请输入数字 ！     ", kit::wrongInput},
     {&Student::yzbm, longerThan<10>, "邮政编码一栏不能超过10个字符 ！       ", advice},
     {&Student::eml, longerThan<50>, "电子邮箱一栏不能超过50个字符 ！       ", advice},
     {&Student::csrq, filledNotDate, "出生日期格式不正确，应该是：yyyy-mm-dd ！   ", advice},
@@ -57,7 +56,7 @@ std::optional<Refusal> wrongLength(store::Store& store, const std::string& numbe
   if (length == expected) return std::nullopt;
   const std::string text =
       length > expected ? "学号多" + std::to_string(length - expected) : "学号少" + std::to_string(expected - length);
-  return Refusal{text + " 位 ！   ", fault, &Student::xh, true};
+  return Refusal{text + " 位 ！   ", kit::wrongInput, &Student::xh, true};
 }
 
 }  // namespace

@@ -58,7 +58,7 @@ std::vector<kit::Rule> Formxxfk1::rules() {
   // A row without a student could be found by nobody again.
   const auto nobody = [this] { return EditMode == Mode::Add && xh.blank(); };
   return {{&xm, nobody, "请先选择班级，再选择该班级中的学生！     ", "操作提示"},
-          {&day, kit::notDate(day), "日期格式不正确，应该是 yyyy-m-d 格式！   ", "错误提示"}};
+          {&day, kit::notDate(day), "日期格式不正确，应该是 yyyy-m-d 格式！   ", kit::wrongInput}};
 }
 
 std::vector<kit::Rule> Formxxfk1::guards() {

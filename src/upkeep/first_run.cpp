@@ -13,7 +13,7 @@ Formyhxx4::Formyhxx4(kit::Desk& desk) : Screen(desk, "Formyhxx4", "系统启用�
 void Formyhxx4::save() {
   const auto empty = [this] { return yhxm.blank() || yhmm.blank(); };
   if (!kit::holds(desk.person, {{nullptr, empty, "输入项不能为空！     ", "操作提示"},
-                                {&yhxm, kit::holdsQuote(yhxm), kit::quoteRefused, "错误提示"}}))
+                                {&yhxm, kit::holdsQuote(yhxm), kit::quoteRefused, kit::wrongInput}}))
     return;
   if (!addFirstUser()) return stop("其他计算机已经设置了用户，请撤销后重新启动本系统再登录！     ", "操作提示");
   desk.session.first_user_added = true;

@@ -35,8 +35,8 @@ kit::RecordEdit::Words Formyhxx2::words() {
 bool Formyhxx2::filled() {
   return kit::holds(desk.person,
                     {{nullptr, [this] { return yhxm.blank() || yhjb.blank() || (yhmm.blank() && !hasPassword_); },
-                      "输入项均不能为空！    ", "错误提示"},
-                     {&yhxm, kit::holdsQuote(yhxm), kit::quoteRefused, "错误提示"}});
+                      "输入项均不能为空！    ", kit::wrongInput},
+                     {&yhxm, kit::holdsQuote(yhxm), kit::quoteRefused, kit::wrongInput}});
 }
 
 void Formyhxx2::add() {

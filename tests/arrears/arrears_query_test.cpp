@@ -93,8 +93,8 @@ TEST(ArrearsQuery, TheOlderScreenGivesAChainToo) {
             " where left(xtbh,2)='11' and qfrq>=#2026-9-7# and qfrq<=#2026-9-7# and clfs='不足'");
 }
 
-struct School : TestDesk {
-  explicit School(unsigned seed) {
+struct MixedSchool : TestDesk {
+  explicit MixedSchool(unsigned seed) {
     std::mt19937 random(seed);
     const auto any = [&](std::vector<const char*> values) { return values[random() % values.size()]; };
     for (int i = 0; i < 40; ++i)
@@ -121,7 +121,7 @@ TEST(Comparison, AgreesWithAStatementForEveryStudent) {
                                        {"", "", "书费", base::Date{2026, 9, 1}, base::Date{2026, 9, 30}}};
   for (unsigned seed = 1; seed <= 3; ++seed)
     for (const PaymentQuestion& question : questions) {
-      School school(seed);
+      MixedSchool school(seed);
       std::string unpaid, less, more;
       RecordSet students(school.store, question.bjmc.empty()
                                            ? Sql("select * from xs")
@@ -155,7 +155,7 @@ TEST(Comparison, AgreesWithAStatementForEveryStudent) {
 
 // Enter in the last field of a tab does what the tab is for, not what another one is.
 TEST(ArrearsQuery, EnterEndsTheTabThatItIsIn) {
-  School school(1);
+  MixedSchool school(1);
   auto s = opened<Formqfcl11>(school);
   school.person.expect(Box::Information, "相关记录不存在，请检查条件设置是否正确！    ", "信息提示");
   s->sbjrq.day.enter();
@@ -171,7 +171,7 @@ TEST(ArrearsQuery, EnterEndsTheTabThatItIsIn) {
 }
 
 TEST(Comparison, TellsThePeriodAndItsResult) {
-  School school(1);
+  MixedSchool school(1);
   auto s = opened<Formqfcl11>(school);
   const auto refused = [&](const char* text) {
     school.person.expect(Box::Stop, text, "错误提示");

@@ -45,7 +45,7 @@ std::unique_ptr<Formzctsf7> chosen(ClassDesk& desk, const std::string& item = "�
   return s;
 }
 
-std::string shown(const Formzctsf7& s) {
+std::string cellsShown(const Formzctsf7& s) {
   std::string text;
   for (const BatchCell& cell : s.cells)
     if (cell.shown()) text += (cell.tick.on() ? "x " : "o ") + cell.tick.caption() + " " + cell.je.text() + "\n";
@@ -74,7 +74,7 @@ TEST(BatchCollection, AClassPaysWithTheKeyboardAlone) {
   s->cells[1].je.type("250.5");
   s->cells[1].je.enter();
   s->cells[2].je.type("");
-  EXPECT_EQ(shown(*s), "x 王小明 300.00\nx 张三 250.5\no 李四 \n");
+  EXPECT_EQ(cellsShown(*s), "x 王小明 300.00\nx 张三 250.5\no 李四 \n");
   EXPECT_EQ(s->summary.text(), "2 人，550.50 元");
   s->cells[2].je.enter();
   EXPECT_EQ(s->focused, &s->person);
@@ -95,7 +95,7 @@ TEST(BatchCollection, AClassPaysWithTheKeyboardAlone) {
     if (const auto* text = std::get_if<platform::Text>(&mark)) printed += text->text + "|";
   EXPECT_THAT(printed, testing::HasSubstr("|交费学生人数 2 人|"));
   EXPECT_THAT(printed, testing::HasSubstr("|大写：伍佰伍拾元伍角零分|"));
-  EXPECT_EQ(shown(*s) + s->sfxm.text() + s->person.text() + s->standard.text(), "");
+  EXPECT_EQ(cellsShown(*s) + s->sfxm.text() + s->person.text() + s->standard.text(), "");
   EXPECT_FALSE(s->closed());
   EXPECT_EQ(s->focused, &s->sfxm);
 }
@@ -121,9 +121,9 @@ TEST(BatchCollection, TickAndAmountFollowEachOther) {
   cell.tick.toggle();
   EXPECT_TRUE(is(true, ""));
   s->tickAll.press();
-  EXPECT_EQ(shown(*s), "x 王小明 \nx 张三 \nx 李四 \n");
+  EXPECT_EQ(cellsShown(*s), "x 王小明 \nx 张三 \nx 李四 \n");
   s->tickAll.press();
-  EXPECT_EQ(shown(*s), "o 王小明 \no 张三 \no 李四 \n");
+  EXPECT_EQ(cellsShown(*s), "o 王小明 \no 张三 \no 李四 \n");
 }
 
 TEST(BatchCollection, ATickWithoutAnAmountWritesNoRow) {
@@ -162,7 +162,7 @@ TEST(BatchCollection, TheFirstNinetyOfALargeClassAreShown) {
   EXPECT_EQ(desk.value("select * from jfjl order by lsh desc", "lsh"), "202609070090");
   EXPECT_EQ(desk.value("select * from jfjl order by fpbh desc", "xm"), "学生90");
   s->classes.doubleClick(1);
-  EXPECT_EQ(shown(*s), "") << "the other class is empty";
+  EXPECT_EQ(cellsShown(*s), "") << "the other class is empty";
 }
 
 TEST(BatchCollection, RefusesInOrderAndWritesNothing) {

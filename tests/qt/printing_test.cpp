@@ -38,14 +38,14 @@ class Printing : public testing::Test {
   QTemporaryDir folder;
 };
 
-struct Box {
+struct Part {
   double left, top, right, bottom;  // millimetres
 };
 
 // What is darker than half within a part of the picture.
-Box ink(const QImage& image, double dotsPerInch, const Box& part) {
+Part ink(const QImage& image, double dotsPerInch, const Part& part) {
   const double dot = 25.4 / dotsPerInch;
-  Box found{1e9, 1e9, -1, -1};
+  Part found{1e9, 1e9, -1, -1};
   for (int y = std::max(0, static_cast<int>(part.top / dot)); y < std::min<double>(image.height(), part.bottom / dot);
        ++y)
     for (int x = std::max(0, static_cast<int>(part.left / dot)); x < std::min<double>(image.width(), part.right / dot);
@@ -75,8 +75,8 @@ void proveLines(const QImage& image, double dots) {
     const auto* line = std::get_if<platform::Line>(&mark);
     if (!line) continue;
     const double half = line->width / 2;
-    const Box box = ink(image, dots, {line->x1 - 2, line->y1 - 0.7 - half, line->x2 + 2, line->y2 + 0.7 + half});
-    const Box asked{line->x1 - half, line->y1 - half, line->x2 + half, line->y2 + half};
+    const Part box = ink(image, dots, {line->x1 - 2, line->y1 - 0.7 - half, line->x2 + 2, line->y2 + 0.7 + half});
+    const Part asked{line->x1 - half, line->y1 - half, line->x2 + half, line->y2 + half};
     const bool down = line->x1 == line->x2;
     const double tolerance = 0.3;
     EXPECT_NEAR((box.left + box.right) / 2, (asked.left + asked.right) / 2, tolerance) << line->x1 << " " << line->y1;
@@ -92,10 +92,11 @@ void proveLines(const QImage& image, double dots) {
 // A 国 of 40 points fills most of its square of 14.1 mm; where exactly, the densest picture says.
 void proveTexts(const QImage& image, double dots, const QImage& finest, double finestDots) {
   for (int face = 0; face < 3; ++face) {
-    const Box square{40.0 + 30 * face, 90, 40.0 + 30 * face + 14.1, 104.1};
-    const Box around{square.left - 3, square.top - 3, square.right + 3, square.bottom + 3};
-    const Box box = ink(image, dots, around), exact = ink(finest, finestDots, around);
-    for (const auto side : {&Box::left, &Box::top, &Box::right, &Box::bottom}) EXPECT_NEAR(box.*side, exact.*side, 0.3);
+    const Part square{40.0 + 30 * face, 90, 40.0 + 30 * face + 14.1, 104.1};
+    const Part around{square.left - 3, square.top - 3, square.right + 3, square.bottom + 3};
+    const Part box = ink(image, dots, around), exact = ink(finest, finestDots, around);
+    for (const auto side : {&Part::left, &Part::top, &Part::right, &Part::bottom})
+      EXPECT_NEAR(box.*side, exact.*side, 0.3);
     EXPECT_GT(exact.left, square.left - 0.3);
     EXPECT_GT(exact.top, square.top - 0.3);
     EXPECT_LT(exact.right, square.right + 0.3);
@@ -171,7 +172,7 @@ void proveColumns(const Drawing& drawing, const std::vector<double>& columns, st
       for (const double x : columns) {
         const double top = 47 + 5.0 * static_cast<double>(row);
         // Of the strip's height only the rule itself may be black, so its ink is as narrow as a rule.
-        const Box box = ink(image, dots, {x - 0.6, top + 0.6, x + 0.6, top + 4.4});
+        const Part box = ink(image, dots, {x - 0.6, top + 0.6, x + 0.6, top + 4.4});
         EXPECT_LT(box.right - box.left, 0.6) << "row " << row << " column " << x << " at " << dots;
       }
   }
@@ -206,7 +207,7 @@ TEST_F(Printing, FittedTextShrinksThenIsCutAndWrappedTextStaysWithinItsRoom) {
                {{10, 10, twelve, Face::Kai, 20, 60, true}, 70, 10 + 7.06 * 2.3}};
   for (const auto& one : cases) {
     const Drawing drawing{.title = "", .width = 210, .height = 60, .pages = {{{one.text}}}};
-    const Box box = ink(qt::renderPage(drawing, 0, 192), 192, {0, 0, 210, 60});
+    const Part box = ink(qt::renderPage(drawing, 0, 192), 192, {0, 0, 210, 60});
     EXPECT_LE(box.right, one.right + 0.3);
     EXPECT_GT(box.right, one.right - 8);
     EXPECT_LE(box.bottom, one.bottom + 0.3);
@@ -223,13 +224,13 @@ TEST_F(Printing, AlignedTextEndsOrCentresWhereItWasAskedTo) {
       marks.push_back(Text{100, 5, amount, Face::Song, 12, fit, false, platform::Align::Right});
       marks.push_back(Text{100, 25, amount, Face::Song, 12, fit, false, platform::Align::Centre});
       const QImage image = qt::renderPage(drawing, 0, 192);
-      const Box right = ink(image, 192, {0, 0, 210, 20}), centred = ink(image, 192, {0, 20, 210, 60});
+      const Part right = ink(image, 192, {0, 0, 210, 20}), centred = ink(image, 192, {0, 20, 210, 60});
       EXPECT_NEAR(right.right, 100, 0.8) << amount;
       EXPECT_NEAR((centred.left + centred.right) / 2, 100, 0.8) << amount;
       EXPECT_GE(right.left, fit > 0 ? 60 - 0.3 : 0) << amount;
       for (std::size_t i = 0; i < 2; ++i) {
         const QRectF place = qt::placeOf(std::get<Text>(marks[i]));
-        const Box& box = i == 0 ? right : centred;
+        const Part& box = i == 0 ? right : centred;
         EXPECT_NEAR(place.left(), box.left, 0.8) << amount;
         EXPECT_NEAR(place.right(), box.right, 0.8) << amount;
       }

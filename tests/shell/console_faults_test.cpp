@@ -11,8 +11,8 @@ using store::Fault;
 using support::Failures;
 using support::opened;
 
-struct School : support::School {
-  School() {
+struct FailingSchool : support::School {
+  FailingSchool() {
     session.Rights.fill(true);
     session.auto_load_lists = true;
     student("1001", "王小明", "甲班");
@@ -22,7 +22,7 @@ struct School : support::School {
 };
 
 TEST(ConsoleFaults, AnOverviewIsEmptiedBeforeItsFrameCame) {
-  School school;
+  FailingSchool school;
   auto s = opened<Formzct>(school);
   s->k2.press();
   school.person.answer(true, Box::AskStop, "您确认是要清空系统中的学籍资料吗？   ", "警告")
@@ -36,7 +36,7 @@ TEST(ConsoleFaults, AnOverviewIsEmptiedBeforeItsFrameCame) {
 }
 
 TEST(ConsoleFaults, TheLoadOnlyReadsAndTheConsoleStandsWhateverTheStoreSays) {
-  School school;
+  FailingSchool school;
   school.configure({{"sfctsz", 1}});
   const long long saved = school.store.saved();
   {
@@ -70,7 +70,7 @@ TEST(ConsoleFaults, LeavingAlwaysWorks) {
     long long computerFails;
   } cases[] = {{true, true, 0}, {false, true, 1}, {false, true, 2}, {true, false, 1}};
   for (const auto& c : cases) {
-    School school;
+    FailingSchool school;
     auto s = opened<Formzct>(school);
     const auto file = school.desktop.programFolder() / "Screen.txt";
     if (c.display) platform::writeFile(file, "800\n");

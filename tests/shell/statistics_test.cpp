@@ -17,8 +17,8 @@ using store::Sql;
 using support::opened;
 using support::TestDesk;
 
-struct School : support::School {
-  School() {
+struct CountedSchool : support::School {
+  CountedSchool() {
     session.Rights.fill(true);
     major("11", "计算机");
     major("12", "护理");
@@ -60,7 +60,7 @@ struct School : support::School {
 
 TEST(Statistics, AgreeWithAStatementForEveryLine) {
   for (const unsigned seed : {1u, 2u, 3u}) {
-    School school;
+    CountedSchool school;
     school.muddle(seed);
     const Statistics students = studentStatistics(school.store);
     const auto heads = [&](const Sql& where) {
@@ -115,7 +115,7 @@ TEST(Statistics, AgreeWithAStatementForEveryLine) {
 }
 
 TEST(Statistics, OperatorsWithNothingKeptHaveNoLine) {
-  School school;
+  CountedSchool school;
   const auto pay = [&](const char* who, const char* day, const char* je, const char* sftj = "") {
     school.add("jfjl", {{"skr", who}, {"jfrq", day}, {"je", je}, {"sftj", sftj}, {"sfxm", "学费"}});
   };
@@ -146,7 +146,7 @@ std::unique_ptr<Formzct> console(TestDesk& desk, kit::Action Formzct::*entry, Ov
 }
 
 TEST(Statistics, ALineOfStudentsOpensItsClass) {
-  School school;
+  CountedSchool school;
   for (const char* xb : {"男", "男", "女"})
     school.add("xs", {{"xh", "1"}, {"bjmc", "计算机1班"}, {"xb", xb}, {"xtbh", "1101"}});
   school.add("xs", {{"xh", "9"}, {"bjmc", "别的班"}});
@@ -164,7 +164,7 @@ TEST(Statistics, ALineOfStudentsOpensItsClass) {
 }
 
 TEST(Statistics, ALineOfPaymentsOpensWhatIsNotSubmitted) {
-  School school;
+  CountedSchool school;
   school.add("jfjl", {{"sfxm", "学费"}, {"je", "300"}, {"sftj", ""}, {"skr", "李强"}, {"jfrq", "2026-9-7"}});
   school.add("jfjl", {{"sfxm", "住宿费"}, {"je", "100"}, {"sftj", "*"}, {"skr", "李强"}, {"jfrq", "2026-9-7"}});
   auto s = console(school, &Formzct::k3, &Formzct::payments_overview);
@@ -179,7 +179,7 @@ TEST(Statistics, ALineOfPaymentsOpensWhatIsNotSubmitted) {
 }
 
 TEST(Statistics, LinesOfArrearsOpenTheClassAndItsMonth) {
-  School school;
+  CountedSchool school;
   const auto owe = [&](const char* day, const char* due, const char* paid, const char* state) {
     school.add("qfjl",
                {{"xh", "1"}, {"bjmc", "计算机1班"}, {"bjrq", day}, {"bjje", due}, {"sbjje", paid}, {"clfs", state}});
@@ -213,7 +213,7 @@ TEST(Statistics, LinesOfArrearsOpenTheClassAndItsMonth) {
 }
 
 TEST(Clearing, TakesAPanelsTablesBehindTwoWarnings) {
-  School school;
+  CountedSchool school;
   const std::string more = "选择“是”继续；否则，点“否”撤销此操作！   \n\n";
   school.add("xs", {{"xh", "1"}});
   school.add("jfjl", {{"xh", "1"}, {"je", "5"}});

@@ -10,9 +10,6 @@ namespace {
 using kit::Box;
 using support::opened;
 
-constexpr const char* computing = "计算机11001班";
-constexpr const char* accounting = "会计01001班";
-
 struct TwoClasses : School {
   // A student with a row in every table that copies one.
   void place(const std::string& xh, const std::string& xm, const std::string& bjmc, const std::string& xtbh) {

@@ -7,14 +7,17 @@
 
 namespace students {
 
+inline constexpr const char* computing = "计算机11001班";
+inline constexpr const char* accounting = "会计01001班";
+
 struct School : support::School {
   static constexpr const char* number = "20260001010001";
 
   School() {
     session.ComputerName = "收费一号机";
     add("rxxs", {{"rxxs", "统招"}});
-    schoolClass("11001", "计算机11001班", "计算机");
-    schoolClass("01001", "会计01001班", "会计");
+    schoolClass("11001", computing, "计算机");
+    schoolClass("01001", accounting, "会计");
   }
 
   // A student of the school in every table that copies one, and in the tables of graduates.

@@ -9,8 +9,8 @@ namespace {
 using store::Sql;
 using support::opened;
 
-struct School : support::School {
-  School() {
+struct AskedSchool : support::School {
+  AskedSchool() {
     major("11", "计算机");
     schoolClass("11001", "计算机11001班", "计算机");
     add("xs", {{"xh", "1001"},
@@ -65,7 +65,7 @@ TEST(StudentQuery, ChainsWhatIsFilledInInItsOrder) {
       {[](auto& s) { s.period.choose(4); }, "", 2},
   };
   for (const Case& one : cases) {
-    School school;
+    AskedSchool school;
     auto s = opened<Formzctxscx1>(school);
     one.fill(*s);
     s->confirm.press();
@@ -76,7 +76,7 @@ TEST(StudentQuery, ChainsWhatIsFilledInInItsOrder) {
 }
 
 TEST(StudentQuery, KeywordLooksThroughEighteenColumns) {
-  School school;
+  AskedSchool school;
   auto s = opened<Formzctxscx1>(school);
   school.person.expect(kit::Box::Stop, "请输入关键字！       ", "操作提示");
   s->search.press();
@@ -114,7 +114,7 @@ TEST(StudentQuery, OneConditionAtATime) {
        "模糊查询：条件是 [ 王 ] ，符合条件的记录有： 1 条！"},
   };
   for (const Case& one : cases) {
-    School school;
+    AskedSchool school;
     auto s = opened<Formzctxscx>(school);
     s->way.pick(one.way);
     if (*one.to) s->from.type(one.value), s->to.type(one.to);

@@ -13,9 +13,6 @@ using kit::Box;
 using kit::Mode;
 using support::opened;
 
-const char* const computing = "计算机11001班";
-const char* const accounting = "会计01001班";
-
 // Two students of one name in different classes.
 struct Suspensions : School {
   Suspensions() {
