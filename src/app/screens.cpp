@@ -33,6 +33,9 @@
 #include "shell/login.h"
 #include "shell/payment_summary.h"
 #include "shell/splash.h"
+#include "staff/teacher_edit.h"
+#include "staff/teacher_list.h"
+#include "staff/teacher_query.h"
 #include "students/class_transfer_window.h"
 #include "students/student_edit.h"
 #include "students/student_query.h"
@@ -131,6 +134,10 @@ const std::vector<Entry>& screens() {
       screen<students::Formxxfk>("Formxxfk"),
       screen<students::Formxxfk1>("Formxxfk1"),
       screen<students::Formxxfk2>("Formxxfk2"),
+      screen<staff::Formjs3>("Formjs3"),
+      screen<staff::Formjs>("Formjs"),
+      screen<staff::Formjs1>("Formjs1"),
+      screen<staff::Formjs2>("Formjs2"),
   };
   return all;
 }

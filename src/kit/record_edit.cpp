@@ -8,6 +8,8 @@
 namespace kit {
 namespace {
 
+constexpr const char* addedOne = "已添加 1 条记录";
+
 std::string columnOf(const Field& field, std::string_view column) {
   return column.empty() ? field.name : std::string(column);
 }
@@ -34,6 +36,16 @@ RecordEdit::RecordEdit(Desk& all, std::string own, std::string words, const char
       mark_(editing.row) {
   confirm.onPress([this] { act(); });
   cancel.onPress([this] { close(); });
+}
+
+std::vector<RecordEdit::Bound> RecordEdit::bound() {
+  std::vector<Bound> all;
+  for (Member* member : members()) {
+    if (member->kind != MemberKind::Field) continue;
+    Field& field = static_cast<Field&>(*member);
+    if (field.entry != Entry::Shown) all.push_back({field, 0});
+  }
+  return all;
 }
 
 void RecordEdit::load() {
@@ -122,6 +134,7 @@ void RecordEdit::save() {
   }
   if (refused) return tell(desk.person, *refused);
   const Words say = words();
+  if (EditMode == Mode::Add && say.staysForTheNext) return enterTheNext();
   if (EditMode == Mode::Modify) done(say.modified, say.modifiedTitle);
   else done(EditMode == Mode::Add ? say.added : say.removed);
 }
@@ -138,13 +151,17 @@ void RecordEdit::put(store::RecordSet& set) {
   set.update();
 }
 
+void RecordEdit::enterTheNext() {
+  for (const Bound& one : bound()) one.field.clear();
+  propose();
+  desk.person.say(addedOne);
+}
+
 // The window closes as soon as the row is in, whatever the person does with the words.
 void RecordEdit::done(const std::string& words, const std::string& title) {
   close();
   if (!words.empty()) inform(words, title);
-  desk.person.say(EditMode == Mode::Add      ? "已添加 1 条记录"
-                  : EditMode == Mode::Modify ? "修改已保存"
-                                             : "已删除 1 条记录");
+  desk.person.say(EditMode == Mode::Add ? addedOne : EditMode == Mode::Modify ? "修改已保存" : "已删除 1 条记录");
 }
 
 Layout RecordEdit::layout() {

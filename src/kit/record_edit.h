@@ -20,7 +20,7 @@ class RecordEdit : public Screen {
   struct Bound {
     Field& field;
     int width;  // in Chinese characters
-    Format format = Format::Text;
+    Format format = field.entry == Entry::Date ? Format::Date : Format::Text;
     std::string_view column{};  // empty: the field's name
   };
   struct Question {
@@ -30,9 +30,10 @@ class RecordEdit : public Screen {
   struct Words {                               // an empty text is not told
     std::vector<Question> modify{}, remove{};  // asked one after the other
     std::string added{}, modified{}, removed{}, modifiedTitle = "信息提示";
+    bool staysForTheNext = false;  // after a row was added: many are entered one after the other
   };
 
-  virtual std::vector<Bound> bound() = 0;
+  virtual std::vector<Bound> bound();               // by default all fields that can be typed into
   virtual std::vector<Rule> rules() { return {}; }  // walked before anything is done, whatever the screen is open for
   virtual Words words() { return {}; }
   virtual void propose() {}                 // fills the fields of a row to be added
@@ -70,6 +71,7 @@ class RecordEdit : public Screen {
   void show(store::RecordSet& row);
   void act();
   void put(store::RecordSet& row);
+  void enterTheNext();
   void mustStandAsShown(store::RecordSet& row, const Bound& one);
   const char* const table_;
   const std::int64_t mark_;

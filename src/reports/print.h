@@ -20,6 +20,7 @@ enum class Print {
   Comparison,
   Unsubmitted,  // Formzctsf9
   Suspensions,  // Formxxfk
+  Teachers,     // Formjs
 };
 
 // Values of a printed row that are not copied: sees the row that is read and the one that is written.

@@ -68,6 +68,7 @@ const std::vector<PrintPlan>& allPrints() {
        .from = "xxfk",
        .object = "休学复课记录",
        .none = "不存在能够打印的休学复课记录！   "},
+      {.print = Print::Teachers, .report = "bbdy_js", .from = "js", .object = "教师档案资料"},
   };
   return all;
 }

@@ -12,6 +12,7 @@
 #include "reports/print_options.h"
 #include "shell/about.h"
 #include "shell/rights.h"
+#include "staff/teacher_list.h"
 #include "students/class_transfer_window.h"
 #include "students/suspension_list.h"
 #include "upkeep/clearing.h"
@@ -96,7 +97,8 @@ void Formzct::wireMenu() {
   });
   opens(cd43, [this] { open<Formcsh2>(); });
   opens(cd72, [this] { open<students::Formxxfk3>(); });
-  for (kit::Action* entry : {&cd121, &cd77, &cd70, &cd75, &cd71, &cd73, &cd76, &cd74, &cd41, &cd42, &cd44})
+  opens(cd73, [this] { open<staff::Formjs3>(); });
+  for (kit::Action* entry : {&cd121, &cd77, &cd70, &cd75, &cd71, &cd76, &cd74, &cd41, &cd42, &cd44})
     entry->onPress([this, entry] { notYet(entry->caption()); });
 }
 

@@ -66,7 +66,7 @@ class PostgresPhrases final : public Phrases {
 };
 
 // Both read what base::Date::parse and the embedded engine's cast to a number read.
-constexpr const char* dateIn = R"sql(
+constexpr const char* dateFunction = R"sql(
 create or replace function date_in(given text) returns text language plpgsql immutable strict as $$
 declare
   part text[] := regexp_match(btrim(given, E' \t\r\n'), '^([0-9]{3,4})(?:-([0-9]{1,2})-([0-9]{1,2})|'
@@ -86,7 +86,7 @@ begin
   return lpad(y::text, 4, '0') || '-' || lpad(m::text, 2, '0') || '-' || lpad(d::text, 2, '0');
 end $$)sql";
 
-constexpr const char* numberIn = R"sql(
+constexpr const char* numberFunction = R"sql(
 create or replace function number_in(given text) returns double precision language sql immutable strict as $$
   select least(greatest(round(coalesce(
     substring(given from '^[ \t\n\r\f\v]*([+-]?(?:[0-9]+\.?[0-9]*|\.[0-9]+)(?:[eE][+-]?[0-9]{1,3})?)'), '0')::numeric,
@@ -100,6 +100,6 @@ const Phrases& postgresPhrases() {
   return phrases;
 }
 
-std::vector<std::string> postgresFunctions() { return {dateIn, numberIn}; }
+std::vector<std::string> postgresFunctions() { return {dateFunction, numberFunction}; }
 
 }  // namespace store

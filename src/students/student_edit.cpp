@@ -3,8 +3,8 @@
 #include "base/text.h"
 #include "kit/rows.h"
 #include "register/classes.h"
+#include "register/identity_number.h"
 #include "register/settings.h"
-#include "students/identity_number.h"
 
 namespace students {
 
@@ -116,7 +116,7 @@ void Formzctxs::takeClass() {
 }
 
 void Formzctxs::takeIdentity() {
-  const Identity identity = deriveFromIdentity(sfzhm.text());
+  const school::Identity identity = school::deriveFromIdentity(sfzhm.text());
   if (!identity.warning.empty()) stop(identity.warning, kit::wrongInput);
   if (identity.csrq) csrq.set(*identity.csrq);
   if (identity.xb) xb.set(*identity.xb);

@@ -44,15 +44,9 @@ const kit::RecordDeskPlan plan{
 
 }  // namespace
 
-void Formxxfk3::proceed() {
-  close();  // the list stands as long as it is worked with; the notice must not
-  open<Formxxfk>();
-}
-
-Formxxfk::Formxxfk(kit::Desk& all) : Screen(all, "Formxxfk", "学生休学复课管理前台"), suspensions(*this, desk, plan) {
-  suspensions.editedIn<Formxxfk1>();
-  suspensions.queriedIn<Formxxfk2>();
-  back.onPress([this] { close(); });
+Formxxfk::Formxxfk(kit::Desk& all) : DeskScreen(all, "Formxxfk", "学生休学复课管理前台", plan) {
+  records.editedIn<Formxxfk1>();
+  records.queriedIn<Formxxfk2>();
 }
 
 }  // namespace students

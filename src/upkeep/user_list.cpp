@@ -19,9 +19,8 @@ const kit::RecordDeskPlan plan{
 
 }  // namespace
 
-Formyhxx::Formyhxx(kit::Desk& all) : Screen(all, "Formyhxx", "用户管理"), users(*this, desk, plan) {
-  users.editedIn<Formyhxx2>();
-  back.onPress([this] { close(); });
+Formyhxx::Formyhxx(kit::Desk& all) : DeskScreen(all, "Formyhxx", "用户管理", plan, 560, 420) {
+  records.editedIn<Formyhxx2>();
 }
 
 }  // namespace upkeep

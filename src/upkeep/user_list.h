@@ -1,19 +1,13 @@
 // The list of users.
 #pragma once
 
-#include "kit/record_desk.h"
+#include "kit/desk_screen.h"
 
 namespace upkeep {
 
-class Formyhxx : public kit::Screen {  // 用户管理
+class Formyhxx : public kit::DeskScreen {  // 用户管理
  public:
   explicit Formyhxx(kit::Desk& desk);
-  void load() override { users.open(); }
-  kit::Layout layout() override;
-
-  kit::RecordDesk users;
-  kit::Action &add = users.button("add"), &modify = users.button("modify"), &remove = users.button("remove");
-  kit::Action back{*this, "back", "返回", "arrow-left"};
 };
 
 }  // namespace upkeep

@@ -146,7 +146,7 @@ TEST(Navigator, keepsAScreenWhileItsHandlersRunAndEndsWithTheLastOne) {
   EXPECT_TRUE(navigator.standing().empty());
 }
 
-QWidget* notice() {
+QWidget* noticeShown() {
   for (QWidget* window : QApplication::topLevelWidgets())
     if (window->objectName() == "progress" && window->isVisible()) return window;
   return nullptr;
@@ -159,11 +159,11 @@ TEST(Progress, standsAfterAMomentAndLetsNoClickThrough) {
   int clicks = 0;
   QObject::connect(&below, &qt::XPButton::Click, [&] { ++clicks; });
   progress.show("正在导出……", 0, 100);
-  EXPECT_EQ(notice(), nullptr) << "short work shows nothing";
+  EXPECT_EQ(noticeShown(), nullptr) << "short work shows nothing";
   QTest::qSleep(220);
   progress.show("正在导出……", 40, 100);
-  ASSERT_NE(notice(), nullptr);
-  support::keepPicture(*notice(), "progress");
+  ASSERT_NE(noticeShown(), nullptr);
+  support::keepPicture(*noticeShown(), "progress");
   QTest::mouseClick(&below, Qt::LeftButton);
   EXPECT_EQ(clicks, 0);
   int ticks = 0;
@@ -175,11 +175,11 @@ TEST(Progress, standsAfterAMomentAndLetsNoClickThrough) {
   EXPECT_EQ(ticks, 0) << "a tick in the middle of the work";
   timer.stop();
   progress.waiting(true);
-  EXPECT_EQ(notice()->findChild<QLabel*>()->text(), "数据库正被其他计算机使用，正在等待……");
+  EXPECT_EQ(noticeShown()->findChild<QLabel*>()->text(), "数据库正被其他计算机使用，正在等待……");
   progress.waiting(false);
-  EXPECT_EQ(notice()->findChild<QLabel*>()->text(), "正在导出……");
+  EXPECT_EQ(noticeShown()->findChild<QLabel*>()->text(), "正在导出……");
   progress.hide();
-  EXPECT_EQ(notice(), nullptr);
+  EXPECT_EQ(noticeShown(), nullptr);
   QTest::mouseClick(&below, Qt::LeftButton);
   EXPECT_EQ(clicks, 1);
 }

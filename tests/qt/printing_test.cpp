@@ -43,7 +43,7 @@ struct Part {
 };
 
 // What is darker than half within a part of the picture.
-Part ink(const QImage& image, double dotsPerInch, const Part& part) {
+Part inkIn(const QImage& image, double dotsPerInch, const Part& part) {
   const double dot = 25.4 / dotsPerInch;
   Part found{1e9, 1e9, -1, -1};
   for (int y = std::max(0, static_cast<int>(part.top / dot)); y < std::min<double>(image.height(), part.bottom / dot);
@@ -75,7 +75,7 @@ void proveLines(const QImage& image, double dots) {
     const auto* line = std::get_if<platform::Line>(&mark);
     if (!line) continue;
     const double half = line->width / 2;
-    const Part box = ink(image, dots, {line->x1 - 2, line->y1 - 0.7 - half, line->x2 + 2, line->y2 + 0.7 + half});
+    const Part box = inkIn(image, dots, {line->x1 - 2, line->y1 - 0.7 - half, line->x2 + 2, line->y2 + 0.7 + half});
     const Part asked{line->x1 - half, line->y1 - half, line->x2 + half, line->y2 + half};
     const bool down = line->x1 == line->x2;
     const double tolerance = 0.3;
@@ -94,7 +94,7 @@ void proveTexts(const QImage& image, double dots, const QImage& finest, double f
   for (int face = 0; face < 3; ++face) {
     const Part square{40.0 + 30 * face, 90, 40.0 + 30 * face + 14.1, 104.1};
     const Part around{square.left - 3, square.top - 3, square.right + 3, square.bottom + 3};
-    const Part box = ink(image, dots, around), exact = ink(finest, finestDots, around);
+    const Part box = inkIn(image, dots, around), exact = inkIn(finest, finestDots, around);
     for (const auto side : {&Part::left, &Part::top, &Part::right, &Part::bottom})
       EXPECT_NEAR(box.*side, exact.*side, 0.3);
     EXPECT_GT(exact.left, square.left - 0.3);
@@ -172,7 +172,7 @@ void proveColumns(const Drawing& drawing, const std::vector<double>& columns, st
       for (const double x : columns) {
         const double top = 47 + 5.0 * static_cast<double>(row);
         // Of the strip's height only the rule itself may be black, so its ink is as narrow as a rule.
-        const Part box = ink(image, dots, {x - 0.6, top + 0.6, x + 0.6, top + 4.4});
+        const Part box = inkIn(image, dots, {x - 0.6, top + 0.6, x + 0.6, top + 4.4});
         EXPECT_LT(box.right - box.left, 0.6) << "row " << row << " column " << x << " at " << dots;
       }
   }
@@ -207,7 +207,7 @@ TEST_F(Printing, FittedTextShrinksThenIsCutAndWrappedTextStaysWithinItsRoom) {
                {{10, 10, twelve, Face::Kai, 20, 60, true}, 70, 10 + 7.06 * 2.3}};
   for (const auto& one : cases) {
     const Drawing drawing{.title = "", .width = 210, .height = 60, .pages = {{{one.text}}}};
-    const Part box = ink(qt::renderPage(drawing, 0, 192), 192, {0, 0, 210, 60});
+    const Part box = inkIn(qt::renderPage(drawing, 0, 192), 192, {0, 0, 210, 60});
     EXPECT_LE(box.right, one.right + 0.3);
     EXPECT_GT(box.right, one.right - 8);
     EXPECT_LE(box.bottom, one.bottom + 0.3);
@@ -224,7 +224,7 @@ TEST_F(Printing, AlignedTextEndsOrCentresWhereItWasAskedTo) {
       marks.push_back(Text{100, 5, amount, Face::Song, 12, fit, false, platform::Align::Right});
       marks.push_back(Text{100, 25, amount, Face::Song, 12, fit, false, platform::Align::Centre});
       const QImage image = qt::renderPage(drawing, 0, 192);
-      const Part right = ink(image, 192, {0, 0, 210, 20}), centred = ink(image, 192, {0, 20, 210, 60});
+      const Part right = inkIn(image, 192, {0, 0, 210, 20}), centred = inkIn(image, 192, {0, 20, 210, 60});
       EXPECT_NEAR(right.right, 100, 0.8) << amount;
       EXPECT_NEAR((centred.left + centred.right) / 2, 100, 0.8) << amount;
       EXPECT_GE(right.left, fit > 0 ? 60 - 0.3 : 0) << amount;

@@ -1,6 +1,6 @@
 #include "students/student_records.h"
 
-#include "students/identity_number.h"
+#include "register/identity_number.h"
 #include "students/school.h"
 #include "students/student_card.h"
 
@@ -93,7 +93,7 @@ TEST(IdentityNumbers, TellBirthDateAndSex) {
                                            {"1301021999010101中x", "1999-01-01", "男", "1301021999010101中X", ""},
                                            {"130102840101001x", none, none, "130102840101001X", warning},
                                            {"  ", none, none, "  ", ""}}) {
-    const Identity identity = deriveFromIdentity(one.typed);
+    const school::Identity identity = school::deriveFromIdentity(one.typed);
     EXPECT_EQ(identity.csrq.value_or(none), one.csrq) << one.typed;
     EXPECT_EQ(identity.xb.value_or(none), one.xb) << one.typed;
     EXPECT_EQ(identity.number, one.number);

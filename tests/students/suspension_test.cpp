@@ -37,14 +37,13 @@ struct Suspensions : School {
       query.xm.type(xm);
       query.confirm.press();
     });
-    s.suspensions.query->press();
+    s.records.query->press();
   }
 };
 
 std::string listed(const Formxxfk& s) {
-  std::string numbers = s.suspensions.count->text() + ":";
-  for (long long row = 0; row < s.suspensions.list.count(); ++row)
-    numbers.append(" ").append(s.suspensions.list.cell(row, 0));
+  std::string numbers = s.records.count->text() + ":";
+  for (long long row = 0; row < s.records.list.count(); ++row) numbers.append(" ").append(s.records.list.cell(row, 0));
   return numbers;
 }
 
@@ -64,7 +63,7 @@ TEST(Suspension, RightsGateTheButtons) {
     test.session.Rights.fill(false);
     test.session.Rights[static_cast<std::size_t>(right)] = true;
     auto s = opened<Formxxfk>(test);
-    for (const kit::Node& node : s->suspensions.actions())
+    for (const kit::Node& node : s->records.actions())
       EXPECT_EQ(node.member->enabled(), node.member->name == "add" || std::ranges::count(opens, node.member->name) == 1)
           << right << node.member->name;
   }
@@ -94,7 +93,7 @@ TEST(Suspension, AddsARowForTheStudentWhoWasChosen) {
     edit.confirm.press();
     EXPECT_TRUE(edit.closed());
   });
-  s->suspensions.button("add").press();
+  s->records.button("add").press();
   EXPECT_EQ(test.stored(), "1002|张三|计算机11001班|2026-3-2|2026-6-1|x\n1002|张三|计算机11001班|2026-9-8||11001002\n");
   EXPECT_EQ(test.value("select * from xxfk where xxsj=#2026-9-8#", "bsh"), "2026-9-7 8:30:05");
   EXPECT_EQ(readStudentCard(test.store, "1002")->status, "休学中");
@@ -106,9 +105,9 @@ TEST(Suspension, ResumesAndDeletesTheSelectedRowAmongThoseOfOneStudent) {
   test.suspendThree();
   test.suspend("1002", "张三", computing);
   auto s = opened<Formxxfk>(test);
-  const auto press = [&](const char* button) { s->suspensions.button(button).press(); };
+  const auto press = [&](const char* button) { s->records.button(button).press(); };
   EXPECT_EQ(listed(*s), "记录个数： 4: 1001 1002 1002 1003");
-  s->suspensions.list.select(2);
+  s->records.list.select(2);
   test.suspend("1000", "李四", computing);  // another desk, above it
   test.navigator.expect<Formxxfk1>([](Formxxfk1& edit) {
     EXPECT_EQ(edit.what.chosen(), 1);
@@ -119,11 +118,11 @@ TEST(Suspension, ResumesAndDeletesTheSelectedRowAmongThoseOfOneStudent) {
     edit.confirm.press();
   });
   press("resume");
-  EXPECT_EQ(s->suspensions.list.selected(), 3) << "the same row";
-  EXPECT_EQ(s->suspensions.list.cell(3, 4), "2026-9-9");
-  EXPECT_EQ(s->suspensions.list.cell(2, 4), "2026-6-1");
+  EXPECT_EQ(s->records.list.selected(), 3) << "the same row";
+  EXPECT_EQ(s->records.list.cell(3, 4), "2026-9-9");
+  EXPECT_EQ(s->records.list.cell(2, 4), "2026-6-1");
 
-  s->suspensions.list.select(2);
+  s->records.list.select(2);
   test.person.answer(false, Box::Ask, "您确认是要删除记录吗？      ", "警告")
       .answer(true, Box::Ask, "您确认是要删除记录吗？      ", "警告");
   test.told("记录已删除 ！        ");
@@ -191,26 +190,26 @@ TEST(Suspension, AQueryFiltersTheListItsPrintAndItsExport) {
     query.xm.type("王小明");
     query.cancel.press();
   });
-  s->suspensions.query->press();
+  s->records.query->press();
   EXPECT_EQ(listed(*s), "记录个数: 2: 1003 1002") << "left without asking";
 
   test.person.answer(
       true, Box::AskWarning,
       "要打印休学复课记录吗？请确认打印机连接正常、打印纸准备就绪！ \n点“是”继续；否则，点“否”撤销此操作！ ",
       "信息提示");
-  s->suspensions.button("print").press();
+  s->records.button("print").press();
   EXPECT_EQ(test.dump("dy_xxfk", "xtbh|xh|xm|bjmc|xxsj|fksj"),
             "x|1003|张三|会计01001班|2026-3-2|\nx|1002|张三|计算机11001班|2026-3-2|2026-6-1\n");
   EXPECT_EQ(test.printer.shown.size(), 1u);
   test.person.answer(true, Box::Ask, "此操作将导出学生的休学复课记录为EXCEL格式表，您确认继续吗？      ", "信息提示");
   test.told("“按查询条件导出的学生休学复课记录”已导出，共 2 条记录，文件保存在：\n" +
             (test.desktop.exportFolder() / "按查询条件导出的学生休学复课记录 2026-09-07.xlsx").string());
-  s->suspensions.button("toSheet").press();
+  s->records.button("toSheet").press();
   ASSERT_EQ(test.sheets.kept.size(), 1u);
   EXPECT_EQ(test.sheets.kept[0].rows.size(), 2u);
   kit::removeEach(test.store, "select * from xxfk");
   test.told("不存在能够打印的休学复课记录！   ");
-  s->suspensions.button("print").press();
+  s->records.button("print").press();
 }
 
 }  // namespace

@@ -114,6 +114,12 @@ World::World() {
                           {"clfs", "补交"},
                           {"qfts", 7}}));
   }
+  for (const char* number : {"1", "2"}) {
+    const std::string name = std::string("李老师") + number;
+    parts.add("js", {{"gh", number}, {"jsxm", name}, {"xb", "女"}, {"csrq", base::Date{1980, 5, 6}}});
+    parts.add("gzb",
+              {{"gh", number}, {"jsxm", name}, {"yf", "2026年8月"}, {"gzmc", "基本工资"}, {"je", Money::yuan(900)}});
+  }
   parts.add("xxfk", of({{"xtbh", "1"}, {"xxsj", day}}));
   for (const std::string_view table : {"qfjl_wjf", "qfjl_je"})
     parts.add(table, {{"xh", "20260001"}, {"xm", "王小明"}, {"bjmc", "计算机1班"}});

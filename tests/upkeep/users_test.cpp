@@ -96,7 +96,7 @@ TEST(UserEdit, ChangingWithoutTouchingTheDotsKeepsThePassword) {
   TestDesk test;
   addUser(test.store, "李强", "一般操作员", "abc", test.clock.now());
   auto list = opened<Formyhxx>(test);
-  list->users.list.select(0);
+  list->records.list.select(0);
   test.person.answer(true, Box::Ask, "您确认要修改记录吗？  ", "修改提示")
       .expect(Box::Information, "选定记录已修改 ！     ", "信息提示");
   test.navigator.expect<Formyhxx2>([](Formyhxx2& s) {
@@ -104,8 +104,8 @@ TEST(UserEdit, ChangingWithoutTouchingTheDotsKeepsThePassword) {
     s.yhxm.type("李刚");
     s.confirm.press();
   });
-  list->modify.press();
-  EXPECT_EQ(list->users.list.cell(0, 0), "李刚");
+  list->records.button("modify").press();
+  EXPECT_EQ(list->records.list.cell(0, 0), "李刚");
   EXPECT_TRUE(passwordFits(storedPassword(test, "李刚"), "abc"));
   EXPECT_EQ(test.count("select * from yhxx1 where yhxm='李强'"), 100);  // the rights keep the old name
 
@@ -116,7 +116,7 @@ TEST(UserEdit, ChangingWithoutTouchingTheDotsKeepsThePassword) {
     s.yhmm.type("");
     s.confirm.press();
   });
-  list->modify.press();
+  list->records.button("modify").press();
   EXPECT_TRUE(passwordFits(storedPassword(test, "李刚"), "abc"));
 
   test.person.answer(true, Box::Ask, "您确认要修改记录吗？  ", "修改提示")
@@ -128,7 +128,7 @@ TEST(UserEdit, ChangingWithoutTouchingTheDotsKeepsThePassword) {
     s.yhmm.type("xyz");
     s.confirm.press();
   });
-  list->modify.press();
+  list->records.button("modify").press();
   EXPECT_TRUE(passwordFits(storedPassword(test, "李刚"), "xyz"));
 }
 
@@ -148,14 +148,14 @@ TEST(UserEdit, AddsWithTypedSuperLevelAndDeletesWithTheRights) {
     test.told("用户添加成功！   ");
     s.confirm.press();
   });
-  list->add.press();
+  list->records.button("add").press();
   EXPECT_EQ(test.count("select * from yhxx1 where yhxm='赵敏' and fn=true"), 100);
 
-  list->users.list.select(0);
+  list->records.list.select(0);
   test.person.answer(true, Box::Ask, "您确认要删除选定记录吗？   ", "删除提示")
       .expect(Box::Information, "选定记录已删除 ！     ", "信息提示");
   test.navigator.expect<Formyhxx2>([](Formyhxx2& s) { s.confirm.press(); });
-  list->remove.press();
+  list->records.button("remove").press();
   EXPECT_EQ(test.count("select * from yhxx") + test.count("select * from yhxx1"), 0);
 }
 

@@ -6,13 +6,6 @@ namespace students {
 
 using namespace kit;
 
-Layout Formxxfk::layout() {
-  Nodes actions = suspensions.actions();
-  actions.push_back(back);
-  return {
-      .root = column({suspensions.shown(), buttons(std::move(actions))}), .cancel = &back, .width = 860, .height = 520};
-}
-
 Layout Formxxfk1::layout() {
   return {.root = column({what, form({wide(bjmc, 18), wide(xm, 18), xh, day}), buttons({confirm, cancel})}),
           .confirm = &confirm,

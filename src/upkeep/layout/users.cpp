@@ -9,13 +9,6 @@ namespace upkeep {
 
 using namespace kit;
 
-Layout Formyhxx::layout() {
-  return {.root = column({users.shown(), buttons({add, modify, remove, back})}),
-          .cancel = &back,
-          .width = 560,
-          .height = 420};
-}
-
 Layout Formyhxx2::layout() {
   return {.root = column({form({wide(yhxm, 14), wide(yhjb, 14), wide(yhmm, 14)}), buttons({confirm, cancel})}),
           .confirm = &confirm,

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace students {
+namespace school {
 
 struct Identity {
   std::string number;                   // in upper case
@@ -15,4 +15,4 @@ struct Identity {
 };
 Identity deriveFromIdentity(std::string_view text);
 
-}  // namespace students
+}  // namespace school

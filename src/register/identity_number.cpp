@@ -1,8 +1,8 @@
-#include "students/identity_number.h"
+#include "register/identity_number.h"
 
 #include "base/text.h"
 
-namespace students {
+namespace school {
 
 Identity deriveFromIdentity(std::string_view text) {
   const std::string trimmed = base::trim(text);
@@ -23,4 +23,4 @@ Identity deriveFromIdentity(std::string_view text) {
   return identity;
 }
 
-}  // namespace students
+}  // namespace school
