@@ -37,14 +37,16 @@ QuestionFields::QuestionFields(kit::Screen& screen, const std::string& prefix)
 Formqfcl11::Formqfcl11(kit::Desk& all)
     : QueryScreen(all, "Formqfcl11", "打开欠费信息", plan),
       wanted(*this, "wanted", {"实交少于应交的学生", "实交等于应交的学生", "实交多于应交的学生"}) {
-  offer(xq, "xq", [] { return Sql("select xq from qfjl group by xq"); });
-  offer(bjmc, "bjmc", [] { return Sql("select bjmc from qfjl group by bjmc"); });
-  offer(xm, "xm", [this] {
-    return bjmc.blank() ? Sql("select xm from qfjl group by xm")
-                        : Sql("select xm from qfjl where bjmc='") + bjmc.trimmed() + "' group by xm";
-  });
-  offer(sfxm, "sfxm", [] { return Sql("select sfxm from qfjl group by sfxm"); });
-  offer(clfs, "clfs", [] { return Sql("select clfs from qfjl group by clfs"); });
+  xq.offers("select xq from qfjl group by xq", "xq");
+  bjmc.offers("select bjmc from qfjl group by bjmc", "bjmc");
+  xm.offers(
+      [this] {
+        return bjmc.blank() ? Sql("select xm from qfjl group by xm")
+                            : Sql("select xm from qfjl where bjmc='") + bjmc.trimmed() + "' group by xm";
+      },
+      "xm");
+  sfxm.offers("select sfxm from qfjl group by sfxm", "sfxm");
+  clfs.offers("select clfs from qfjl group by clfs", "clfs");
   wireConditions();
   wire(unpaid);
   wire(compared);
@@ -58,9 +60,9 @@ Formqfcl11::Formqfcl11(kit::Desk& all)
 }
 
 void Formqfcl11::wire(QuestionFields& fields) {
-  offer(fields.bjmc, "bjmc", [] { return Sql("select * from bjzl order by bjdh"); });
-  offer(fields.xq, "xq", [] { return Sql("select xq from jfjl group by xq"); });
-  offer(fields.sfxm, "sfxmmc", [] { return Sql("select * from sfxmb order by sfxmbh"); });
+  fields.bjmc.offers("select * from bjzl order by bjdh", "bjmc");
+  fields.xq.offers("select xq from jfjl group by xq", "xq");
+  fields.sfxm.offers("select * from sfxmb order by sfxmbh", "sfxmmc");
 }
 
 std::vector<kit::Field*> Formqfcl11::conditionFields() {

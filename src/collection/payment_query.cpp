@@ -22,16 +22,18 @@ const kit::QueryPlan plan{
 }  // namespace
 
 Formzctsf31::Formzctsf31(kit::Desk& all) : QueryScreen(all, "Formzctsf31", "打开交费记录信息设置", plan) {
-  offer(xq, "xq", [] { return Sql("select xq from jfjl group by xq"); });
-  offer(bjmc, "bjmc", [] { return Sql("select * from bjzl order by bjdh"); });
-  offer(xm, "xm", [this] {
-    return bjmc.blank() ? Sql("select * from xs order by xh")
-                        : Sql("select * from xs where bjmc='") + bjmc.trimmed() + "'";
-  });
-  offer(sfxm, "sfxm", [] { return Sql("select sfxm from jfjl group by sfxm"); });
-  offer(jffs, "jffs", [] { return Sql("select jffs from jfjl group by jffs"); });
-  offer(rxxs, "rxxs", [] { return Sql("select * from rxxs"); });
-  offer(skr, "skr", [] { return Sql("select skr from jfjl group by skr"); });
+  xq.offers("select xq from jfjl group by xq", "xq");
+  bjmc.offers("select * from bjzl order by bjdh", "bjmc");
+  xm.offers(
+      [this] {
+        return bjmc.blank() ? Sql("select * from xs order by xh")
+                            : Sql("select * from xs where bjmc='") + bjmc.trimmed() + "'";
+      },
+      "xm");
+  sfxm.offers("select sfxm from jfjl group by sfxm", "sfxm");
+  jffs.offers("select jffs from jfjl group by jffs", "jffs");
+  rxxs.offers("select * from rxxs", "rxxs");
+  skr.offers("select skr from jfjl group by skr", "skr");
   wireConditions();
   scope.onPress([this] {
     close();

@@ -30,7 +30,7 @@ void Field::offers(store::Sql sql, std::string column) {
 }
 
 void Field::offers(std::function<store::Sql()> sql, std::string column) {
-  names = column == "xm";
+  names = column == "xm" || column == "jsxm";
   onDrop([this, sql = std::move(sql), column = std::move(column)] {
     std::vector<std::string> found = columnTexts(screen_.desk.store, sql(), column);
     std::erase(found, "");

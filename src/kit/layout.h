@@ -71,6 +71,15 @@ inline Node lines(std::vector<std::string> headings, Nodes rows) {
   node.headings = std::move(headings);
   return node;
 }
+// The rows of a grid of like cells, so many in each; nodesOf tells what stands in one of them.
+template <class Cells, class NodesOf> Nodes tiled(Cells& cells, std::size_t across, NodesOf nodesOf) {
+  Nodes grid;
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    if (i % across == 0) grid.push_back(row({}));
+    for (Node& node : nodesOf(cells[i])) grid.back().children.push_back(std::move(node));
+  }
+  return grid;
+}
 inline Node wide(Node node, int characters) {
   node.width = characters;
   return node;

@@ -14,7 +14,8 @@ constexpr long long keptRows = 2000, windowRows = 200;
 std::string formatted(const store::Value& value, Format format) {
   if (value.empty()) return "";
   switch (format) {
-    case Format::Text: return value.trimmed();
+    case Format::Text:
+    case Format::Number: return value.trimmed();
     case Format::Money: return value.money().fixed2();
     case Format::Padded: return base::paddedAmount(value.money());
     case Format::Date:

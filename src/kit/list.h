@@ -12,8 +12,9 @@ namespace kit {
 
 class Action;
 
-// Text as it stands; Money "0.00"; Padded money with the blanks that lists show; Date yyyy-m-d; LongDate yyyy年m月d日.
-enum class Format { Text, Money, Padded, Date, LongDate };
+// Text as it stands; Number is text that stands on the right; Money "0.00"; Padded money with the blanks that lists
+// show; Date yyyy-m-d; LongDate yyyy年m月d日.
+enum class Format { Text, Number, Money, Padded, Date, LongDate };
 
 std::string formatted(const store::Value& value, Format format);
 
@@ -69,6 +70,8 @@ class List : public Member {
   void setWhenEmpty(std::string words);
   bool searchable = false;  // a box above it narrows it to the rows that hold what is typed
   std::string freshBy;      // a column: rows in which it is empty are marked quietly as still in hand
+  std::string dueBy;        // a column of days: those before `today` stand out as overdue
+  base::Date today{};
 
   std::vector<Action*> menu;  // pop-up entries, in order; null is a rule between them
 

@@ -48,11 +48,6 @@ void QueryScreen::wireConditions() {
   });
 }
 
-void QueryScreen::offer(Field& field, std::string_view column, std::function<Sql()> rows) {
-  field.onDrop(
-      [this, &field, column, rows = std::move(rows)] { field.setChoices(columnTexts(desk.store, rows(), column)); });
-}
-
 bool QueryScreen::refuseDate(Field& field) {
   stop("日期格式不正确,应该是 yyyy-m-d 格式！      ", kit::wrongInput);
   field.focus();
@@ -67,7 +62,8 @@ std::optional<Condition> QueryScreen::dated(DateCondition& field, std::string_vi
 }
 
 Node QueryScreen::queryNode(Node conditions) {
-  return column({group("查询范围", {period, hint}), ending(group("自定义信息", {std::move(conditions)}), confirm),
+  return column({group("查询范围", {row({period, hint, stretch()})}),
+                 ending(group("自定义信息", {std::move(conditions)}), confirm),
                  group("关键字查询", {row({form({wide(key, 16)}), search, stretch()})})});
 }
 

@@ -13,7 +13,7 @@ namespace kit {
 struct DateCondition {
   DateCondition(Screen& screen, const std::string& name, const std::string& label);
   Compare compare() const;
-  Node node() { return row({form({wide(how, 3)}), wide(day, 8), stretch()}); }
+  Node node() { return row({wide(how, 3), day}); }  // stands in a form
 
   Field how, day;
 };
@@ -43,8 +43,6 @@ class QueryScreen : public Screen {
   virtual void accepted(Filter filter) = 0;  // rows answer to it, and the screen is about to close
 
   void wireConditions();  // by the constructor of the screen: clearing by button and by double click
-  // Drops down what the statement finds when it is asked.
-  void offer(Field& field, std::string_view column, std::function<store::Sql()> rows);
   std::optional<Condition> dated(DateCondition& field, std::string_view column);  // refuses what is no date
   bool refuseDate(Field& field);
   Node queryNode(Node conditions);

@@ -86,8 +86,8 @@ void ListColumns::measure() {
   for (int i = 0; i < static_cast<int>(widths.size()); ++i)
     view_.setColumnWidth(i, widths[static_cast<std::size_t>(i)]);
   if (view_.isVisible()) recall();
-  // An amount that stands on the right stays beside what it belongs to.
-  view_.horizontalHeader()->setStretchLastSection(list_.columns().empty() || !isAmount(list_.columns().back()));
+  // A number that stands on the right stays beside what it belongs to.
+  view_.horizontalHeader()->setStretchLastSection(list_.columns().empty() || !standsRight(list_.columns().back()));
 }
 
 // Only what the person has drawn or hidden; a hidden column has no width.

@@ -18,7 +18,14 @@ constexpr long long farthest = 20000;    // rows that typing looks through from 
 constexpr qint64 longestSearch = 1000;   // milliseconds
 constexpr std::size_t mostWanted = 200;  // rows: more than a window shows
 constexpr qsizetype mostRead = 2000;     // rows that are kept
+
+Qt::Alignment sideOf(const kit::ListColumn& column) {
+  return Qt::AlignVCenter | (standsRight(column) ? Qt::AlignRight : Qt::AlignLeft);
+}
+
 }  // namespace
+
+bool standsRight(const kit::ListColumn& column) { return isAmount(column) || column.format == kit::Format::Number; }
 
 bool isAmount(const kit::ListColumn& column) {
   return column.format == kit::Format::Money || column.format == kit::Format::Padded;
@@ -182,10 +189,11 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     return {};
   const auto column = static_cast<std::size_t>(index.column());
   if (role == Qt::DisplayRole) return shown(listRow(index.row()), column);
-  if (role == Qt::TextAlignmentRole)
-    return QVariant::fromValue(Qt::AlignVCenter | (isAmount(list_.columns()[column]) ? Qt::AlignRight : Qt::AlignLeft));
-  if (role == Qt::ForegroundRole)
+  if (role == Qt::TextAlignmentRole) return QVariant::fromValue(sideOf(list_.columns()[column]));
+  if (role == Qt::ForegroundRole) {
+    if (isOverdue(listRow(index.row()), column)) return theme::stop;
     if (const QColor colour = theme::meaning(shown(listRow(index.row()), column)); colour.isValid()) return colour;
+  }
   if (role == Qt::BackgroundRole && isFresh(listRow(index.row()))) return theme::fresh;
   return {};
 }
@@ -197,12 +205,17 @@ bool ListModel::isFresh(long long row) const {
   return by != columns.end() && base::blank(list_.cell(row, static_cast<std::size_t>(by - columns.begin())));
 }
 
+bool ListModel::isOverdue(long long row, std::size_t column) const {
+  if (list_.dueBy.empty() || list_.columns()[column].column != list_.dueBy || !list_.atHand(row)) return false;
+  const auto due = base::Date::parse(base::trim(list_.cell(row, column)));
+  return due && due->daysUntil(list_.today) > 0;
+}
+
 QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || section >= static_cast<int>(list_.columns().size())) return {};
   const kit::ListColumn& column = list_.columns()[static_cast<std::size_t>(section)];
   if (role == Qt::DisplayRole) return toQt(column.heading).trimmed();
-  if (role == Qt::TextAlignmentRole)
-    return QVariant::fromValue(Qt::AlignVCenter | (isAmount(column) ? Qt::AlignRight : Qt::AlignLeft));
+  if (role == Qt::TextAlignmentRole) return QVariant::fromValue(sideOf(column));
   return {};
 }
 

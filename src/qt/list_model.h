@@ -12,7 +12,8 @@
 
 namespace qt {
 
-bool isAmount(const kit::ListColumn& column);  // stands on the right of its column
+bool isAmount(const kit::ListColumn& column);
+bool standsRight(const kit::ListColumn& column);  // amounts and other numbers
 
 class ListModel : public QAbstractTableModel {
  public:
@@ -48,6 +49,7 @@ class ListModel : public QAbstractTableModel {
   bool arranged() const { return isSorted() || isNarrowed(); }
   void arrange();
   bool isMeant(long long listRow) const;
+  bool isOverdue(long long listRow, std::size_t column) const;
   bool isFresh(long long listRow) const;
   QString shown(long long listRow, std::size_t column) const;
   const kit::List& list_;

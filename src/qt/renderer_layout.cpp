@@ -200,14 +200,20 @@ QWidget* Renderer::form(const Node& node) {
     const int line = place / node.columns, at = place % node.columns * 3;
     place += span;
     const auto* field = fieldOf(child);
-    if (field) {
-      auto* words = label(static_cast<kit::Field&>(*child.member));
+    // A row stands under the label of its first field: an operator and its day are one answer.
+    const Node& named = child.kind == Node::Kind::Row ? child.children.front() : child;
+    const bool isNamed = fieldOf(named) && (field || !fieldOf(named)->label().empty());
+    const QString outer = groupTitle_;
+    if (isNamed) {
+      auto* words = label(static_cast<kit::Field&>(*named.member));
       grid->addWidget(words, line, at,
-                      Qt::AlignRight | (field->entry == Entry::Memo ? Qt::AlignTop : Qt::AlignVCenter));
+                      Qt::AlignRight | (fieldOf(named)->entry == Entry::Memo ? Qt::AlignTop : Qt::AlignVCenter));
+      if (!field) groupTitle_ = toQt(fieldOf(named)->label());
     }
     const bool own = !field && child.kind == Node::Kind::Member && !isMember(child, MemberKind::Choice);
     grid->addWidget(field ? sized(child) : build(child), line, at + 1, 1, span * 3 - 2,
                     own ? Qt::AlignLeft : Qt::Alignment());
+    groupTitle_ = outer;
   }
   for (int pair = 0; pair < node.columns; ++pair) {
     grid->setColumnStretch(pair * 3 + 1, 1);

@@ -131,6 +131,7 @@ ArrearsFrame::ArrearsFrame(kit::Screen& screen, kit::Desk& desk)
       back(screen, "arrears_back", "返回", "arrow-left"),
       desk_(desk) {
   list.setTip("双击查看交费统计信息");
+  list.dueBy = "bjrq";
   due.setTip("单击查看全校到期应交欠费记录");
   back.setTip("单击返回");
 }
@@ -138,6 +139,7 @@ ArrearsFrame::ArrearsFrame(kit::Screen& screen, kit::Desk& desk)
 void ArrearsFrame::show(const std::string& xh) {
   clear();
   list.setWhenEmpty("该生没有欠费");
+  list.today = desk_.clock.today();
   RecordSet owed(desk_.store,
                  Sql("select * from qfjl where xh='") + xh + "' and bjje-sbjje>0 and clfs<>'减免' order by bjrq");
   store::forEach(owed, [&](RecordSet& row) { addRow(row, balanceOf(row)); });
@@ -149,7 +151,7 @@ void ArrearsFrame::showDue() {
   holdsDue_ = true;
   frame.setTitle("今日到期应交欠费信息");
   school::loadReminderDays(desk_);
-  const base::Date today = desk_.clock.today();
+  const base::Date today = list.today = desk_.clock.today();
   RecordSet open(desk_.store, "select * from qfjl where  bjje-sbjje>0 and clfs<>'减免' order by bjrq");
   base::Money total;
   for (; !open.atEnd(); open.next()) {

@@ -43,14 +43,14 @@ const OverviewPlan studentsPlan{
      [](store::Store& store, base::Date) { return studentStatistics(store); },
      "双击查看班级明细记录",
      {{"班级名称", "", Format::Text, 14},
-      {"在校总人数", "", Format::Text, 6},
-      {"男生人数", "", Format::Text, 6},
-      {"女生人数", "", Format::Text, 6}},
+      {"在校总人数", "", Format::Number, 6},
+      {"男生人数", "", Format::Number, 6},
+      {"女生人数", "", Format::Number, 6}},
      "",
      {{"专业名称", "", Format::Text, 14},
-      {"在校总人数", "", Format::Text, 6},
-      {"男生人数", "", Format::Text, 6},
-      {"女生人数", "", Format::Text, 6}}},
+      {"在校总人数", "", Format::Number, 6},
+      {"男生人数", "", Format::Number, 6},
+      {"女生人数", "", Format::Number, 6}}},
     {}};
 
 const OverviewPlan paymentsPlan{kit::Panel::Payments,
@@ -124,14 +124,14 @@ const OverviewPlan arrearsPlan{
     {"正在统计相关欠费记录,请稍等 ...",
      &arrearsStatistics,
      "双击显示明细记录",
-     {{"班级名称", "", Format::Text, 12}, {"欠费人数", "", Format::Text, 5}, {"欠费余额", "", Format::Padded, 7}},
+     {{"班级名称", "", Format::Text, 12}, {"欠费人数", "", Format::Number, 5}, {"欠费余额", "", Format::Padded, 7}},
      "双击显示明细记录",
      {{"班级名称", "", Format::Text, 10},
       {"本月应收", "", Format::Padded, 6},
       {"已收回", "", Format::Padded, 6},
       {"减免", "", Format::Padded, 6},
       {"尚欠", "", Format::Padded, 6},
-      {"收回比例", "", Format::Text, 4}}},
+      {"收回比例", "", Format::Number, 4}}},
     {{"sum_bjje", "拟补交总额"}, {"sum_sbjje", "实补交总额"}, {"sum_waived", "减免总额"}}};
 
 StatisticsBar::StatisticsBar(kit::Screen& screen, const std::string& overview, const StatisticsPlan& what)

@@ -3,7 +3,6 @@
 namespace staff {
 
 Formjs2::Formjs2(kit::Desk& all) : Screen(all, "Formjs2", "教师档案信息查询设置") {
-  jsxm.names = true;
   for (kit::Field* field : fields_)
     field->offers(store::Sql("select ") + store::Sql::column(field->name) + " from js group by " +
                       store::Sql::column(field->name),

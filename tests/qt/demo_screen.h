@@ -23,7 +23,7 @@ class DemoScreen : public kit::Screen {
   kit::List rows_shown{*this,
                        "rows_shown",
                        {{" 学号 ", "", kit::Format::Text, 5},
-                        {"姓名", "", kit::Format::Text, 5},
+                        {"姓名", "xm", kit::Format::Text, 5},
                         {"收费项目", "", kit::Format::Text, 8},
                         {"金额", "", kit::Format::Money, 6}}};
   kit::Tree tree{*this, "tree"};

@@ -223,6 +223,18 @@ TEST_F(RendererTest, aHeadingSortsUpDownAndBack) {
   EXPECT_EQ(first(0), "1001") << "other rows first appear in their own order";
 }
 
+TEST_F(RendererTest, aDayThatHasGoneByStandsOut) {
+  screen.rows_shown.dueBy = screen.rows_shown.columns()[1].column;
+  screen.rows_shown.today = {2026, 9, 7};
+  screen.rows_shown.clear();
+  for (const char* day : {"2026-9-6", "2026-9-7", "2026-10-1", ""}) screen.rows_shown.addRow({"2026-9-1", day, "", ""});
+  support::settle();
+  const auto* model = find<QTableView>("rows_shown").model();
+  for (int row = 0; row < 4; ++row)
+    for (int column : {0, 1})
+      EXPECT_EQ(model->index(row, column).data(Qt::ForegroundRole).isValid(), row == 0 && column == 1) << row;
+}
+
 TEST_F(RendererTest, chosenRowsAreCopiedAsText) {
   auto& view = find<QTableView>("rows_shown");
   focus("rows_shown");

@@ -89,7 +89,7 @@ TEST(Prints, EveryListFillsWhatItsReportShows) {
     if (plan.object)
       desk.asked(std::string("要打印") + plan.object + "吗？请确认打印机连接正常、打印纸准备就绪！" +
                  (plan.asksFirst ? "" : " "));
-    printList(desk.desk, plan.print, " where xh='1001'");
+    printList(desk.desk, plan.print, store::Sql(" where ") + store::Sql::column(full.front().first) + "='1001'");
     const Report& report = reportNamed(plan.report);
     EXPECT_EQ(desk.lastTitle(), report.title);
     store::RecordSet printed(desk.store, store::Sql::table(report.table));

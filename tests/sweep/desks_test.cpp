@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include "base/text.h"
@@ -169,6 +170,40 @@ TEST_P(EveryRecordDesk, EmptiesWhatItNamesAfterTwoQuestions) {
     for (const std::string& table : emptied) EXPECT_FALSE(kept.contains(table)) << table;
     listIsWhatTheStatementFinds(desk);
   }
+}
+
+// The tests above hold a desk to its own plan; here the plans are held to what the office agreed on: who may do what,
+// by the number of the right, and what is said when there is no row to do it to.
+TEST_P(EveryRecordDesk, GrantsAndSaysWhatWasAgreedOn) {
+  const std::string edits = "add|modify 不存在需要修改的记录！  |remove 不存在需要删除的记录！  ";
+  const std::map<std::string, std::string> agreed{
+      {"xxfk",
+       "add|resume[40] 不存在需要复课的休学记录！  |remove[41] 不存在需要删除的记录！  "
+       "|query[43]|print[43]|toSheet[43]|"
+       "clearAll[42] 不存在需要清空的记录！  "},
+      {"js",
+       "add[32]|modify[33] 不存在需要修改的记录！  |remove[3] 不存在需要删除的记录！  |query[38]|print[38]|toSheet[38]|"
+       "clearAll[35] 不存在需要清空的记录！  "},
+      {"yhxx", edits},
+      {"zymcb", edits},
+      {"bjzl", edits},
+      {"sfxmb", edits},
+      {"sfbzb", edits},
+      {"sfbzbrxxs", edits},
+      {"cjsz", edits},
+      {"rxxs", edits}};
+  auto [screen, desk] = open(world.desk);
+  std::string found;
+  const auto tell = [&](const std::string& name, const std::vector<int>& anyOf, const std::string& none) {
+    found += (found.empty() ? "" : "|") + name;
+    for (const int right : anyOf) found += "[" + std::to_string(right) + "]";
+    if (!none.empty()) found += " " + none;
+  };
+  for (const kit::RowButton& one : desk.plan.buttons) tell(one.name, one.anyOf, one.none);
+  if (desk.query) tell("query", desk.plan.queryBy, "");
+  for (const kit::ListButton& one : desk.plan.others) tell(one.name, one.anyOf, "");
+  if (desk.plan.emptying) tell("clearAll", desk.plan.emptying->anyOf, desk.plan.emptying->none);
+  EXPECT_EQ(found, agreed.at(desk.plan.table));
 }
 
 std::vector<std::pair<app::Entry, std::size_t>> everyDesk() {

@@ -5,7 +5,6 @@
 #include "arrears/arrears_entry.h"
 #include "collection/fee_window.h"
 #include "feesetup/setup.h"
-#include "kit/at_exit.h"
 #include "shell/console.h"
 #include "sweep/world.h"
 

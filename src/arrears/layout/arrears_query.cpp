@@ -11,8 +11,7 @@ Nodes question(QuestionFields& fields) { return {fields.bjmc, fields.xq, fields.
 }  // namespace
 
 Layout Formqfcl11::layout() {
-  const Node own = column(
-      {form({xq, bjmc, xh, xm, sfxm, clfs}, 2), row({qfrq.node(), bjrq.node()}), row({sbjrq.node(), stretch()})});
+  const Node own = form({xq, bjmc, xh, xm, sfxm, clfs, qfrq.node(), bjrq.node(), sbjrq.node()}, 2);
   Nodes comparison = question(compared);
   comparison.push_back(due);
   return {.root = column(

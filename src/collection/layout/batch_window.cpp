@@ -4,19 +4,10 @@ namespace collection {
 
 kit::Layout Formzctsf7::layout() {
   using namespace kit;
-  constexpr std::size_t across = 5;
-  Nodes grid;
-  for (std::size_t first = 0; first < cells.size(); first += across) {
-    Nodes line;
-    for (std::size_t index = first; index < first + across && index < cells.size(); ++index) {
-      line.push_back(wide(cells[index].tick, 6));
-      line.push_back(wide(cells[index].je, 4));
-    }
-    grid.push_back(row(std::move(line)));
-  }
+  const auto cell = [](auto& one) { return Nodes{wide(one.tick, 6), wide(one.je, 4)}; };
   return {.root = column({
               row({column({form({wide(sfxm, 9), wide(xq, 9), wide(jfrq, 9), wide(standard, 9)}), classes, tickAll}),
-                   group(students, {lines({}, std::move(grid))})}),
+                   group(students, {lines({}, tiled(cells, 5, cell))})}),
               buttons({wide(summary, 13), wide(person, 9), confirm, back}),
           }),
           .confirm = &confirm,

@@ -4,16 +4,9 @@ namespace students {
 
 kit::Layout Formtb::layout() {
   using namespace kit;
-  constexpr std::size_t across = 6;
-  Nodes grid;
-  for (std::size_t first = 0; first < boxes.size(); first += across) {
-    Nodes line;
-    for (std::size_t index = first; index < first + across; ++index) line.push_back(wide(boxes[index], 8));
-    grid.push_back(row(std::move(line)));
-  }
   return {.root = column({
               form({wide(fromClass, 16), wide(toClass, 16), wide(zymc, 16), wide(xtbh, 16)}, 2),
-              group(students, {lines({}, std::move(grid))}),
+              group(students, {lines({}, tiled(boxes, 6, [](auto& box) { return Nodes{wide(box, 8)}; })), stretch()}),
               buttons({tickAll, confirm, back}),
           }),
           .confirm = &confirm,

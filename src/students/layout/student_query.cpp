@@ -6,7 +6,7 @@ using namespace kit;
 
 Layout Formzctxscx1::layout() {
   const Node conditions =
-      column({form({zymc, bjmc, xh, xm, xb, mz, zzmm, rxxs, spanning(byxx, 2)}, 2), row({csrq.node(), rxrq.node()})});
+      form({zymc, bjmc, xh, xm, xb, mz, zzmm, rxxs, spanning(byxx, 2), csrq.node(), rxrq.node()}, 2);
   return {.root = column({queryNode(conditions), buttons({single, clearAll, confirm, cancel})}),
           .confirm = &confirm,
           .cancel = &cancel,
