@@ -202,8 +202,8 @@ Statistics paymentStatistics(store::Store& store) {
 Statistics arrearsStatistics(store::Store& store, base::Date today) {
   Statistics result;
   Groups<OfClass> groups;
-  RecordSet arrears(store, Sql("select bjmc,xh,bjje,sbjje,clfs,bjrq from qfjl where sbjje<bjje and clfs<>'减免' or ") +
-                               "month(bjrq)='" + std::to_string(today.month) + "'");
+  RecordSet arrears(store, Sql("select bjmc,xh,bjje,sbjje,clfs,bjrq from qfjl where sbjje<bjje or ") +
+                               "month(bjrq)=" + std::to_string(today.month));
   store::forEach(arrears, [&](RecordSet& row) {
     const Money due = row.money("bjje"), paid = row.money("sbjje");
     const std::string_view state = row.text("clfs");
