@@ -282,6 +282,32 @@ Steps lookAtTheSchool(const People& people) {
           {"Formzct/class_strip", "休学状态", [](QWidget&) {}}};
 }
 
+// A teacher's file is looked up, changed and printed with the others.
+Steps lookAtTheTeachers() {
+  return {{"Formzct", "教师档案", [](QWidget& w) { menu(w, "cd73"); }},
+          {"Formjs", "教师名单",
+           [](QWidget& w) {
+             chooseRow(w, "teachers", 1);
+             press(w, "modify");
+           }},
+          {"Formjs1", "教师档案编辑",
+           [](QWidget& w) {
+             type(w, "zw", "教务主任");
+             press(w, "confirm");
+           }},
+          said("记录修改成功"),
+          {"Formjs", "教师查询前", [](QWidget& w) { press(w, "query"); }},
+          {"Formjs2", "教师查询",
+           [](QWidget& w) {
+             pick(w, "zw", "教务主任");
+             press(w, "confirm");
+           }},
+          {"Formjs", "教师查询结果", [](QWidget& w) { press(w, "print"); }},
+          said("要打印教师档案资料吗"),
+          {"preview", "教师报表预览", [](QWidget& w) { press(w, "close"); }},
+          {"Formjs", "教师返回", [](QWidget& w) { press(w, "back"); }}};
+}
+
 // A class hands its money in through its teacher; one of its students then moves to another class.
 Steps collectAClass(const People& people) {
   return {{"Formzct", "集中收费", [](QWidget& w) { menu(w, "k20"); }},
@@ -353,8 +379,9 @@ bool playDay(const std::filesystem::path& folder, const std::filesystem::path& p
     paymentsBefore = before.count("select * from jfjl");
   }
   Steps steps = logIn("王芳");
-  for (const Steps& more : {lookAround(), payShort(people), followUp(people), correct(), submit(people),
-                            askQuestions(people), lookAtTheSchool(people), collectAClass(people), leave()})
+  for (const Steps& more :
+       {lookAround(), payShort(people), followUp(people), correct(), submit(people), askQuestions(people),
+        lookAtTheSchool(people), lookAtTheTeachers(), collectAClass(people), leave()})
     append(steps, more);
   Player day(steps, pictures, numbered);
   app::Office({folder}).run();

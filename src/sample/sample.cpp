@@ -7,6 +7,7 @@
 #include "sample/ledger.h"
 #include "sample/people.h"
 #include "sample/portrait.h"
+#include "sample/teachers.h"
 #include "store/bulk_load.h"
 #include "store/record_set.h"
 #include "upkeep/users.h"
@@ -95,8 +96,6 @@ class Writer {
       add(majors, {{"id", ++id}, {"zybh", major.code}, {"zymc", major.name}, {"bsh", bsh}});
     }
     RecordSet classes(store_, Sql("select * from bjzl"));
-    RecordSet teachers(store_, Sql("select * from js"));
-    int number = 1000;
     for (const SchoolClass& one : school_.classes) {
       const Major& major = school_.majorOf(one);
       add(classes, {{"zybh", major.code},
@@ -105,12 +104,9 @@ class Writer {
                     {"bjmc", one.name},
                     {"jsxm", one.teacher},
                     {"bsh", summer(one.year).plain()}});
-      add(teachers, {{"gh", std::to_string(++number)},
-                     {"jsxm", one.teacher},
-                     {"zymc", major.name},
-                     {"zw", "班主任"},
-                     {"bsh", bsh}});
     }
+    Random chance = random_;  // a copy: what is made after the teachers does not depend on them
+    writeTeachers(store_, chance, school_, today_, bsh);
     RecordSet items(store_, Sql("select * from sfxmb"));
     for (const FeeItem& item : feeItems) add(items, {{"sfxmbh", item.code}, {"sfxmmc", item.name}, {"bsh", bsh}});
     RecordSet forms(store_, Sql("select * from rxxs"));
